@@ -1,0 +1,23 @@
+# Compiler flags: what the ABI and the instruction level fix for every target, and what our own targets add.
+
+# Dependencies are built here too, so these go to the whole tree: mixing levels or floating-point units in one
+# program would change results in the tests.
+set(TARNS_LEVEL_FLAGS -msse3)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # 32-bit callers may enter with a stack aligned to 4 bytes only. Single and double precision belong on the SSE
+    # unit, whose every operation rounds once; long double stays the 80-bit format.
+    list(APPEND TARNS_LEVEL_FLAGS -march=i686 -mtune=generic -mfpmath=sse -mstackrealign)
+endif()
+add_compile_options(${TARNS_LEVEL_FLAGS})
+
+if(TARNS_SANITIZE)
+    add_compile_options(-fsanitize=${TARNS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${TARNS_SANITIZE})
+endif()
+
+# Results are defined to the bit: no target may contract a*b+c.
+add_library(tarns_flags INTERFACE)
+target_compile_options(tarns_flags INTERFACE -ffp-contract=off -Wall -Wextra $<$<COMPILE_LANGUAGE:CXX>:-Wconversion>)
+if(TARNS_WARNINGS_AS_ERRORS)
+    target_compile_options(tarns_flags INTERFACE -Werror)
+endif()

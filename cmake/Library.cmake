@@ -1,0 +1,29 @@
+# The shared library itself.
+file(GLOB TARNS_SOURCES CONFIGURE_DEPENDS
+    ${PROJECT_SOURCE_DIR}/core/*.cpp ${PROJECT_SOURCE_DIR}/src/*.cpp ${PROJECT_SOURCE_DIR}/src/levels/*.cpp)
+
+add_library(tarns SHARED ${TARNS_SOURCES})
+add_library(tarns::tarns ALIAS tarns)
+
+# The level is part of the name, so that builds for other levels can be installed side by side.
+set_target_properties(tarns PROPERTIES
+    OUTPUT_NAME tarnst7
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON)
+target_include_directories(tarns
+    PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
+    PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR})
+
+# Kernels are vectorised by hand; the compiler's own vectoriser would only bloat their scalar heads and tails, and its
+# loop patterns would turn the movers into calls of memcpy. Nothing reads errno, so roots may be single instructions.
+target_compile_options(tarns PRIVATE
+    $<$<NOT:$<BOOL:${TARNS_SANITIZE}>>:-O3>
+    -fno-tree-vectorize -fno-tree-slp-vectorize -fno-tree-loop-distribute-patterns
+    -fno-math-errno -fno-exceptions -fno-rtti -fno-semantic-interposition)
+if(TARNS_SANITIZE MATCHES "undefined")
+    target_compile_options(tarns PRIVATE -fno-sanitize=vptr) # needs run-time type information
+endif()
+target_link_options(tarns PRIVATE -Wl,-Bsymbolic-functions -Wl,-z,defs -Wl,--as-needed)
+
+find_package(OpenMP REQUIRED COMPONENTS CXX)
+target_link_libraries(tarns PRIVATE $<BUILD_INTERFACE:tarns_flags> $<BUILD_INTERFACE:OpenMP::OpenMP_CXX>)
