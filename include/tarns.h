@@ -1,0 +1,8 @@
+/* The whole signal domain: the core and one header a subsystem. */
+#ifndef TARNS_H
+#define TARNS_H
+
+#include "tarncore.h"
+#include "tarns/memory.h"
+
+#endif

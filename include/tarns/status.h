@@ -1,0 +1,219 @@
+/* Status codes of the whole family of domains: 0 is success, negative values are errors, positive ones
+   warnings. The table is shared with the sister domains (image, video, audio coding, cryptography), so that
+   tarnGetStatusString() knows a code from any of them. */
+#ifndef TARNS_STATUS_H
+#define TARNS_STATUS_H
+
+/** Result of every call that can fail: 0 on success; negative when nothing useful was computed and the destination
+    is untouched; positive when the call ran to its end with a defined result that deserves attention. */
+typedef int TarnStatus;
+
+/** The status codes. The text beside each is what tarnGetStatusString() gives for it. */
+enum {
+    tarnStsModeNotSupportedErr = -9999,    /**< The requested mode is currently not supported */
+    tarnStsCpuNotSupportedErr = -9998,     /**< The target cpu is not supported */
+    tarnStsEccBadEphemeralKeyErr = -178,   /**< ECC: Bad ephemeral key */
+    tarnStsEccBadDigestErr = -177,         /**< ECC: Bad message digest */
+    tarnStsEccInvalidShareKeyErr = -176,   /**< ECC: Invalid share key */
+    tarnStsEccInvalidPublicKeyErr = -175,  /**< ECC: Invalid public key */
+    tarnStsEccInvalidPrivateKeyErr = -174, /**< ECC: Invalid private key */
+    tarnStsEccPointOutOfCurveErr = -173,   /**< ECC: Point out of EC */
+    tarnStsEccInvalidFlagErr = -172,       /**< ECC: Invalid Flag */
+    tarnStsMP3FrameHeaderErr = -171,       /**< Error in fields TarnMP3FrameHeader structure */
+    tarnStsMP3SideInfoErr = -170,          /**< Error in fields TarnMP3SideInfo structure */
+    tarnStsBlockStepErr = -169,            /**< Step for Block less than 8 */
+    tarnStsMBStepErr = -168,               /**< Step for MB less than 16 */
+    tarnStsAacElementCountErr = -167,      /**< AAC: Invalid number of elements for one program */
+    tarnStsAacSectionCodebookErr = -166,   /**< AAC: Invalid section codebook */
+    tarnStsAacScalefactorErr = -164,       /**< AAC: Invalid scalefactor value */
+    tarnStsAacQuantCoefErr = -163,         /**< AAC: Invalid quantized coefficient value */
+    tarnStsAacCoefIndexErr = -162,         /**< AAC: Invalid coefficient index */
+    tarnStsAacPredCoefIndexErr = -161,     /**< AAC: Invalid predicted coefficient index */
+    tarnStsAacPulseDataErr = -160,         /**< AAC: Invalid pulse data attributes */
+    tarnStsAacGainControlErr = -159,       /**< AAC: Gain control not supported */
+    tarnStsAacSectionCountErr = -158,      /**< AAC: Invalid number of sections */
+    tarnStsAacTnsFilterCountErr = -157,    /**< AAC: Invalid number of TNS filters */
+    tarnStsAacTnsRegionLenErr = -156,      /**< AAC: Invalid TNS region length */
+    tarnStsAacTnsOrderErr = -155,          /**< AAC: Invalid order of TNS filter */
+    tarnStsAacTnsResolutionErr = -154,     /**< AAC: Invalid bit-resolution for TNS filter coefficients */
+    tarnStsAacTnsCoefErr = -153,           /**< AAC: Invalid TNS filter coefficients */
+    tarnStsAacTnsDirectionErr = -152,      /**< AAC: Invalid TNS filter direction */
+    tarnStsAacTnsProfileErr = -151,        /**< AAC: Invalid TNS profile */
+    tarnStsAacInternalErr = -150,          /**< AAC: Internal error */
+    tarnStsAacBitOffsetErr = -149,         /**< AAC: Invalid current bit offset in bitstream */
+    tarnStsAacAdtsSyncwordErr = -148,      /**< AAC: Invalid ADTS syncword */
+    tarnStsAacSampleRateIndexErr = -147,   /**< AAC: Invalid sample rate index */
+    tarnStsAacWindowLenErr = -146,         /**< AAC: Invalid window length (not short or long) */
+    tarnStsAacGroupCountErr = -145,        /**< AAC: Invalid number of groups for current window length */
+    tarnStsAacWindowSequenceErr = -144,    /**< AAC: Invalid window sequence range */
+    tarnStsAacCommonWindowErr = -143,      /**< AAC: Invalid common window flag */
+    tarnStsAacStereoMaskErr = -142,        /**< AAC: Invalid stereo mask */
+    tarnStsAacChannelNumberErr = -141,     /**< AAC: Invalid channel number */
+    tarnStsAacMonoStereoFlagErr = -140,    /**< AAC: Invalid mono-stereo flag */
+    tarnStsAacStereoLayerFlagErr = -139,   /**< AAC: Invalid this Stereo Layer flag */
+    tarnStsAacMonoLayerFlagErr = -138,     /**< AAC: Invalid this Mono Layer flag */
+    tarnStsAacScalableFlagErr = -137,      /**< AAC: Invalid scalable object flag */
+    tarnStsAacObjectTypeErr = -136,        /**< AAC: Invalid audio object type */
+    tarnStsAacWindowShapeErr = -135,       /**< AAC: Invalid window shape */
+    tarnStsAacPcmInterleaveErr = -134,     /**< AAC: Invalid PCM output interleaving indicator */
+    tarnStsVlcTableHeaderErr = -133,       /**< VLC: Invalid header inside table */
+    tarnStsVlcTableFormatErr = -132,       /**< VLC: Unsupported table format */
+    tarnStsVlcEscAlgorithmErr = -131,      /**< VLC: Unsupported Ecs-algorithm */
+    tarnStsVlcEscLengthErr = -130,         /**< VLC: Incorrect Esc-code length inside table header */
+    tarnStsVlcCodeLengthErr = -129,        /**< VLC: Unsupported code length inside table */
+    tarnStsVlcInternalTableErr = -128,     /**< VLC: Invalid internal table */
+    tarnStsVlcInputDataErr = -127,         /**< VLC: Invalid input data */
+    tarnStsVlcAacEscLengthErr = -126,      /**< VLC: Invalid AAC-Esc code length */
+    tarnStsWienerNoiseErr = -125,          /**< Noise value for Wiener Filter is out range. */
+    tarnStsDataUnderrunErr = -124,         /**< Data under run error */
+    tarnStsPaddingDetectedErr = -123,      /**< Detected padding error shows the possible data corruption */
+    tarnStsCfbBlockSizeErr = -122,         /**< Wrong value for crypto CFB block size */
+    tarnStsPaddingSchemeErr = -121,        /**< Invalid padding scheme */
+    tarnStsCompromisedKeyErr = -120,    /**< A compromised key causes suspansion of requested cryptographic operation */
+    tarnStsStringLenErr = -119,         /**< Wrong value of string length */
+    tarnStsBadModulusErr = -118,        /**< Bad modulus caused a module inversion failure */
+    tarnStsLinearPredictionErr = -117,  /**< Linear prediction could not be evaluated */
+    tarnStsReflectionCoefErr = -116,    /**< Reflection coefficients could not be computed */
+    tarnStsLspValuesErr = -115,         /**< Incorrect Linear Spectral Pair values */
+    tarnStsNoRootsErr = -114,           /**< No roots are found for equation */
+    tarnStsPassNumberErr = -113,        /**< Pass number exceeds allowed limits [0,nOfPasses-1] */
+    tarnStsCodeblockDamagedErr = -112,  /**< Codeblock for decoding is damaged */
+    tarnStsCbpyCodeErr = -111,          /**< Illegal Huffman code during CBPY stream processing */
+    tarnStsMcbpcInterCodeErr = -110,    /**< Illegal Huffman code during MCBPC Inter stream processing */
+    tarnStsMcbpcIntraCodeErr = -109,    /**< Illegal Huffman code during MCBPC Intra stream processing */
+    tarnStsStepPixelMultipleErr = -108, /**< Step value is not pixel multiple */
+    tarnStsHistogramLevelsErr = -107,   /**< Number of levels for histogram is less than 2 */
+    tarnStsLutLevelsErr = -106,         /**< Number of levels for LUT is less than 2 */
+    tarnStsBitOffsetErr = -105,         /**< Incorrect bit offset value */
+    tarnStsQuantParamErr = -104,        /**< Incorrect quantization parameter */
+    tarnStsBlockIndexErr = -103,        /**< Incorrect block index */
+    tarnStsBlockTypeErr = -102,         /**< Incorrect block type */
+    tarnStsMvStreamCodeErr = -101,      /**< Illegal Huffman code during MV stream processing */
+    tarnStsVlcStreamCodeErr = -100,     /**< Illegal Huffman code during VLC stream processing */
+    tarnStsDcStreamCodeErr = -99,       /**< Illegal code during DC stream processing */
+    tarnStsFcodeErr = -98,              /**< Incorrect fcode value */
+    tarnStsBufferAlignErr = -97,        /**< Incorrect buffer alignment */
+    tarnStsTemporalDiffErr = -96,       /**< Incorrect temporal difference */
+    tarnStsBlockSizeErr = -95,          /**< Incorrect size of block or macroblock */
+    tarnStsZeroBabErr = -94,            /**< All BAB values are zero */
+    tarnStsPredictionDirErr = -93,      /**< Incorrect prediction direction */
+    tarnStsBitsPerPixelErr = -92,       /**< Incorrect number of bits per pixel */
+    tarnStsVideoComponentErr = -91,     /**< Incorrect video component mode */
+    tarnStsDcLinearModeErr = -90,       /**< Incorrect DC linear mode */
+    tarnStsPredictionModeErr = -83,     /**< Prediction Mode value error */
+    tarnStsStepBelow8Err = -82,         /**< Step value is less than 8 */
+    tarnStsStepBelow16Err = -81,        /**< Step value is less than 16 */
+    tarnStsFrameWidthErr = -80,         /**< Frame width is less then 8 */
+    tarnStsFrameHeightErr = -79,        /**< Frame height is less than or equal to zero */
+    tarnStsExpandPixelsErr = -78,       /**< Expand pixels number is less than 8 */
+    tarnStsPlaneStepErr = -77,          /**< Step value is less than the plane width */
+    tarnStsQuantizerErr = -76,          /**< Quantizer value is less than or equal to zero, or greater than 31 */
+    tarnStsMvHuffmanErr = -75,          /**< Illegal Huffman code during MV stream processing */
+    tarnStsVlcHuffmanErr = -74,         /**< Illegal Huffman code during VLC stream processing */
+    tarnStsDcHuffmanErr = -73,          /**< Illegal code during DC stream processing */
+    tarnStsZigzagLenErr = -72,          /**< Zigzag compact length is more than 64 */
+    tarnStsFilterBankFreqErr = -71,     /**< Incorrect value of the filter bank frequency parameter */
+    tarnStsFilterBankParamErr = -70,    /**< Incorrect value of the filter bank parameter */
+    tarnStsFilterBankInitErr = -69,     /**< Filter bank is not correctly initialized */
+    tarnStsNegOccupationErr = -67,      /**< Negative occupation count */
+    tarnStsCodebookFlagErr = -66,       /**< Incorrect value of the codebook flag parameter */
+    tarnStsSvdConvergenceErr = -65,     /**< No convergence of SVD algorithm */
+    tarnStsJpegHuffmanTableErr = -64,   /**< JPEG Huffman table is destroyed */
+    tarnStsJpegDctRangeErr = -63,       /**< JPEG DCT coefficient is out of the range */
+    tarnStsOutOfBufferErr = -62,        /**< Attempt to access out of the buffer */
+    tarnStsDrawTextErr = -61,           /**< System error in the draw text operation */
+    tarnStsChannelOrderErr = -60,       /**< Wrong order of the destination channels */
+    tarnStsZeroMaskErr = -59,           /**< All values of the mask are zero */
+    tarnStsDegenerateQuadErr = -58,     /**< The quadrangle degenerates into triangle, line or point */
+    tarnStsRectSizeErr = -57,           /**< Size of the rectangle region is less than or equal to 1 */
+    tarnStsTransformCoefErr = -56,      /**< Unallowable values of the transformation coefficients */
+    tarnStsDitherNoiseErr = -55,        /**< Bad value of noise amplitude for dithering */
+    tarnStsDitherLevelsErr = -54,       /**< Number of dithering levels is out of range */
+    tarnStsChannelCountErr = -53,       /**< Bad or unsupported number of channels */
+    tarnStsCoiRangeErr = -52,           /**< COI is out of range */
+    tarnStsDivisorErr = -51,            /**< Divisor is equal to zero, function is aborted */
+    tarnStsCompositingTypeErr = -50,    /**< Illegal type of image compositing operation */
+    tarnStsGammaRangeErr = -49,         /**< Gamma range bounds is less than or equal to zero */
+    tarnStsConversionCoefSumErr = -48,  /**< Sum of the conversion coefficients must be less than or equal to 1 */
+    tarnStsChannelNumberErr = -47,      /**< Illegal channel number */
+    tarnStsToneMagnErr = -46,           /**< Tone magnitude is less than or equal to zero */
+    tarnStsToneFreqErr = -45,           /**< Tone frequency is negative, or greater than or equal to 0.5 */
+    tarnStsTonePhaseErr = -44,          /**< Tone phase is negative, or greater than or equal to 2*PI */
+    tarnStsTrnglMagnErr = -43,          /**< Triangle magnitude is less than or equal to zero */
+    tarnStsTrnglFreqErr = -42,          /**< Triangle frequency is negative, or greater than or equal to 0.5 */
+    tarnStsTrnglPhaseErr = -41,         /**< Triangle phase is negative, or greater than or equal to 2*PI */
+    tarnStsTrnglAsymErr = -40,          /**< Triangle asymmetry is less than -PI, or greater than or equal to PI */
+    tarnStsKaiserHugeErr = -39,         /**< Kaiser window is too huge */
+    tarnStsMagnitudeErr = -38,          /**< Magnitude value is negative */
+    tarnStsStrideErr = -37,             /**< Stride value is less than the row length */
+    tarnStsEpsValErr = -36,             /**< Negative epsilon value error */
+    tarnStsWtOffsetErr = -35,           /**< Invalid offset value of wavelet filter */
+    tarnStsAnchorErr = -34,             /**< Anchor point is outside the mask */
+    tarnStsMaskSizeErr = -33,           /**< Invalid mask size */
+    tarnStsShiftErr = -32,              /**< Shift value is less than zero */
+    tarnStsSampleFactorErr = -31,       /**< Sampling factor is less than or equal to zero */
+    tarnStsSamplePhaseErr = -30,        /**< Phase value is out of range: 0 <= phase < factor */
+    tarnStsFIRMRFactorErr = -29,        /**< MR FIR sampling factor is less than or equal to zero */
+    tarnStsFIRMRPhaseErr =
+        -28,                  /**< MR FIR sampling phase is negative, or greater than or equal to the sampling factor */
+    tarnStsRelFreqErr = -27,  /**< Relative frequency value is out of range */
+    tarnStsFIRLenErr = -26,   /**< Length of a FIR filter is less than or equal to zero */
+    tarnStsIIROrderErr = -25, /**< Order of an IIR filter is less than or equal to zero */
+    tarnStsDlyLineIndexErr = -24,   /**< Invalid value of the delay line sample index */
+    tarnStsResizeFactorErr = -23,   /**< Resize factor(s) is less than or equal to zero */
+    tarnStsInterpolationErr = -22,  /**< Invalid interpolation mode */
+    tarnStsFlipModeErr = -21,       /**< Invalid flip mode */
+    tarnStsMomentZeroErr = -20,     /**< Moment value M(0,0) is too small to continue calculations */
+    tarnStsThreshNegLevelErr = -19, /**< Negative value of the level in the threshold operation */
+    tarnStsThresholdErr = -18,      /**< Invalid threshold bounds */
+    tarnStsContextMatchErr = -17,   /**< Context parameter doesn't match the operation */
+    tarnStsFftFlagErr = -16,        /**< Invalid value of the FFT flag parameter */
+    tarnStsFftOrderErr = -15,       /**< Invalid value of the FFT order parameter */
+    tarnStsStepErr = -14,           /**< Step value is less than or equal to zero */
+    tarnStsScaleRangeErr = -13,     /**< Scale bounds are out of the range */
+    tarnStsDataTypeErr = -12,       /**< Bad or unsupported data type */
+    tarnStsOutOfRangeErr = -11,     /**< Argument is out of range or point is outside the image */
+    tarnStsDivByZeroErr = -10,      /**< An attempt to divide by zero */
+    tarnStsNoMemErr = -9,           /**< Not enough memory allocated for the operation */
+    tarnStsNullPtrErr = -8,         /**< Null pointer error */
+    tarnStsBoundsErr = -7,          /**< Bad values of bounds: the lower bound is greater than the upper bound */
+    tarnStsSizeErr = -6,            /**< Wrong value of data size */
+    tarnStsBadArgErr = -5,          /**< Function arg/param is bad */
+    tarnStsMemAllocErr = -4,        /**< Not enough memory for the operation */
+    tarnStsErr = -2,                /**< Unknown/unspecified error */
+    tarnStsNoErr = 0,               /**< No error, it's OK */
+    tarnStsNoOperation = 1,         /**< No operation has been executed */
+    tarnStsMisalignedBuf = 2,       /**< Misaligned pointer in operation in which it must be aligned */
+    tarnStsSqrtNegArg = 3,          /**< Negative value(s) of the argument in the function Sqrt */
+    tarnStsInvZero = 4,             /**< INF result. Zero value was met by InvThresh with zero level */
+    tarnStsEvenMedianMaskSize = 5,  /**< Even size of the Median Filter mask was replaced by the odd one */
+    tarnStsDivByZero = 6,           /**< Zero value(s) of the divisor in the function Div */
+    tarnStsLnZeroArg = 7,           /**< Zero value(s) of the argument in the function Ln */
+    tarnStsLnNegArg = 8,            /**< Negative value(s) of the argument in the function Ln */
+    tarnStsNanArg = 9,              /**< Not a Number argument value warning */
+    tarnStsJpegMarker = 10,         /**< JPEG marker was met in the bitstream */
+    tarnStsFlooredResult = 11,      /**< All result values are floored */
+    tarnStsOverflow = 12,           /**< Overflow occurred in the operation */
+    tarnStsLpStabilityLow =
+        13, /**< Quantized LP syntethis filter stability check is applied at the low boundary of [0,pi] */
+    tarnStsLpStabilityHigh =
+        14, /**< Quantized LP syntethis filter stability check is applied at the high boundary of [0,pi] */
+    tarnStsLpStabilityBoth =
+        15, /**< Quantized LP syntethis filter stability check is applied at both boundaries of [0,pi] */
+    tarnStsZeroOccupation = 16,        /**< Zero occupation count */
+    tarnStsUnderflow = 17,             /**< Underflow occurred in the operation */
+    tarnStsSingularity = 18,           /**< Singularity occurred in the operation */
+    tarnStsDomain = 19,                /**< Argument is out of the function domain */
+    tarnStsCpuNotAuthentic = 20,       /**< The target cpu is not Genuine Lumar */
+    tarnStsCpuLibraryNotSet = 21,      /**< The library for given cpu cannot be set */
+    tarnStsNoLibraryCalls = 22,        /**< Application does not contain TARN functions calls */
+    tarnStsNewestLibraryNotFound = 23, /**< The newest version of TARN dll's not found by dispatcher */
+    tarnStsNoEffectInDynamic = 24,     /**< The function does nothing in the dynamic version of the library */
+    tarnStsInsufficientEntropy = 25,   /**< Insufficient entropy in the random seed and stimulus bit string caused the
+                                          prime/key generation to fail */
+    tarnStsTooManyDstStrings = 26,     /**< Number of destination strings is more than expected */
+    tarnStsDstStringTooLong = 27,      /**< Length of one of the destination strings is more than expected */
+    tarnStsQuadVertexMismatch = 28     /**< 4th vertex of destination quad is not equal to customer's one */
+};
+
+#endif
