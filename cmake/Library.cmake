@@ -17,10 +17,11 @@ target_include_directories(tarns
 # Kernels are vectorised by hand; the compiler's own vectoriser would only bloat their scalar heads and tails, and its
 # loop patterns would turn the movers into calls of memcpy. Nothing reads errno, so roots may be single instructions.
 target_compile_options(tarns PRIVATE
-    $<$<NOT:$<BOOL:${TARNS_SANITIZE}>>:-O3>
     -fno-tree-vectorize -fno-tree-slp-vectorize -fno-tree-loop-distribute-patterns
     -fno-math-errno -fno-exceptions -fno-rtti -fno-semantic-interposition)
-if(TARNS_SANITIZE MATCHES "undefined")
+if(NOT TARNS_SANITIZE)
+    target_compile_options(tarns PRIVATE -O3)
+elseif(TARNS_SANITIZE MATCHES "undefined")
     target_compile_options(tarns PRIVATE -fno-sanitize=vptr) # needs run-time type information
 endif()
 target_link_options(tarns PRIVATE -Wl,-Bsymbolic-functions -Wl,-z,defs -Wl,--as-needed)
