@@ -1,0 +1,18 @@
+# Tests of what a user of the library gets: every header on its own, and an installed copy used from outside.
+set(TARNS_CONSUMER_FLAGS "")
+if(TARNS_SANITIZE)
+    set(TARNS_CONSUMER_FLAGS "-fsanitize=${TARNS_SANITIZE}")
+endif()
+
+add_test(NAME headers_test COMMAND ${CMAKE_COMMAND}
+    -D INCLUDE_DIR=${PROJECT_SOURCE_DIR}/include
+    -D C_COMPILER=${CMAKE_C_COMPILER} -D "C_FLAGS=${CMAKE_C_FLAGS}"
+    -D CXX_COMPILER=${CMAKE_CXX_COMPILER} -D "CXX_FLAGS=${CMAKE_CXX_FLAGS}"
+    -P ${CMAKE_CURRENT_LIST_DIR}/headers_test.cmake)
+
+add_test(NAME consumer_test COMMAND ${CMAKE_COMMAND}
+    -D BUILD_DIR=${PROJECT_BINARY_DIR} -D SOURCE_DIR=${CMAKE_CURRENT_LIST_DIR}/consumer
+    -D WORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/consumer -D LIBDIR=${CMAKE_INSTALL_LIBDIR} -D GENERATOR=${CMAKE_GENERATOR}
+    -D C_COMPILER=${CMAKE_C_COMPILER} -D "C_FLAGS=${CMAKE_C_FLAGS} ${TARNS_CONSUMER_FLAGS}"
+    -D CXX_COMPILER=${CMAKE_CXX_COMPILER} -D "CXX_FLAGS=${CMAKE_CXX_FLAGS} ${TARNS_CONSUMER_FLAGS}"
+    -P ${CMAKE_CURRENT_LIST_DIR}/consumer_test.cmake)

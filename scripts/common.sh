@@ -1,0 +1,25 @@
+# What the scripts share; they source it from their own directory.
+# shellcheck shell=sh
+
+cd "$(dirname "$0")/.."
+jobs=$(nproc)
+
+# configure PRESET [OPTION...]: with a compiler cache if there is one.
+configure()
+{
+    preset=$1
+    shift
+    if command -v ccache >/dev/null; then
+        set -- -DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@"
+    fi
+    cmake --preset "$preset" "$@" >"$(log_of "$preset-configure")" 2>&1 || {
+        cat "$(log_of "$preset-configure")" >&2
+        return 1
+    }
+}
+
+log_of()
+{
+    mkdir -p build/logs
+    echo "build/logs/$1.log"
+}
