@@ -13,8 +13,9 @@ if(TARNS_PEERS_ROOT)
 endif()
 
 add_library(tarns_peers INTERFACE)
+# The peers need libraries of their own from there, which only the old kind of run-time path reaches.
 foreach(directory IN LISTS TARNS_PEERS_LIBRARY_DIRS)
-    target_link_options(tarns_peers INTERFACE -Wl,-rpath,${directory} -Wl,-rpath-link,${directory})
+    target_link_options(tarns_peers INTERFACE -Wl,--disable-new-dtags -Wl,-rpath,${directory} -Wl,-rpath-link,${directory})
 endforeach()
 
 # tarns_find_peer(<NAME> <header> <library>...): all of them or nothing, and only if they link at this width.
