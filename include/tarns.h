@@ -3,6 +3,8 @@
 #define TARNS_H
 
 #include "tarncore.h"
+#include "tarns/arithmetic.h"
+#include "tarns/data.h"
 #include "tarns/memory.h"
 
 #endif

@@ -1,0 +1,60 @@
+// Words that move elements and bytes without changing them.
+#pragma once
+
+#include "frame/simd_int.h"
+
+namespace tarn {
+
+// Leaves everything where it is.
+struct Identity {
+    template <typename X>
+    TARN_INLINE X operator()(X x) const
+    {
+        return x;
+    }
+};
+
+// The elements in opposite order; one element is its own reverse.
+struct Reverse {
+    template <typename T>
+        requires(!isPack<T>)
+    static TARN_INLINE T of(T x) { return x; }
+    template <typename T, int N>
+    static TARN_INLINE Pack<T, N> of(Pack<T, N> x)
+    {
+        if constexpr (N > lanes<T>) {
+            return {of(x.hi), of(x.lo)};
+        } else if constexpr (sizeof(T) == 8) {
+            const __m128d both = reinterpret_cast<__m128d>(x.v);
+            return {reinterpret_cast<Native<T>>(_mm_shuffle_pd(both, both, 1))};
+        } else if constexpr (sizeof(T) == 4) {
+            return {reinterpret_cast<Native<T>>(_mm_shuffle_epi32(reinterpret_cast<__m128i>(x.v), 0x1B))};
+        } else if constexpr (sizeof(T) == 2) {
+            const __m128i inHalves = _mm_shufflehi_epi16(_mm_shufflelo_epi16(x.v, 0x1B), 0x1B);
+            return {_mm_shuffle_epi32(inHalves, 0x4E)};
+        } else {
+            static_assert(sizeof(T) == 1);
+            const __m128i pairs = of(Vector<Tarn16u>{x.v}).v;
+            return {_mm_or_si128(_mm_slli_epi16(pairs, 8), _mm_srli_epi16(pairs, 8))};
+        }
+    }
+};
+inline constexpr Word<Reverse> reverse;
+
+// The bytes within each element in opposite order.
+struct SwapBytes {
+    static TARN_INLINE Tarn16u of(Tarn16u x) { return __builtin_bswap16(x); }
+    static TARN_INLINE Tarn32u of(Tarn32u x) { return __builtin_bswap32(x); }
+    static TARN_INLINE Vector<Tarn16u> of(Vector<Tarn16u> x)
+    {
+        return {_mm_or_si128(_mm_slli_epi16(x.v, 8), _mm_srli_epi16(x.v, 8))};
+    }
+    static TARN_INLINE Vector<Tarn32u> of(Vector<Tarn32u> x)
+    {
+        const __m128i halves = _mm_shufflehi_epi16(_mm_shufflelo_epi16(x.v, 0xB1), 0xB1);
+        return {of(Vector<Tarn16u>{halves}).v};
+    }
+};
+inline constexpr Word<SwapBytes> swapBytes;
+
+} // namespace tarn
