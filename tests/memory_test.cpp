@@ -15,6 +15,7 @@ namespace {
 struct Observed {
     bool armed = false;
     bool refuse = false;
+    void* handOut = nullptr; // given instead of a block of the system's, if not null
     int mallocs = 0;
     std::size_t size = 0;
     void* block = nullptr;
@@ -26,13 +27,13 @@ Observed observed;
 } // namespace
 
 #if defined(__SANITIZE_ADDRESS__)
-// The sanitizer owns malloc(): it reports to hooks, and cannot be made to refuse.
+// The sanitizer owns malloc(): it reports to hooks, and what it returns cannot be replaced.
 extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*onMalloc)(const volatile void*, std::size_t),
                                                          void (*onFree)(const volatile void*));
 
 namespace {
 
-constexpr bool canRefuse = false;
+constexpr bool canReplace = false;
 
 void onMalloc(const volatile void* block, std::size_t size)
 {
@@ -60,17 +61,19 @@ extern "C" void* __libc_malloc(std::size_t size);
 extern "C" void __libc_free(void* block);
 
 namespace {
-constexpr bool canRefuse = true;
+constexpr bool canReplace = true;
 }
 
 extern "C" void* malloc(std::size_t size) noexcept
 {
-    void* block = observed.armed && observed.refuse ? nullptr : __libc_malloc(size);
-    if (observed.armed) {
-        ++observed.mallocs;
-        observed.size = size;
-        observed.block = block;
-    }
+    if (!observed.armed)
+        return __libc_malloc(size);
+    void* block = observed.handOut;
+    if (!block && !observed.refuse)
+        block = __libc_malloc(size);
+    ++observed.mallocs;
+    observed.size = size;
+    observed.block = block;
     return block;
 }
 
@@ -80,7 +83,8 @@ extern "C" void free(void* block) noexcept
         ++observed.frees;
         observed.freed = block;
     }
-    __libc_free(block);
+    if (block != observed.handOut)
+        __libc_free(block);
 }
 #endif
 
@@ -222,11 +226,38 @@ TEST(Malloc, SurplusWraps)
 
 TEST(Malloc, NullWhenTheSystemHasNoMemory)
 {
-    if (!canRefuse)
+    if (!canReplace)
         GTEST_SKIP() << "the sanitizer's malloc() cannot be made to refuse";
     for (const Member& member : members) {
         EXPECT_EQ(watched([&] { return member.allocate(10); }, true), nullptr) << member.tag;
         EXPECT_EQ(observed.mallocs, 1) << member.tag;
+    }
+}
+
+// Whatever address the system allocator gives, not only its usual multiples of 16.
+TEST(Malloc, EverySlack)
+{
+    if (!canReplace)
+        GTEST_SKIP() << "the sanitizer's malloc() cannot be made to return a given address";
+    alignas(32) static char arena[256];
+    for (std::uintptr_t offset = 0; offset < 32; ++offset) {
+        SCOPED_TRACE(offset);
+        observed = {};
+        observed.handOut = arena + offset;
+        observed.armed = true;
+        void* area = tarnsMalloc_8u(100);
+        observed.armed = false;
+        EXPECT_EQ(observed.size, 100 + surplus);
+        EXPECT_EQ(address(area), (address(arena) + offset + surplus - 1) / 32 * 32);
+        EXPECT_EQ(storedBlock(area), arena + offset);
+        EXPECT_GE(address(area), address(arena) + offset + sizeof(void*));
+        EXPECT_LE(address(area) + 100, address(arena) + offset + observed.size);
+        observed.armed = true;
+        tarnsFree(area);
+        observed.armed = false;
+        EXPECT_EQ(observed.frees, 1);
+        EXPECT_EQ(observed.freed, arena + offset);
+        observed = {};
     }
 }
 
