@@ -13,13 +13,12 @@ typedef struct {
     int len;
 } Recording;
 
-static const char usage[] =
-    "usage: mix [--help] FIRST SECOND MIXED [SCALE]\n"
-    "\n"
-    "Adds the recordings FIRST and SECOND, divides by 2 to the power SCALE (0 when not\n"
-    "given), rounds to nearest and saturates. All files are headerless signed 16-bit\n"
-    "PCM in the machine's byte order, at the same rate and with the same channels.\n"
-    "Where one recording is longer, its end is mixed with silence.\n";
+static const char usage[] = "usage: mix [--help] FIRST SECOND MIXED [SCALE]\n"
+                            "\n"
+                            "Adds the recordings FIRST and SECOND, divides by 2 to the power SCALE (0 when not\n"
+                            "given), rounds to nearest and saturates. All files are headerless signed 16-bit\n"
+                            "PCM in the machine's byte order, at the same rate and with the same channels.\n"
+                            "Where one recording is longer, its end is mixed with silence.\n";
 
 static int fail(const char* file, const char* reason)
 {
