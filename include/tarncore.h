@@ -16,15 +16,15 @@ extern "C" {
     The tag in a function's name tells the element type of its arrays: tarnsAdd_16s works on Tarn16s. Arrays need be
     aligned to nothing.
     @{ */
-typedef unsigned char Tarn8u;
-typedef signed char Tarn8s;
-typedef unsigned short Tarn16u;
-typedef signed short Tarn16s;
-typedef unsigned int Tarn32u;
-typedef signed int Tarn32s;
-typedef signed long long Tarn64s;
-typedef float Tarn32f;
-typedef double Tarn64f;
+typedef unsigned char Tarn8u;     /**< unsigned 8-bit integer */
+typedef signed char Tarn8s;       /**< signed 8-bit integer */
+typedef unsigned short Tarn16u;   /**< unsigned 16-bit integer */
+typedef signed short Tarn16s;     /**< signed 16-bit integer */
+typedef unsigned int Tarn32u;     /**< unsigned 32-bit integer */
+typedef signed int Tarn32s;       /**< signed 32-bit integer */
+typedef signed long long Tarn64s; /**< signed 64-bit integer */
+typedef float Tarn32f;            /**< IEEE 754 single precision */
+typedef double Tarn64f;           /**< IEEE 754 double precision */
 
 /** Complex pair of Tarn8s. An array of n complex elements of any type is bit for bit an array of 2n real ones, the
     real parts at even indices. */

@@ -15,15 +15,16 @@ void* allocateBytes(int len, Tarn32u elementBytes)
     if (len < 1)
         return nullptr;
     // An impossible length wraps around, as callers have always known it. Where the request wraps below the surplus
-    // itself, the stored address must still lie inside the block: malloc() aligns to a pointer at least, so
-    // that it ends no more than `alignment` bytes into it.
+    // itself, the stored address must still lie inside the block: malloc() aligns to a pointer at least, so that it
+    // ends no more than `alignment` bytes into it.
     const Tarn32u bytes = static_cast<Tarn32u>(len) * elementBytes + surplus;
-    void* block = std::malloc(std::max(bytes, static_cast<Tarn32u>(alignment)));
+    auto* block = static_cast<char*>(std::malloc(std::max(bytes, static_cast<Tarn32u>(alignment))));
     if (!block)
         return nullptr;
-    const std::uintptr_t area = (reinterpret_cast<std::uintptr_t>(block) + surplus - 1) & ~(alignment - 1);
+    const auto address = reinterpret_cast<std::uintptr_t>(block);
+    char* area = block + (((address + surplus - 1) & ~(alignment - 1)) - address);
     reinterpret_cast<void**>(area)[-1] = block;
-    return reinterpret_cast<void*>(area);
+    return area;
 }
 
 template <typename T>
