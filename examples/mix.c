@@ -31,10 +31,11 @@ static int readSamples(FILE* file, const char* name, Recording* recording)
 {
     long bytes;
 
+    /* A directory opens and even has a size, but does not read. */
+    if (fgetc(file) == EOF)
+        return fail(name, ferror(file) ? strerror(errno) : "empty");
     if (fseek(file, 0, SEEK_END) != 0 || (bytes = ftell(file)) < 0 || fseek(file, 0, SEEK_SET) != 0)
         return fail(name, strerror(errno));
-    if (bytes == 0)
-        return fail(name, "empty");
     if (bytes % (long)sizeof(Tarn16s) != 0)
         return fail(name, "not 16-bit PCM: its size is odd");
     if (bytes / (long)sizeof(Tarn16s) > INT_MAX / (int)sizeof(Tarn16s))

@@ -1,4 +1,4 @@
-# Tests of what a user of the library gets: every header on its own, and an installed copy used from outside.
+# Tests of what a user gets: every header on its own, an installed copy used from outside, the example programs.
 set(TARNS_CONSUMER_FLAGS "")
 if(TARNS_SANITIZE)
     set(TARNS_CONSUMER_FLAGS "-fsanitize=${TARNS_SANITIZE}")
@@ -16,3 +16,8 @@ add_test(NAME consumer_test COMMAND ${CMAKE_COMMAND}
     -D C_COMPILER=${CMAKE_C_COMPILER} -D "C_FLAGS=${CMAKE_C_FLAGS} ${TARNS_CONSUMER_FLAGS}"
     -D CXX_COMPILER=${CMAKE_CXX_COMPILER} -D "CXX_FLAGS=${CMAKE_CXX_FLAGS} ${TARNS_CONSUMER_FLAGS}"
     -P ${CMAKE_CURRENT_LIST_DIR}/consumer_test.cmake)
+
+if(TARNS_BUILD_EXAMPLES)
+    add_test(NAME examples_test COMMAND ${CMAKE_COMMAND} -D MIX=$<TARGET_FILE:mix>
+        -D WORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/examples -P ${CMAKE_CURRENT_LIST_DIR}/examples_test.cmake)
+endif()
