@@ -48,11 +48,14 @@ TARN_INLINE Wide33<X> exactDifference(X a, X b)
     return {sub(shiftRight(bitXor(a, b), 1), bitAndNot(a, b)), sub(a, b)};
 }
 
-// One step down needs no more than the parity: a tie goes up from an odd half.
+// One step down needs no more than the parity: a tie goes up from an odd half. From the very highest half, which only a
+// difference reaches, it would leave 32 bits, and stays.
 template <typename X>
 TARN_INLINE X halveRounded(Wide33<X> t)
 {
-    return add(t.half, bitAnd(bitAnd(t.wrapped, t.half), splat<X>(1)));
+    const auto rounded = add(t.half, bitAnd(bitAnd(t.wrapped, t.half), splat<X>(1)));
+    const auto leftRange = shiftRightLogical(bitAndNot(t.half, rounded), 31);
+    return sub(rounded, leftRange);
 }
 
 // s of 2 and more. The rounding is done on the two lowest bits of t, so that nothing leaves 32 bits on the way.

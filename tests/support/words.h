@@ -49,7 +49,8 @@ void expectAgreementAt(const WordType& word, const Columns<T...>& columns, std::
     for (std::size_t i = first; i < first + N; ++i)
         expected.push_back(laneOf<Lane>(word(std::get<K>(columns)[i]...)));
     constexpr bool isMask = std::is_same_v<decltype(word(std::declval<T>()...)), bool>;
-    EXPECT_TRUE(arraysMatch<Lane>(expected.data(), actual.data(), N, {.nan = isMask ? NanRule::sameBits : NanRule::anyNan}))
+    EXPECT_TRUE(
+        arraysMatch<Lane>(expected.data(), actual.data(), N, {.nan = isMask ? NanRule::sameBits : NanRule::anyNan}))
         << "operands from " << first;
 }
 
