@@ -24,7 +24,9 @@ if(NOT TARNS_SANITIZE)
 elseif(TARNS_SANITIZE MATCHES "undefined")
     target_compile_options(tarns PRIVATE -fno-sanitize=vptr) # needs run-time type information
 endif()
-target_link_options(tarns PRIVATE -Wl,-Bsymbolic-functions -Wl,-z,defs -Wl,--as-needed)
+target_link_options(tarns PRIVATE -Wl,-Bsymbolic-functions -Wl,-z,defs -Wl,--as-needed
+    -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+set_property(TARGET tarns APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
 
 find_package(OpenMP REQUIRED COMPONENTS CXX)
 target_link_libraries(tarns PRIVATE $<BUILD_INTERFACE:tarns_flags> $<BUILD_INTERFACE:OpenMP::OpenMP_CXX>)
