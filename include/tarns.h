@@ -5,6 +5,7 @@
 #include "tarncore.h"
 #include "tarns/arithmetic.h"
 #include "tarns/data.h"
+#include "tarns/logic.h"
 #include "tarns/memory.h"
 
 #endif
