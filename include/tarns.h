@@ -7,5 +7,6 @@
 #include "tarns/data.h"
 #include "tarns/logic.h"
 #include "tarns/memory.h"
+#include "tarns/subtract.h"
 
 #endif
