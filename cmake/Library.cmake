@@ -24,6 +24,11 @@ if(NOT TARNS_SANITIZE)
 elseif(TARNS_SANITIZE MATCHES "undefined")
     target_compile_options(tarns PRIVATE -fno-sanitize=vptr) # needs run-time type information
 endif()
+# Where all arrays advance together one index serves them all; 32-bit code has no registers for a pointer each. The
+# transforms, whose arrays advance at different paces, are left to the compiler.
+file(GLOB TARNS_WALKING_KERNELS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/levels/*.cpp)
+list(FILTER TARNS_WALKING_KERNELS EXCLUDE REGEX "/psfft[^/]*$")
+set_source_files_properties(${TARNS_WALKING_KERNELS} PROPERTIES COMPILE_OPTIONS "-fno-ivopts;-fno-tree-scev-cprop")
 target_link_options(tarns PRIVATE -Wl,-Bsymbolic-functions -Wl,-z,defs -Wl,--as-needed
     -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
 set_property(TARGET tarns APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)

@@ -11,8 +11,8 @@ extern "C" {
 /** @defgroup add Addition
     Sums of two vectors, and of a vector and a constant.
 
-    Scaled forms (`Sfs`) answer with the exact sum times 2^-scaleFactor, rounded to the nearest integer, ties to the even
-    one, saturated at the bounds of the element type. A positive factor shrinks, a negative one grows; no value is
+    Scaled forms (`Sfs`) answer with the exact sum times 2^-scaleFactor, rounded to the nearest integer, ties to the
+   even one, saturated at the bounds of the element type. A positive factor shrinks, a negative one grows; no value is
     illegal. Integer forms without a scale saturate. Saturation is silent. Float forms are one IEEE addition an element
     in the current rounding mode: NaN, infinities and the sign of zero are as the processor gives them.
     @{ */
@@ -54,8 +54,8 @@ TARN_API TarnStatus tarnsAdd_32s_ISfs(const Tarn32s* pSrc, Tarn32s* pSrcDst, int
 TARN_API TarnStatus tarnsAdd_32sc_ISfs(const Tarn32sc* pSrc, Tarn32sc* pSrcDst, int len, int scaleFactor);
 ///@}
 
-/** Adds two vectors without a scale: pDst[i] = pSrc1[i] + pSrc2[i]. `16u`, `16s` and `32u` saturate; `8u16u` and `16s32f`
-    cannot overflow and are exact.
+/** Adds two vectors without a scale: pDst[i] = pSrc1[i] + pSrc2[i]. `16u`, `16s` and `32u` saturate; `8u16u` and
+   `16s32f` cannot overflow and are exact.
 
     @param pSrc1 first operand, `len` elements
     @param pSrc2 second operand, `len` elements
@@ -123,8 +123,8 @@ TARN_API TarnStatus tarnsAddC_32s_ISfs(Tarn32s val, Tarn32s* pSrcDst, int len, i
 TARN_API TarnStatus tarnsAddC_32sc_ISfs(Tarn32sc val, Tarn32sc* pSrcDst, int len, int scaleFactor);
 ///@}
 
-/** Adds a constant to a vector of floats: pDst[i] = pSrc[i] + val. In the real forms a `val` of 0 of either sign, or NaN,
-    copies the vector: the NaN does not spread, and a -0 stays what it is. The complex forms always add.
+/** Adds a constant to a vector of floats: pDst[i] = pSrc[i] + val. In the real forms a `val` of 0 of either sign, or
+   NaN, copies the vector: the NaN does not spread, and a -0 stays what it is. The complex forms always add.
 
     @param pSrc vector, `len` elements
     @param val  constant
@@ -138,8 +138,8 @@ TARN_API TarnStatus tarnsAddC_32fc(const Tarn32fc* pSrc, Tarn32fc val, Tarn32fc*
 TARN_API TarnStatus tarnsAddC_64fc(const Tarn64fc* pSrc, Tarn64fc val, Tarn64fc* pDst, int len);
 ///@}
 
-/** Adds a constant to a vector in place: pSrcDst[i] = pSrcDst[i] + val. `16s` saturates. In the real float forms a `val` of
-    0 of either sign, or NaN, leaves the vector as it is; the complex forms always add.
+/** Adds a constant to a vector in place: pSrcDst[i] = pSrcDst[i] + val. `16s` saturates. In the real float forms a
+   `val` of 0 of either sign, or NaN, leaves the vector as it is; the complex forms always add.
 
     @param val     constant
     @param pSrcDst vector and destination, `len` elements

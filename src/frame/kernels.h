@@ -35,7 +35,7 @@ TARN_INLINE void apply(Operation operation, T val, T* pSrcDst, int len)
 } // namespace tarn
 
 // A kernel: a global symbol of the shared object, though no part of the interface.
-#define TARN_KERNEL extern "C" TARN_API
+#define TARN_KERNEL extern "C" __attribute__((visibility("protected")))
 
 // The shapes: two vectors, or a vector and a constant, each out of place and in place. In place the operand that is
 // also the destination comes last, and it stands first in a subtraction's place: see the operations themselves.

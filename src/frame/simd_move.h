@@ -34,8 +34,9 @@ struct Reverse {
             return {_mm_shuffle_epi32(inHalves, 0x4E)};
         } else {
             static_assert(sizeof(T) == 1);
+            // Of the two shifts one is done as a product: they would wait for the same ports as the three shuffles.
             const __m128i pairs = of(Vector<Tarn16u>{x.v}).v;
-            return {_mm_or_si128(_mm_slli_epi16(pairs, 8), _mm_srli_epi16(pairs, 8))};
+            return {_mm_or_si128(_mm_slli_epi16(pairs, 8), _mm_mulhi_epu16(pairs, _mm_set1_epi16(256)))};
         }
     }
 };
@@ -56,5 +57,17 @@ struct SwapBytes {
     }
 };
 inline constexpr Word<SwapBytes> swapBytes;
+
+// Vectors only: every byte n places up or down the register, zeros behind it.
+template <int n, typename T>
+TARN_INLINE Vector<T> shiftBytesUp(Vector<T> x)
+{
+    return {_mm_slli_si128(x.v, n)};
+}
+template <int n, typename T>
+TARN_INLINE Vector<T> shiftBytesDown(Vector<T> x)
+{
+    return {_mm_srli_si128(x.v, n)};
+}
 
 } // namespace tarn

@@ -77,6 +77,46 @@ TARN_INLINE bool isApart(S src, D* dst)
     }
 }
 
+// One step of a walk: the elements from k on.
+template <int step, typename Operation, typename... S>
+TARN_INLINE auto stepAt(int k, Operation operation, S... src)
+{
+    return operation(loadPack<step>(src + k)...);
+}
+
+// The elements from i to end, one at a time.
+template <typename D, typename Operation, typename... S>
+TARN_INLINE void walkElements(D* dst, int i, int end, Operation operation, S... src)
+{
+    for (; i < end; ++i) {
+        store(dst + i, operation(loadElement(src + i)...));
+    }
+}
+
+// Brings the destination to a vector boundary; answers how many elements are done then.
+template <int step, typename D, typename Operation, typename... S>
+TARN_INLINE int walkToBoundary(D* dst, Operation operation, S... src)
+{
+    const int head = elementsToBoundary(dst);
+    if ((isApart(src, dst) && ...)) {
+        store(dst, stepAt<step>(0, operation, src...));
+    } else {
+        walkElements(dst, 0, head, operation, src...);
+    }
+    return head;
+}
+
+// What is left behind the last whole step before i.
+template <int step, typename D, typename Operation, typename... S>
+TARN_INLINE void walkTail(D* dst, int i, int len, Operation operation, S... src)
+{
+    if (len >= step && (isApart(src, dst) && ...)) {
+        store(dst + len - step, stepAt<step>(len - step, operation, src...));
+    } else {
+        walkElements(dst, i, len, operation, src...);
+    }
+}
+
 // dst[i] = operation(src[i]...) for all i below len. A source may be the destination itself; other overlap is not
 // defined. The operation is called with elements or with packs of stepSize elements and answers in kind. Where no
 // source is the destination, writing an element twice does no harm: then the ends of the array are vectors that overlap
@@ -86,46 +126,32 @@ TARN_INLINE void walk(D* dst, int len, Operation operation, S... src)
 {
     constexpr int step = stepSize<D, SourceElement<S>...>;
     constexpr int block = unrolledSteps * step;
-    const bool apart = (isApart(src, dst) && ...);
 
+    // Position and rest are all that the loops keep beside the pointers: 32-bit code has no registers to spare.
     int i = 0;
-    const auto at = [&](int k) { return operation(loadPack<step>(src + k)...); };
-    const auto elementsUpTo = [&](int end) {
-        for (; i < end; ++i) {
-            store(dst + i, operation(loadElement(src + i)...));
-        }
-    };
-
-    if (len >= vectorsWorthAligning * lanes<D>) {
-        const int head = elementsToBoundary(dst);
-        if (!apart) {
-            elementsUpTo(head);
-        } else if (head > 0) {
-            store(dst, at(0));
-            i = head;
-        }
+    int left = len;
+    if (len >= vectorsWorthAligning * lanes<D> && !isOnBoundary(dst)) {
+        i = walkToBoundary<step>(dst, operation, src...);
+        left -= i;
     }
     if (streams<D>(len) && isOnBoundary(dst + i)) {
-        for (; i <= len - step; i += step) {
-            storeStream(dst + i, at(i));
+        for (; left >= step; i += step, left -= step) {
+            storeStream(dst + i, stepAt<step>(i, operation, src...));
         }
         streamFence();
-    } else {
-        for (; i <= len - block; i += block) {
-            store(dst + i, at(i));
-            store(dst + i + step, at(i + step));
-            store(dst + i + 2 * step, at(i + 2 * step));
-            store(dst + i + 3 * step, at(i + 3 * step));
-        }
-        for (; i <= len - step; i += step) {
-            store(dst + i, at(i));
-        }
     }
-    if (apart && i < len && len >= step) {
-        store(dst + len - step, at(len - step));
-        i = len;
+    for (; left >= block; i += block, left -= block) {
+        store(dst + i, stepAt<step>(i, operation, src...));
+        store(dst + i + step, stepAt<step>(i + step, operation, src...));
+        store(dst + i + 2 * step, stepAt<step>(i + 2 * step, operation, src...));
+        store(dst + i + 3 * step, stepAt<step>(i + 3 * step, operation, src...));
     }
-    elementsUpTo(len);
+    for (; left >= step; i += step, left -= step) {
+        store(dst + i, stepAt<step>(i, operation, src...));
+    }
+    if (left > 0) {
+        walkTail<step>(dst, i, i + left, operation, src...);
+    }
 }
 
 // A source that is the same everywhere.

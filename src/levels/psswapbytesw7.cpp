@@ -6,9 +6,10 @@ using namespace tarn;
 namespace {
 
 // Three-byte elements: the outer bytes of each change places, so every byte comes from two places ahead, from its own
-// place or from two places behind, in a pattern that returns after three registers.
+// place or from two places behind, in a pattern that returns after three registers, which hold whole elements.
 constexpr int elementsPerTurn = vectorBytes;
 constexpr int bytesPerElement = 3;
+constexpr int elementsWorthAligning = 4 * elementsPerTurn;
 
 // All ones at the bytes of a register whose index leaves `remainder` modulo 3.
 alignas(vectorBytes) constexpr auto everyThird = [] {
@@ -23,45 +24,51 @@ alignas(vectorBytes) constexpr auto everyThird = [] {
     return masks;
 }();
 
-TARN_INLINE void swapElement24(const Tarn8u* src, Tarn8u* dst)
+// A register of a turn from what lies two bytes ahead, at its place and two bytes behind. Its first byte is byte
+// `phase` of an element.
+template <int phase>
+TARN_INLINE Vector<Tarn8u> mergeRegister24(Vector<Tarn8u> ahead, Vector<Tarn8u> here, Vector<Tarn8u> behind)
 {
-    const Tarn8u low = src[0];
-    dst[1] = src[1];
-    dst[0] = src[2];
-    dst[2] = low;
+    const auto takenAt = [](Vector<Tarn8u> x, int byte) {
+        return bitAnd(x, loadPack<vectorBytes>(everyThird.byte[(byte - phase + 3) % 3]));
+    };
+    return bitOr(bitOr(takenAt(ahead, 0), takenAt(here, 1)), takenAt(behind, 2));
 }
 
-// A register whose first byte is byte `phase` of an element.
-TARN_INLINE Vector<Tarn8u> swapRegister24(const Tarn8u* src, int phase)
+TARN_INLINE void swapElements24(const Tarn8u* src, Tarn8u* dst, int elements)
 {
-    const auto at = [&](int byte) { return loadPack<vectorBytes>(everyThird.byte[(byte - phase + 3) % 3]); };
-    const auto low = bitAnd(loadPack<vectorBytes>(src + 2), at(0));
-    const auto middle = bitAnd(loadPack<vectorBytes>(src), at(1));
-    const auto high = bitAnd(loadPack<vectorBytes>(src - 2), at(2));
-    return bitOr(bitOr(low, middle), high);
+    for (int i = 0; i < bytesPerElement * elements; i += bytesPerElement) {
+        const Tarn8u low = src[i];
+        dst[i + 1] = src[i + 1];
+        dst[i] = src[i + 2];
+        dst[i + 2] = low;
+    }
 }
 
-// The registers read two bytes beyond the elements that they write, so one element is left at either end.
 void swap24(const Tarn8u* src, Tarn8u* dst, int len)
 {
-    const auto elementsUpTo = [&](int& i, int end) {
-        for (; i < end; ++i) {
-            swapElement24(src + bytesPerElement * i, dst + bytesPerElement * i);
-        }
-    };
-    int i = 0;
-    elementsUpTo(i, 1);
-    for (; i <= len - (elementsPerTurn + 1); i += elementsPerTurn) {
-        const Tarn8u* from = src + bytesPerElement * i;
-        Tarn8u* to = dst + bytesPerElement * i;
-        const auto first = swapRegister24(from, 0);
-        const auto second = swapRegister24(from + vectorBytes, vectorBytes % 3);
-        const auto third = swapRegister24(from + 2 * vectorBytes, 2 * vectorBytes % 3);
-        store(to, first);
-        store(to + vectorBytes, second);
-        store(to + 2 * vectorBytes, third);
+    constexpr int turnBytes = bytesPerElement * elementsPerTurn;
+    if (len >= elementsWorthAligning) {
+        // 3 * 5 is -1 modulo the vector's 16 bytes.
+        static_assert(vectorBytes == 16);
+        const int head = static_cast<int>(addressOf(dst) * 5 % vectorBytes);
+        swapElements24(src, dst, head);
+        src += bytesPerElement * head;
+        dst += bytesPerElement * head;
+        len -= head;
     }
-    elementsUpTo(i, len);
+    for (; len >= elementsPerTurn; len -= elementsPerTurn, src += turnBytes, dst += turnBytes) {
+        const auto at = [src](int byte) { return loadPack<vectorBytes>(src + byte); };
+        const auto start = at(0);
+        const auto end = at(2 * vectorBytes);
+        const auto first = mergeRegister24<0>(at(2), start, shiftBytesUp<2>(start));
+        const auto second = mergeRegister24<1>(at(vectorBytes + 2), at(vectorBytes), at(vectorBytes - 2));
+        const auto third = mergeRegister24<2>(shiftBytesDown<2>(end), end, at(2 * vectorBytes - 2));
+        store(dst, first);
+        store(dst + vectorBytes, second);
+        store(dst + 2 * vectorBytes, third);
+    }
+    swapElements24(src, dst, len);
 }
 
 } // namespace
