@@ -9,7 +9,7 @@ namespace tarn {
 template <typename... T>
 inline TarnStatus check(int len, const T*... pointers)
 {
-    if (((pointers == nullptr) || ...)) {
+    if ((!pointers || ...)) {
         return tarnStsNullPtrErr;
     }
     if (len < 1) {

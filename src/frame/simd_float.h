@@ -10,72 +10,61 @@ namespace tarn {
 template <typename T>
 concept Float = std::is_floating_point_v<T>;
 
-// Stamps the element overload and the two register overloads of an operation that is one instruction.
-#define TARN_FLOAT_WORD(NAME, EXPRESSION, PS, PD)                                                          \
-    template <Float T>                                                                                     \
-    static TARN_INLINE T of(T a, T b)                                                                      \
-    {                                                                                                      \
-        return EXPRESSION;                                                                                 \
-    }                                                                                                      \
-    static TARN_INLINE Vector<Tarn32f> of(Vector<Tarn32f> a, Vector<Tarn32f> b) { return {PS(a.v, b.v)}; } \
-    static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> a, Vector<Tarn64f> b) { return {PD(a.v, b.v)}; }
-
-struct Add : AddInteger {
-    using AddInteger::of;
-    TARN_FLOAT_WORD(add, a + b, _mm_add_ps, _mm_add_pd)
+// One word from parts that each serve some of the types.
+template <typename... Parts>
+struct Overloads : Parts... {
+    using Parts::of...;
 };
+
+// Stamps an operation that is one instruction: the element, then the two register types.
+#define TARN_FLOAT_OPERATION(NAME, EXPRESSION, PS, PD)                                                         \
+    struct NAME {                                                                                              \
+        template <Float T>                                                                                     \
+        static TARN_INLINE T of(T a, T b)                                                                      \
+        {                                                                                                      \
+            return EXPRESSION;                                                                                 \
+        }                                                                                                      \
+        static TARN_INLINE Vector<Tarn32f> of(Vector<Tarn32f> a, Vector<Tarn32f> b) { return {PS(a.v, b.v)}; } \
+        static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> a, Vector<Tarn64f> b) { return {PD(a.v, b.v)}; } \
+    }
+TARN_FLOAT_OPERATION(AddFloat, a + b, _mm_add_ps, _mm_add_pd);
+TARN_FLOAT_OPERATION(SubFloat, a - b, _mm_sub_ps, _mm_sub_pd);
+TARN_FLOAT_OPERATION(Mul, a* b, _mm_mul_ps, _mm_mul_pd);
+TARN_FLOAT_OPERATION(Div, a / b, _mm_div_ps, _mm_div_pd);
+TARN_FLOAT_OPERATION(MinFloat, a < b ? a : b, _mm_min_ps, _mm_min_pd);
+TARN_FLOAT_OPERATION(MaxFloat, a > b ? a : b, _mm_max_ps, _mm_max_pd);
+#undef TARN_FLOAT_OPERATION
+
+using Add = Overloads<AddInteger, AddFloat>;
 inline constexpr Word<Add> add;
-
-// a minus b.
-struct Sub : SubInteger {
-    using SubInteger::of;
-    TARN_FLOAT_WORD(sub, a - b, _mm_sub_ps, _mm_sub_pd)
-};
+using Sub = Overloads<SubInteger, SubFloat>; // a minus b
 inline constexpr Word<Sub> sub;
-
-struct Mul {
-    TARN_FLOAT_WORD(mul, a* b, _mm_mul_ps, _mm_mul_pd)
-};
 inline constexpr Word<Mul> mul;
-
-struct Div {
-    TARN_FLOAT_WORD(div, a / b, _mm_div_ps, _mm_div_pd)
-};
 inline constexpr Word<Div> div;
 
-// The smaller, and b where the two are unordered or both zero.
-struct Min : MinInteger {
-    using MinInteger::of;
-    TARN_FLOAT_WORD(min, a < b ? a : b, _mm_min_ps, _mm_min_pd)
-};
+// The smaller or the larger, and b where the two are unordered or both zero.
+using Min = Overloads<MinInteger, MinFloat>;
 inline constexpr Word<Min> min;
-
-// The larger, and b where the two are unordered or both zero.
-struct Max : MaxInteger {
-    using MaxInteger::of;
-    TARN_FLOAT_WORD(max, a > b ? a : b, _mm_max_ps, _mm_max_pd)
-};
+using Max = Overloads<MaxInteger, MaxFloat>;
 inline constexpr Word<Max> max;
 
-#undef TARN_FLOAT_WORD
-
 // Stamps a float comparison: a bool for elements, a mask for registers. Unordered operands compare as IEEE says.
-#define TARN_FLOAT_COMPARISON(OPERATOR, PS, PD)                                                            \
-    template <Float T>                                                                                     \
-    static TARN_INLINE bool of(T a, T b)                                                                   \
-    {                                                                                                      \
-        return a OPERATOR b;                                                                               \
-    }                                                                                                      \
-    static TARN_INLINE Vector<Tarn32f> of(Vector<Tarn32f> a, Vector<Tarn32f> b) { return {PS(a.v, b.v)}; } \
-    static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> a, Vector<Tarn64f> b) { return {PD(a.v, b.v)}; }
+#define TARN_FLOAT_COMPARISON(NAME, OPERATOR, PS, PD)                                                          \
+    struct NAME {                                                                                              \
+        template <Float T>                                                                                     \
+        static TARN_INLINE bool of(T a, T b)                                                                   \
+        {                                                                                                      \
+            return a OPERATOR b;                                                                               \
+        }                                                                                                      \
+        static TARN_INLINE Vector<Tarn32f> of(Vector<Tarn32f> a, Vector<Tarn32f> b) { return {PS(a.v, b.v)}; } \
+        static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> a, Vector<Tarn64f> b) { return {PD(a.v, b.v)}; } \
+    }
+TARN_FLOAT_COMPARISON(GreaterFloat, >, _mm_cmpgt_ps, _mm_cmpgt_pd);
+TARN_FLOAT_COMPARISON(LessFloat, <, _mm_cmplt_ps, _mm_cmplt_pd);
+TARN_FLOAT_COMPARISON(EqualFloat, ==, _mm_cmpeq_ps, _mm_cmpeq_pd);
+#undef TARN_FLOAT_COMPARISON
 
-struct Greater : GreaterInteger {
-    using GreaterInteger::of;
-    TARN_FLOAT_COMPARISON(>, _mm_cmpgt_ps, _mm_cmpgt_pd)
-};
-inline constexpr Word<Greater> greater;
-
-struct Less {
+struct LessInteger {
     template <Integer T>
     static TARN_INLINE bool of(T a, T b)
     {
@@ -86,21 +75,16 @@ struct Less {
     {
         return GreaterInteger::of(b, a);
     }
-    TARN_FLOAT_COMPARISON(<, _mm_cmplt_ps, _mm_cmplt_pd)
 };
-inline constexpr Word<Less> less;
 
-struct Equal : EqualInteger {
-    using EqualInteger::of;
-    TARN_FLOAT_COMPARISON(==, _mm_cmpeq_ps, _mm_cmpeq_pd)
-};
+using Greater = Overloads<GreaterInteger, GreaterFloat>;
+inline constexpr Word<Greater> greater;
+using Less = Overloads<LessInteger, LessFloat>;
+inline constexpr Word<Less> less;
+using Equal = Overloads<EqualInteger, EqualFloat>;
 inline constexpr Word<Equal> equal;
 
-#undef TARN_FLOAT_COMPARISON
-
-// `yes` where the mask is set, `no` elsewhere.
-struct Select : SelectInteger {
-    using SelectInteger::of;
+struct SelectFloat {
     template <Float T>
     static TARN_INLINE T of(bool mask, T yes, T no)
     {
@@ -115,6 +99,9 @@ struct Select : SelectInteger {
         return {_mm_or_pd(_mm_and_pd(mask.v, yes.v), _mm_andnot_pd(mask.v, no.v))};
     }
 };
+
+// `yes` where the mask is set, `no` elsewhere.
+using Select = Overloads<SelectInteger, SelectFloat>;
 inline constexpr Word<Select> select;
 
 // True if any lane of the mask is set.
