@@ -13,7 +13,7 @@ namespace tarn {
 inline constexpr std::size_t streamBytes = std::size_t{8} << 20;
 
 // From this many vectors on it pays to bring the destination to a vector boundary first.
-inline constexpr int vectorsWorthAligning = 16;
+inline constexpr int vectorsWorthAligning = 32;
 
 // How many vectors are written between two tests of the loop's end.
 inline constexpr int unrolledSteps = 4;
@@ -130,15 +130,17 @@ TARN_INLINE void walk(D* dst, int len, Operation operation, S... src)
     // Position and rest are all that the loops keep beside the pointers: 32-bit code has no registers to spare.
     int i = 0;
     int left = len;
-    if (len >= vectorsWorthAligning * lanes<D> && !isOnBoundary(dst)) {
-        i = walkToBoundary<step>(dst, operation, src...);
-        left -= i;
-    }
-    if (streams<D>(len) && isOnBoundary(dst + i)) {
-        for (; left >= step; i += step, left -= step) {
-            storeStream(dst + i, stepAt<step>(i, operation, src...));
+    if (len >= vectorsWorthAligning * lanes<D>) {
+        if (!isOnBoundary(dst)) {
+            i = walkToBoundary<step>(dst, operation, src...);
+            left -= i;
         }
-        streamFence();
+        if (streams<D>(len) && isOnBoundary(dst + i)) {
+            for (; left >= step; i += step, left -= step) {
+                storeStream(dst + i, stepAt<step>(i, operation, src...));
+            }
+            streamFence();
+        }
     }
     for (; left >= block; i += block, left -= block) {
         store(dst + i, stepAt<step>(i, operation, src...));
