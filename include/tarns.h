@@ -4,9 +4,14 @@
 
 #include "tarncore.h"
 #include "tarns/arithmetic.h"
+#include "tarns/convert.h"
 #include "tarns/data.h"
 #include "tarns/logic.h"
 #include "tarns/memory.h"
+#include "tarns/multiply.h"
+#include "tarns/spectrum.h"
 #include "tarns/subtract.h"
+#include "tarns/threshold.h"
+#include "tarns/windows.h"
 
 #endif

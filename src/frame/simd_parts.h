@@ -1,0 +1,131 @@
+// Complex elements as pairs of doubles, real part first, for arithmetic that needs more than the elements' own
+// precision. One element is a register of its own, so that elements and packs go through the same instructions.
+#pragma once
+
+#include "frame/simd_convert.h"
+#include "frame/simd_mul.h"
+#include "frame/simd_reciprocal.h"
+
+namespace tarn {
+
+// The parts of an element, or of all elements of a pack. Exact.
+template <typename X>
+TARN_INLINE auto asDoubles(X z)
+{
+    using T = Element<X>;
+    if constexpr (!isPack<X>) {
+        if constexpr (std::is_same_v<T, Tarn64fc>) {
+            return loadPack<lanes<Tarn64f>>(&z.re);
+        } else {
+            return Vector<Tarn64f>{_mm_set_pd(z.im, z.re)};
+        }
+    } else if constexpr (std::is_same_v<T, Tarn64fc>) {
+        return reinterpretPack<Tarn64f>(z);
+    } else if constexpr (std::is_same_v<T, Tarn16sc>) {
+        return convert<Tarn64f>(widen(reinterpretPack<Tarn16s>(z)));
+    } else if constexpr (X::size > lanes<T>) {
+        return join(asDoubles(z.lo), asDoubles(z.hi));
+    } else {
+        static_assert(std::is_same_v<T, Tarn32fc>);
+        return Pack<Tarn64f, 2 * lanes<Tarn64f>>{{_mm_cvtps_pd(z.v)}, {_mm_cvtps_pd(_mm_movehl_ps(z.v, z.v))}};
+    }
+}
+
+// The element, or pack of them, that has these parts: rounded in the current rounding mode, and saturated if it is of
+// integers.
+template <typename X, int N>
+TARN_INLINE X fromDoubles(Pack<Tarn64f, N> parts)
+{
+    using T = Element<X>;
+    if constexpr (!isPack<X>) {
+        Tarn64fc z;
+        store(&z.re, parts);
+        if constexpr (std::is_same_v<T, Tarn16sc>) {
+            return {clampTo<Tarn16s>(roundDouble(z.re)), clampTo<Tarn16s>(roundDouble(z.im))};
+        } else {
+            return {static_cast<Part<T>>(z.re), static_cast<Part<T>>(z.im)};
+        }
+    } else if constexpr (std::is_same_v<T, Tarn64fc>) {
+        return reinterpretPack<T>(parts);
+    } else if constexpr (std::is_same_v<T, Tarn16sc>) {
+        return reinterpretPack<T>(narrowSaturated<Tarn16s>(roundDouble(parts)));
+    } else if constexpr (X::size > lanes<T>) {
+        return {fromDoubles<decltype(X::lo)>(parts.lo), fromDoubles<decltype(X::hi)>(parts.hi)};
+    } else {
+        static_assert(std::is_same_v<T, Tarn32fc>);
+        return {_mm_movelh_ps(_mm_cvtpd_ps(parts.lo.v), _mm_cvtpd_ps(parts.hi.v))};
+    }
+}
+
+// re^2 + im^2 in the places of both parts; three operations, three roundings.
+struct SquaredMagnitudes {
+    static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> parts)
+    {
+        const __m128d squares = _mm_mul_pd(parts.v, parts.v);
+        return {_mm_hadd_pd(squares, squares)};
+    }
+};
+inline constexpr Word<SquaredMagnitudes> squaredMagnitudes;
+
+// The larger of |re| and |im| in the places of both.
+struct LargerParts {
+    static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> parts)
+    {
+        const auto sizes = Absolute::of(parts);
+        return {_mm_max_pd(sizes.v, _mm_shuffle_pd(sizes.v, sizes.v, 1))};
+    }
+};
+inline constexpr Word<LargerParts> largerParts;
+
+// The conjugates.
+struct ConjugateParts {
+    static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> parts)
+    {
+        return {_mm_xor_pd(parts.v, _mm_set_pd(-0.0, 0.0))};
+    }
+};
+inline constexpr Word<ConjugateParts> conjugateParts;
+
+// `re` in the place of every real part, 0 in that of every imaginary one.
+template <typename D>
+TARN_INLINE D realParts(Tarn64f re)
+{
+    if constexpr (D::size > lanes<Tarn64f>) {
+        const auto half = realParts<decltype(D::lo)>(re);
+        return {half, half};
+    } else {
+        return {_mm_set_sd(re)};
+    }
+}
+
+// A mask over parts as a mask over the elements themselves: a bool, or a pack of X's type.
+template <typename X, int N>
+TARN_INLINE auto elementMask(Pack<Tarn64f, N> mask)
+{
+    using T = Element<X>;
+    if constexpr (!isPack<X>) {
+        return anyOf(mask);
+    } else if constexpr (std::is_same_v<T, Tarn64fc>) {
+        return reinterpretPack<T>(mask);
+    } else if constexpr (X::size > lanes<T>) {
+        return join(elementMask<decltype(X::lo)>(mask.lo), elementMask<decltype(X::hi)>(mask.hi));
+    } else {
+        static_assert(std::is_same_v<T, Tarn32fc>);
+        const __m128 lo = _mm_castpd_ps(mask.lo.v);
+        const __m128 hi = _mm_castpd_ps(mask.hi.v);
+        return X{_mm_shuffle_ps(lo, hi, 0x88)};
+    }
+}
+
+// `yes` where the mask over elements is set, `no` elsewhere; the bits of either, unchanged.
+template <typename T>
+    requires isComplex<T> TARN_INLINE T chooseElements(bool mask, T yes, T no) { return mask ? yes : no; }
+
+template <typename M, typename T, int N>
+TARN_INLINE Pack<T, N> chooseElements(Pack<M, N> mask, Pack<T, N> yes, Pack<T, N> no)
+{
+    using P = Part<T>;
+    return reinterpretPack<T>(select(reinterpretPack<P>(mask), reinterpretPack<P>(yes), reinterpretPack<P>(no)));
+}
+
+} // namespace tarn
