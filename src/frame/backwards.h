@@ -1,0 +1,40 @@
+// An array read from its last element to its first, as a source of the walker.
+#pragma once
+
+#include "frame/walk.h"
+
+namespace tarn {
+
+template <typename T>
+struct Backwards {
+    using Element = T;
+    const T* last;
+
+    TARN_INLINE Backwards operator+(int elements) const { return {last - elements}; }
+};
+
+// The elements in opposite order. A register that holds a single one is its own reverse.
+template <typename T, int N>
+TARN_INLINE Pack<T, N> turned(Pack<T, N> x)
+{
+    if constexpr (N > lanes<T>) {
+        return {turned(x.hi), turned(x.lo)};
+    } else if constexpr (N == 1) {
+        return x;
+    } else {
+        return reverse(x);
+    }
+}
+
+template <typename T>
+TARN_INLINE T loadElement(Backwards<T> source)
+{
+    return tarn::loadElement(source.last);
+}
+template <int N, typename T>
+TARN_INLINE Pack<T, N> loadPack(Backwards<T> source)
+{
+    return turned(tarn::loadPack<N>(source.last - (N - 1)));
+}
+
+} // namespace tarn
