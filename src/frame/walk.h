@@ -127,32 +127,29 @@ TARN_INLINE void walk(D* dst, int len, Operation operation, S... src)
     constexpr int step = stepSize<D, SourceElement<S>...>;
     constexpr int block = unrolledSteps * step;
 
-    // Position and rest are all that the loops keep beside the pointers: 32-bit code has no registers to spare.
     int i = 0;
-    int left = len;
     if (len >= vectorsWorthAligning * lanes<D>) {
         if (!isOnBoundary(dst)) {
             i = walkToBoundary<step>(dst, operation, src...);
-            left -= i;
         }
         if (streams<D>(len) && isOnBoundary(dst + i)) {
-            for (; left >= step; i += step, left -= step) {
+            for (; i <= len - step; i += step) {
                 storeStream(dst + i, stepAt<step>(i, operation, src...));
             }
             streamFence();
         }
     }
-    for (; left >= block; i += block, left -= block) {
+    for (; i <= len - block; i += block) {
         store(dst + i, stepAt<step>(i, operation, src...));
         store(dst + i + step, stepAt<step>(i + step, operation, src...));
         store(dst + i + 2 * step, stepAt<step>(i + 2 * step, operation, src...));
         store(dst + i + 3 * step, stepAt<step>(i + 3 * step, operation, src...));
     }
-    for (; left >= step; i += step, left -= step) {
+    for (; i <= len - step; i += step) {
         store(dst + i, stepAt<step>(i, operation, src...));
     }
-    if (left > 0) {
-        walkTail<step>(dst, i, i + left, operation, src...);
+    if (i < len) {
+        walkTail<step>(dst, i, len, operation, src...);
     }
 }
 
