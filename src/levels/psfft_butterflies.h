@@ -1,0 +1,84 @@
+// The butterflies of the power-of-two transforms, for single elements and for vectors of them.
+#pragma once
+
+#include "frame/simd.h"
+#include "frame/simd_complex.h"
+
+namespace tarn::fft {
+
+template <typename X>
+using Quad = std::array<Complex<X>, 4>;
+
+// The product with a twiddle factor. The tables hold the forward factors; an inverse transform takes their conjugates.
+template <bool forward, typename X>
+TARN_INLINE Complex<X> rotate(Complex<X> x, Complex<X> w)
+{
+    if constexpr (forward) {
+        return times(x, w);
+    } else {
+        return timesConjugate(x, w);
+    }
+}
+
+// a + W b and a - W b, where W is the quarter turn of the direction, -i forward and i inverse.
+template <bool forward, typename X>
+TARN_INLINE Complex<X> plusQuarterTurn(Complex<X> a, Complex<X> b)
+{
+    if constexpr (forward) {
+        return minusTurned(a, b);
+    } else {
+        return plusTurned(a, b);
+    }
+}
+template <bool forward, typename X>
+TARN_INLINE Complex<X> minusQuarterTurn(Complex<X> a, Complex<X> b)
+{
+    return plusQuarterTurn<!forward>(a, b);
+}
+
+// The transform of four elements that come in bit-reversed order.
+template <bool forward, typename X>
+TARN_INLINE Quad<X> fourPoint(Quad<X> x)
+{
+    const Complex<X> s0 = x[0] + x[1];
+    const Complex<X> s1 = x[0] - x[1];
+    const Complex<X> t0 = x[2] + x[3];
+    const Complex<X> t1 = x[2] - x[3];
+    return {s0 + t0, plusQuarterTurn<forward>(s1, t1), s0 - t0, minusQuarterTurn<forward>(s1, t1)};
+}
+
+// The same of elements that are registers of interleaved pairs.
+template <bool forward, typename T>
+TARN_INLINE std::array<Vector<T>, 4> fourPointPairs(const std::array<Vector<T>, 4>& x)
+{
+    const Vector<T> s0 = add(x[0], x[1]);
+    const Vector<T> s1 = sub(x[0], x[1]);
+    const Vector<T> t0 = add(x[2], x[3]);
+    const Vector<T> t1 = swapParts(sub(x[2], x[3]));
+    const Vector<T> minus = subAdd(s1, invertSigns(t1));
+    const Vector<T> plus = subAdd(s1, t1);
+    return {add(s0, t0), forward ? minus : plus, sub(s0, t0), forward ? plus : minus};
+}
+
+// The eighth roots W8^0 to W8^3 that join two transforms of four points into one of eight: real parts, then imaginary
+// parts.
+template <typename T>
+struct EighthRoots {
+    alignas(vectorBytes) T re[4];
+    alignas(vectorBytes) T im[4];
+
+    TARN_INLINE Complex<Vector<T>> block(int first) const { return {loadAligned(re + first), loadAligned(im + first)}; }
+};
+
+// The single-precision root is one unit above the float nearest to sqrt(1/2), bits 0x3F3504F4: the transforms' results
+// have depended on that value ever since.
+template <typename T>
+inline constexpr T rootOfHalf = static_cast<T>(0.7071067811865475);
+template <>
+inline constexpr Tarn32f rootOfHalf<Tarn32f> = 0.70710683f;
+
+template <typename T>
+inline constexpr EighthRoots<T> TwdTbl_03 = {{1, rootOfHalf<T>, 0, -rootOfHalf<T>},
+                                             {0, -rootOfHalf<T>, -1, -rootOfHalf<T>}};
+
+} // namespace tarn::fft
