@@ -1,0 +1,203 @@
+/* Window functions: weights for spectral analysis and filter design. */
+#ifndef TARNS_WINDOWS_H
+#define TARNS_WINDOWS_H
+
+#include "tarncore.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** @defgroup windows Windows
+    Every function multiplies an array by a symmetric window: pDst[n] = w[n] pSrc[n] and
+    pDst[len - 1 - n] = w[n] pSrc[len - 1 - n] for n below len / 2. The middle element of an odd number has the weight 1
+    and is copied, or left alone. Of a complex element both parts are multiplied by the same weight.
+
+    No weight is the result of a cosine of its own: two cosines start a second-order recurrence
+    y[n+s] = 2 cos(s t) y[n] - y[n-s], with t = 2 pi / (len - 1). It runs in single precision for 16-bit elements and in
+    double or extended precision for the others. The product with a weight is rounded to the element's type. 16-bit
+    elements are rounded by the processor's conversion to integer in the current rounding mode (to nearest, ties to
+    even, unless the caller changed it) and saturated; a product beyond the range of 32-bit integers, which only
+    extreme values of alpha reach, becomes -32768 as in that conversion.
+
+    The weights at the ends are computed values: where they are zero, an infinity or a NaN there becomes a NaN.
+    @{ */
+
+/** Triangular window: w[n] = 2 n / (len - 1).
+
+    The weights grow by additions of the rounded step, four or two of them at a time, or, from 1282 elements of single
+    precision on, one at a time in extended precision. With three elements the ends are set to zero.
+
+    @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
+    @param pDst    destination, `len` elements
+    @param pSrcDst array of `len` elements
+    @param len     number of elements, at least 3
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 3 */
+///@{
+TARN_API TarnStatus tarnsWinBartlett_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_16sc(const Tarn16sc* pSrc, Tarn16sc* pDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_32f(const Tarn32f* pSrc, Tarn32f* pDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_64f(const Tarn64f* pSrc, Tarn64f* pDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_16s_I(Tarn16s* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_16sc_I(Tarn16sc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_32f_I(Tarn32f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_32fc_I(Tarn32fc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_64f_I(Tarn64f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBartlett_64fc_I(Tarn64fc* pSrcDst, int len);
+///@}
+
+/** Hann window: w[n] = 0.5 - 0.5 cos(n t), a raised cosine, with t = 2 pi / (len - 1).
+
+    With three elements the ends are set to zero, but for double precision, where the zero weight is computed.
+
+    @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
+    @param pDst    destination, `len` elements
+    @param pSrcDst array of `len` elements
+    @param len     number of elements, at least 3
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 3 */
+///@{
+TARN_API TarnStatus tarnsWinHann_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len);
+TARN_API TarnStatus tarnsWinHann_16sc(const Tarn16sc* pSrc, Tarn16sc* pDst, int len);
+TARN_API TarnStatus tarnsWinHann_32f(const Tarn32f* pSrc, Tarn32f* pDst, int len);
+TARN_API TarnStatus tarnsWinHann_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int len);
+TARN_API TarnStatus tarnsWinHann_64f(const Tarn64f* pSrc, Tarn64f* pDst, int len);
+TARN_API TarnStatus tarnsWinHann_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len);
+TARN_API TarnStatus tarnsWinHann_16s_I(Tarn16s* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHann_16sc_I(Tarn16sc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHann_32f_I(Tarn32f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHann_32fc_I(Tarn32fc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHann_64f_I(Tarn64f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHann_64fc_I(Tarn64fc* pSrcDst, int len);
+///@}
+
+/** Hamming window: w[n] = 0.54 - 0.46 cos(n t), a raised cosine on a pedestal, with t = 2 pi / (len - 1).
+
+    @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
+    @param pDst    destination, `len` elements
+    @param pSrcDst array of `len` elements
+    @param len     number of elements, at least 3
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 3 */
+///@{
+TARN_API TarnStatus tarnsWinHamming_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len);
+TARN_API TarnStatus tarnsWinHamming_16sc(const Tarn16sc* pSrc, Tarn16sc* pDst, int len);
+TARN_API TarnStatus tarnsWinHamming_32f(const Tarn32f* pSrc, Tarn32f* pDst, int len);
+TARN_API TarnStatus tarnsWinHamming_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int len);
+TARN_API TarnStatus tarnsWinHamming_64f(const Tarn64f* pSrc, Tarn64f* pDst, int len);
+TARN_API TarnStatus tarnsWinHamming_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len);
+TARN_API TarnStatus tarnsWinHamming_16s_I(Tarn16s* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHamming_16sc_I(Tarn16sc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHamming_32f_I(Tarn32f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHamming_32fc_I(Tarn32fc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHamming_64f_I(Tarn64f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinHamming_64fc_I(Tarn64fc* pSrcDst, int len);
+///@}
+
+/** Generalised Blackman window: w[n] = (alpha + 1) / 2 - 0.5 cos(n t) - alpha / 2 cos(2 n t), with
+    t = 2 pi / (len - 1).
+
+    Computed as (alpha + 0.5) - y - 4 alpha y^2 with y = 0.5 cos(n t). Above 1025 elements of single or double precision
+    the whole weight is formed in extended precision. With three elements the ends are set to zero; in single precision
+    they always are, whatever stood there. In double precision they carry the rounding of alpha + 0.5.
+
+    @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
+    @param pDst    destination, `len` elements
+    @param pSrcDst array of `len` elements
+    @param len     number of elements, at least 3
+    @param alpha   weight of the second harmonic, any value: weights may exceed 1, and 16-bit elements saturate
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 3 */
+///@{
+TARN_API TarnStatus tarnsWinBlackman_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len, Tarn32f alpha);
+TARN_API TarnStatus tarnsWinBlackman_16sc(const Tarn16sc* pSrc, Tarn16sc* pDst, int len, Tarn32f alpha);
+TARN_API TarnStatus tarnsWinBlackman_32f(const Tarn32f* pSrc, Tarn32f* pDst, int len, Tarn32f alpha);
+TARN_API TarnStatus tarnsWinBlackman_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int len, Tarn32f alpha);
+TARN_API TarnStatus tarnsWinBlackman_64f(const Tarn64f* pSrc, Tarn64f* pDst, int len, Tarn64f alpha);
+TARN_API TarnStatus tarnsWinBlackman_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len, Tarn64f alpha);
+TARN_API TarnStatus tarnsWinBlackman_16s_I(Tarn16s* pSrcDst, int len, Tarn32f alpha);
+TARN_API TarnStatus tarnsWinBlackman_16sc_I(Tarn16sc* pSrcDst, int len, Tarn32f alpha);
+TARN_API TarnStatus tarnsWinBlackman_32f_I(Tarn32f* pSrcDst, int len, Tarn32f alpha);
+TARN_API TarnStatus tarnsWinBlackman_32fc_I(Tarn32fc* pSrcDst, int len, Tarn32f alpha);
+TARN_API TarnStatus tarnsWinBlackman_64f_I(Tarn64f* pSrcDst, int len, Tarn64f alpha);
+TARN_API TarnStatus tarnsWinBlackman_64fc_I(Tarn64fc* pSrcDst, int len, Tarn64f alpha);
+///@}
+
+/** Generalised Blackman window with alpha = -0.16, the customary one; see tarnsWinBlackman_32f().
+
+    @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
+    @param pDst    destination, `len` elements
+    @param pSrcDst array of `len` elements
+    @param len     number of elements, at least 3
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 3 */
+///@{
+TARN_API TarnStatus tarnsWinBlackmanStd_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_16sc(const Tarn16sc* pSrc, Tarn16sc* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_32f(const Tarn32f* pSrc, Tarn32f* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_64f(const Tarn64f* pSrc, Tarn64f* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_16s_I(Tarn16s* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_16sc_I(Tarn16sc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_32f_I(Tarn32f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_32fc_I(Tarn32fc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_64f_I(Tarn64f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanStd_64fc_I(Tarn64fc* pSrcDst, int len);
+///@}
+
+/** Generalised Blackman window with alpha = -(0.5 / cos(pi / (len - 1)))^2, for which the side lobes fall fastest; see
+    tarnsWinBlackman_32f().
+
+    @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
+    @param pDst    destination, `len` elements
+    @param pSrcDst array of `len` elements
+    @param len     number of elements, at least 4
+    @return tarnStsNoErr; tarnStsSizeErr for `len` below 4, tested first; tarnStsNullPtrErr for a null pointer */
+///@{
+TARN_API TarnStatus tarnsWinBlackmanOpt_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_16sc(const Tarn16sc* pSrc, Tarn16sc* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_32f(const Tarn32f* pSrc, Tarn32f* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_64f(const Tarn64f* pSrc, Tarn64f* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_16s_I(Tarn16s* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_16sc_I(Tarn16sc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_32f_I(Tarn32f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_32fc_I(Tarn32fc* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_64f_I(Tarn64f* pSrcDst, int len);
+TARN_API TarnStatus tarnsWinBlackmanOpt_64fc_I(Tarn64fc* pSrcDst, int len);
+///@}
+
+/** Generalised Blackman window with a fixed-point alpha = alphaQ15 2^-15, rounded to single precision; see
+    tarnsWinBlackman_32f().
+
+    @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
+    @param pDst    destination, `len` elements
+    @param pSrcDst array of `len` elements
+    @param len     number of elements, at least 3
+    @param alphaQ15 alpha in units of 2^-15, any value
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 3 */
+///@{
+TARN_API TarnStatus tarnsWinBlackmanQ15_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len, int alphaQ15);
+TARN_API TarnStatus tarnsWinBlackmanQ15_16sc(const Tarn16sc* pSrc, Tarn16sc* pDst, int len, int alphaQ15);
+TARN_API TarnStatus tarnsWinBlackmanQ15_16s_I(Tarn16s* pSrcDst, int len, int alphaQ15);
+TARN_API TarnStatus tarnsWinBlackmanQ15_16sc_I(Tarn16sc* pSrcDst, int len, int alphaQ15);
+///@}
+
+/** Generalised Blackman window with a fixed-point alpha, scaled: every element, the middle one of an odd number
+    included, is multiplied by 2^-scaleFactor as well. Results are rounded to nearest, ties to even, and saturated; with
+    three elements the middle one is rounded half away from zero, and the ends are set to zero.
+
+    @param pSrcDst     array of `len` elements
+    @param len         number of elements, at least 3
+    @param alphaQ15    alpha in units of 2^-15, any value
+    @param scaleFactor any value
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 3 */
+TARN_API TarnStatus tarnsWinBlackmanQ15_16s_ISfs(Tarn16s* pSrcDst, int len, int alphaQ15, int scaleFactor);
+
+/** @} */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
