@@ -1,0 +1,210 @@
+// The reducer: makes one value of many. Whole steps go into accumulators side by side, so that their latencies overlap;
+// the accumulators are joined, the lanes folded, and what is left of the array is taken one element at a time.
+//
+// Families give it an operation `take(state, x...)` on elements and packs, and the `join` of two states. How many
+// accumulators there are is part of a floating-point sum's rounding and stands with the family; how many lanes each has
+// follows from the level.
+#pragma once
+
+#include "frame/simd_reduce.h"
+#include "frame/walk.h"
+
+#include <array>
+
+namespace tarn {
+
+// Of an element. A complex array is taken as its parts, of which there may be more than an int counts.
+using Index = std::ptrdiff_t;
+
+// f of 0, 1, ... count - 1, as constants.
+template <int count, typename F>
+TARN_INLINE void repeat(F f)
+{
+    [&]<int... k>(std::integer_sequence<int, k...>) __attribute__((always_inline))
+    {
+        (f(std::integral_constant<int, k>{}), ...);
+    }
+    (std::make_integer_sequence<int, count>{});
+}
+
+template <typename State, int count>
+struct Accumulators {
+    std::array<State, static_cast<std::size_t>(count)> at;
+
+    explicit TARN_INLINE Accumulators(State start)
+    {
+        repeat<count>([&](auto k) { at[k] = start; });
+    }
+
+    // In the order first with third, second with fourth, then those two.
+    template <typename Join>
+    TARN_INLINE State joined(Join join) const
+    {
+        Accumulators left = *this;
+        repeat<count / 2>([&](auto k) { left.at[k] = join(at[k], at[k + count / 2]); });
+        if constexpr (count == 4) {
+            return join(left.at[0], left.at[1]);
+        } else {
+            static_assert(count <= 2);
+            return left.at[0];
+        }
+    }
+};
+
+// Takes packs of `step` elements from i on, one for each accumulator in turn, as long as there is one for each; tells
+// where it stopped.
+template <int step, typename State, int count, typename Take, typename... S>
+TARN_INLINE Index takeSteps(Accumulators<State, count>& states, Index i, Index len, Take take, S... src)
+{
+    for (; i <= len - count * step; i += count * step) {
+        repeat<count>([&](auto k) { states.at[k] = take(states.at[k], loadPack<step>(src + (i + k * step))...); });
+    }
+    return i;
+}
+
+// The rest, one pack at a time.
+template <int step, typename State, typename Take, typename... S>
+TARN_INLINE Index takePacks(State& state, Index i, Index len, Take take, S... src)
+{
+    for (; i <= len - step; i += step) {
+        state = take(state, loadPack<step>(src + i)...);
+    }
+    return i;
+}
+
+// The elements from i up to `end`.
+template <typename State, typename Take, typename... S>
+TARN_INLINE Index takeElements(State& state, Index i, Index end, Take take, S... src)
+{
+    for (; i < end; ++i) {
+        state = take(state, loadElement(src + i)...);
+    }
+    return i;
+}
+
+// How many elements one array is walked before its vectors lie on boundaries, if there are as many. Two arrays need not
+// agree, and are taken as they lie.
+template <typename T>
+TARN_INLINE Index headOf(Index len, const T* src)
+{
+    return std::min<Index>(len, elementsToBoundary(src));
+}
+template <typename... S>
+TARN_INLINE Index headOf(Index /*len*/, S... /*src*/)
+{
+    return 0;
+}
+
+// The reduction of len elements to one T, from `start`, which take() and join() must not be changed by: 0 of a sum or
+// of magnitudes, any element of an extreme.
+template <int count, typename T, typename Take, typename Join, typename... S>
+TARN_INLINE T reduce(T start, Index len, Take take, Join join, S... src)
+{
+    constexpr int step = lanes<T>;
+    T total = start;
+    Index i = takeElements(total, 0, headOf(len, src...), take, src...);
+    if (len - i >= step) {
+        Accumulators<Vector<T>, count> states(splat<Vector<T>>(start));
+        i = takeSteps<step>(states, i, len, take, src...);
+        auto lanesOfAll = states.joined(join);
+        i = takePacks<step>(lanesOfAll, i, len, take, src...);
+        total = join(total, foldLanes(lanesOfAll, join));
+    }
+    takeElements(total, i, len, take, src...);
+    return total;
+}
+
+// Exact sums in 64-bit lanes: `widen` makes a register of them from the packs of one step, `one` an integer from single
+// elements. No order of summation shows.
+template <int step, typename Widen, typename One, typename... S>
+TARN_INLINE Tarn64s sumExact(Index len, Widen widen, One one, S... src)
+{
+    const auto take = [widen](Vector<Tarn64s> sum, auto... x) { return add(sum, widen(x...)); };
+    Accumulators<Vector<Tarn64s>, 2> sums(splat<Vector<Tarn64s>>(0));
+    Index i = takeSteps<step>(sums, 0, len, take, src...);
+    auto lanesOfAll = sums.joined(add);
+    i = takePacks<step>(lanesOfAll, i, len, take, src...);
+    Tarn64s total = foldLanes(lanesOfAll, add);
+    for (; i < len; ++i) {
+        total += one(loadElement(src + i)...);
+    }
+    return total;
+}
+
+// -- Both extremes ----------------------------------------------------------------------------------------------------
+
+template <typename X>
+struct Extremes {
+    X smallest;
+    X largest;
+};
+
+// The running values come first: that decides where floats are NaNs or zeros.
+struct WidenExtremes {
+    template <typename X>
+    TARN_INLINE Extremes<X> operator()(Extremes<X> extremes, X x) const
+    {
+        return {min(extremes.smallest, x), max(extremes.largest, x)};
+    }
+    template <typename X>
+    TARN_INLINE Extremes<X> operator()(Extremes<X> a, Extremes<X> b) const
+    {
+        return {min(a.smallest, b.smallest), max(a.largest, b.largest)};
+    }
+};
+
+template <typename T>
+TARN_INLINE Extremes<T> foldExtremes(Extremes<Vector<T>> extremes)
+{
+    return {foldLanes(extremes.smallest, min), foldLanes(extremes.largest, max)};
+}
+
+// -- Views -----------------------------------------------------------------------------------------------------------
+
+// The elementwise operation of two arrays as a source of its own, for the reductions of a difference.
+template <typename Operation, typename T>
+struct Elementwise {
+    using Element = decltype(Operation{}(T{}, T{}));
+    const T* a;
+    const T* b;
+
+    TARN_INLINE Elementwise operator+(Index elements) const { return {a + elements, b + elements}; }
+};
+template <typename Operation, typename T>
+TARN_INLINE auto loadElement(Elementwise<Operation, T> source)
+{
+    return Operation{}(tarn::loadElement(source.a), tarn::loadElement(source.b));
+}
+template <int N, typename Operation, typename T>
+TARN_INLINE auto loadPack(Elementwise<Operation, T> source)
+{
+    return Operation{}(tarn::loadPack<N>(source.a), tarn::loadPack<N>(source.b));
+}
+
+template <typename T>
+using DifferenceOf = Elementwise<std::conditional_t<isComplex<T>, PerPart<Word<Sub>>, Word<Sub>>, T>;
+
+// -- Search ----------------------------------------------------------------------------------------------------------
+
+// The index of the first element that `matches(x, value)`, -1 if none of the len elements does.
+template <typename T, typename Matches>
+TARN_INLINE int indexOfFirst(const T* p, int len, T value, Matches matches)
+{
+    constexpr int step = lanes<T>;
+    const auto wanted = splat<Vector<T>>(value);
+    int i = 0;
+    for (; i <= len - step; i += step) {
+        const auto found = matches(loadPack<step>(p + i), wanted);
+        if (anyOf(found)) {
+            return i + firstSet(found);
+        }
+    }
+    for (; i < len; ++i) {
+        if (matches(loadElement(p + i), value)) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+} // namespace tarn
