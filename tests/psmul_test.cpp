@@ -75,6 +75,33 @@ TEST(Mul, ScaledProductsOf32BitComplexElements)
     }
 }
 
+// Both ways to such a product, by a vector and by a constant.
+TEST(Mul, EveryPairOfExtreme32BitComplexElements)
+{
+    const Tarn32s parts[] = {bottom, bottom + 1, -1, 0, 1, top - 1, top};
+    std::vector<Tarn32sc> elements;
+    for (const Tarn32s re : parts)
+        for (const Tarn32s im : parts)
+            elements.push_back({re, im});
+    const auto len = static_cast<int>(elements.size());
+    for (const int s : {-33, -32, -31, -30, -1, 0, 1, 2, 3, 30, 31, 32, 33, 34, 61, 62, 63, 64, 65}) {
+        for (const Tarn32sc val : elements) {
+            const std::vector<Tarn32sc> vals(elements.size(), val);
+            std::vector<Tarn32sc> products(elements.size());
+            std::vector<Tarn32sc> productsByConstant(elements.size());
+            EXPECT_EQ(tarnStsNoErr, tarnsMul_32sc_Sfs(elements.data(), vals.data(), products.data(), len, s));
+            EXPECT_EQ(tarnStsNoErr, tarnsMulC_32sc_Sfs(elements.data(), val, productsByConstant.data(), len, s));
+            for (std::size_t i = 0; i < elements.size(); ++i) {
+                const auto expected = scaledProduct<Tarn32sc>(elements[i], val, s);
+                ASSERT_TRUE(valuesMatch<Tarn32sc>(expected, products[i]))
+                    << toText(elements[i]) << " times " << toText(val) << " at " << s;
+                ASSERT_TRUE(valuesMatch<Tarn32sc>(expected, productsByConstant[i]))
+                    << toText(elements[i]) << " times " << toText(val) << " at " << s;
+            }
+        }
+    }
+}
+
 TEST(Mul, ProductsOf32BitsByWayOfDoubles)
 {
     sweepScaled<Tarn32s>(tarnsMul_32s_Sfs, tarnsMul_32s_ISfs, range_32s,

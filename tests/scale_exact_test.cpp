@@ -19,7 +19,7 @@ struct ByteProduct {
     }
 };
 
-struct UnsignedProduct {
+struct WideProduct {
     template <class X, class Y>
     auto operator()(X a, Y b) const
     {
@@ -78,8 +78,14 @@ TEST(ScaleExact, ProductsOfBytes)
 
 TEST(ScaleExact, ProductsThatFill32Bits)
 {
-    expectRule<Tarn16s, Tarn16u, Tarn16s, ExactCases<Tarn16s, UnsignedProduct>>(
-        31, 15, [](Tarn64s a, Tarn64s b) { return a * b; });
+    expectRule<Tarn16s, Tarn16u, Tarn16s, ExactCases<Tarn16s, WideProduct>>(31, 15,
+                                                                            [](Tarn64s a, Tarn64s b) { return a * b; });
+}
+
+TEST(ScaleExact, ProductsOf64Bits)
+{
+    expectRule<Tarn32s, Tarn32s, Tarn32s, ExactCases<Tarn32s, WideProduct>>(62, 31,
+                                                                            [](Tarn64s a, Tarn64s b) { return a * b; });
 }
 
 TEST(ScaleExact, SumsOf33Bits)

@@ -16,6 +16,7 @@ TEST(SimdMul, ExactProducts)
     expectAgreement<Tarn8u, Tarn8u>(mulWidened);
     expectAgreement<Tarn16s, Tarn16s>(mulWidened);
     expectAgreement<Tarn16u, Tarn16s>(mulWidened);
+    expectAgreement<Tarn32s, Tarn32s>(mulWidened);
     expectAgreement<Tarn16s, Tarn16s, Tarn16s>(mulAddWidened);
     EXPECT_EQ(65025, mulWidened(Tarn8u{255}, Tarn8u{255}));
     EXPECT_EQ(1 << 30, mulWidened(Tarn16s{-32768}, Tarn16s{-32768}));
@@ -57,6 +58,7 @@ TEST(SimdMul, ComplexWordProductsOfExtremes)
 TEST(SimdMul, PartsOfComplexElements)
 {
     expectAgreement<Tarn16sc, Tarn16sc>(mulComplex);
+    expectAgreement<Tarn32sc, Tarn32sc>(mulComplex);
     expectAgreement<Tarn16sc, Tarn16sc>(dotParts);
     expectAgreement<Tarn32s, Tarn32s>(joinParts);
     expectAgreement<Tarn16sc>(conjugateWrapped);
@@ -85,6 +87,14 @@ TEST(SimdMul, ComplexProductsOf32Bits)
     const auto negative = mulComplex(Tarn32sc{bottom, bottom}, Tarn32sc{top, bottom});
     EXPECT_EQ(Tarn64s{bottom} * top - (Tarn64s{1} << 62), negative.re);
     EXPECT_EQ((Tarn64s{1} << 62) + Tarn64s{bottom} * top, negative.im);
+}
+
+TEST(SimdMul, Results64BitsWide)
+{
+    expectAgreement<Tarn64s>(signsOf64s);
+    expectAgreement<Tarn32s, Tarn32s>([](auto a, auto b) { return narrowSaturated64(mulWidened(a, b)); });
+    for (int n = 0; n <= 64; ++n)
+        expectAgreement<Tarn64s>([n](auto x) { return shiftRight64(x, n); });
 }
 
 TEST(SimdMul, DoublesAnd32Bits)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/kernels.h"
+#include "frame/simd_mul.h"
 
 namespace tarn {
 
@@ -13,6 +14,20 @@ struct FullWidth {
 };
 template <typename X>
 FullWidth(X) -> FullWidth<X>;
+
+// Rounding to even is the same on either side of zero, and a magnitude has the room that its sign leaves. There is no
+// arithmetic shift of 64-bit lanes either.
+template <int N>
+TARN_INLINE Pack<Tarn64s, N> shiftRounded(FullWidth<Pack<Tarn64s, N>> t, int s)
+{
+    using X = Pack<Tarn64s, N>;
+    const auto signs = signsOf64s(t.value);
+    const auto magnitude = sub(bitXor(t.value, signs), signs);
+    const auto half = splat<X>((Tarn64s{1} << (s - 1)) - 1);
+    const auto oddQuotient = bitAnd(shiftRight64(magnitude, s), splat<X>(1));
+    const auto rounded = shiftRight64(add(add(magnitude, half), oddQuotient), s);
+    return sub(bitXor(rounded, signs), signs);
+}
 
 // The mean of two operands, rounded down, has no more bits than they have; it is one step of the shift.
 template <typename X>
@@ -38,7 +53,12 @@ TARN_INLINE X halveRounded(FullWidth<X> t)
 template <typename D, typename X>
 TARN_INLINE auto limitTo(X t)
 {
-    return narrowSaturated<D>(t);
+    if constexpr (std::is_same_v<Element<X>, Tarn64s>) {
+        static_assert(std::is_same_v<D, Tarn32s>);
+        return narrowSaturated64(t);
+    } else {
+        return narrowSaturated<D>(t);
+    }
 }
 
 // The narrowing of vectors takes 16 bits for signed ones, so what is above the bound leaves before.
@@ -49,7 +69,7 @@ TARN_INLINE auto limitTo(FullWidth<X> t)
         const auto excess = subSaturated(t.value, splat<X>(highest<D>));
         return narrowSaturated<D>(sub(t.value, excess));
     } else {
-        return narrowSaturated<D>(t.value);
+        return limitTo<D>(t.value);
     }
 }
 
@@ -115,7 +135,7 @@ struct HalveStep {
     template <typename X>
     TARN_INLINE auto operator()(X t) const
     {
-        return narrowSaturated<D>(halveRounded(t));
+        return limitTo<D>(halveRounded(t));
     }
 };
 
@@ -125,7 +145,7 @@ struct ShiftDownStep {
     template <typename X>
     TARN_INLINE auto operator()(X t) const
     {
-        return narrowSaturated<D>(shiftRounded(t, s));
+        return limitTo<D>(shiftRounded(t, s));
     }
 };
 

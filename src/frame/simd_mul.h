@@ -7,11 +7,27 @@ namespace tarn {
 
 // -- Exact products of real elements ---------------------------------------------------------------------------------
 
-// a times b in twice the width; both operands are bytes, or words of which the second is signed.
+// The 64-bit products of the signed 32-bit lanes at even places, and of those at odd ones. The instruction takes lanes
+// for unsigned: a negative operand counts 2^32 too much, which is the other operand too much in the upper half.
+struct EvenOddProducts {
+    __m128i even, odd;
+};
+TARN_INLINE EvenOddProducts evenOddProducts(__m128i a, __m128i b)
+{
+    const __m128i excess =
+        _mm_add_epi32(_mm_and_si128(_mm_srai_epi32(a, 31), b), _mm_and_si128(_mm_srai_epi32(b, 31), a));
+    const __m128i upperHalves = _mm_slli_epi64(_mm_set1_epi32(-1), 32);
+    return {
+        _mm_sub_epi64(_mm_mul_epu32(a, b), _mm_slli_epi64(excess, 32)),
+        _mm_sub_epi64(_mm_mul_epu32(_mm_srli_epi64(a, 32), _mm_srli_epi64(b, 32)), _mm_and_si128(excess, upperHalves))};
+}
+
+// a times b in twice the width; both operands are bytes, words of which the second is signed, or signed and 32 bits.
 struct MulWidened {
     static TARN_INLINE Tarn16u of(Tarn8u a, Tarn8u b) { return static_cast<Tarn16u>(a * b); }
     static TARN_INLINE Tarn32s of(Tarn16s a, Tarn16s b) { return Tarn32s{a} * b; }
     static TARN_INLINE Tarn32s of(Tarn16u a, Tarn16s b) { return Tarn32s{a} * b; }
+    static TARN_INLINE Tarn64s of(Tarn32s a, Tarn32s b) { return Tarn64s{a} * b; }
     static TARN_INLINE auto of(Vector<Tarn8u> a, Vector<Tarn8u> b)
     {
         const auto x = widen(a);
@@ -27,6 +43,11 @@ struct MulWidened {
     {
         const __m128i excess = _mm_and_si128(a.v, _mm_srai_epi16(b.v, 15));
         return fromHalves(_mm_mullo_epi16(a.v, b.v), _mm_sub_epi16(_mm_mulhi_epu16(a.v, b.v), excess));
+    }
+    static TARN_INLINE auto of(Vector<Tarn32s> a, Vector<Tarn32s> b)
+    {
+        const auto [even, odd] = evenOddProducts(a.v, b.v);
+        return Pack<Tarn64s, 2 * lanes<Tarn64s>>{{_mm_unpacklo_epi64(even, odd)}, {_mm_unpackhi_epi64(even, odd)}};
     }
 
 private:
@@ -123,6 +144,19 @@ struct MulComplex {
         return JoinParts::of(Vector<Tarn32s>{re}, Vector<Tarn32s>{_mm_add_epi32(im, tooHigh)});
     }
 
+    static TARN_INLINE auto of(Vector<Tarn32sc> a, Vector<Tarn32sc> b)
+    {
+        const auto straight = evenOddProducts(a.v, b.v);
+        const auto crossed = evenOddProducts(a.v, _mm_shuffle_epi32(b.v, 0xB1));
+        const __m128i re = _mm_sub_epi64(straight.even, straight.odd);
+        const __m128i im = _mm_add_epi64(crossed.even, crossed.odd);
+        // Here too no other sum comes that low: the upper half tells.
+        const __m128i lowestHalves = _mm_cmpeq_epi32(im, _mm_set1_epi32(lowest<Tarn32s>));
+        const __m128i limited = _mm_add_epi64(im, _mm_shuffle_epi32(lowestHalves, 0xF5));
+        return Pack<Tarn64sc, 2 * lanes<Tarn64sc>>{{_mm_unpacklo_epi64(re, limited)},
+                                                   {_mm_unpackhi_epi64(re, limited)}};
+    }
+
     template <typename T>
         requires(isComplex<T>&& Float<Part<T>>)
     static TARN_INLINE T of(T a, T b) { return {b.re * a.re - b.im * a.im, b.re * a.im + b.im * a.re}; }
@@ -140,6 +174,44 @@ struct MulComplex {
     }
 };
 inline constexpr Word<MulComplex> mulComplex;
+
+// -- 64-bit results
+// ----------------------------------------------------------------------------------------------------
+
+// All ones where the element is negative, zeros elsewhere.
+struct SignsOf64s {
+    static TARN_INLINE Tarn64s of(Tarn64s x) { return x >> 63; }
+    static TARN_INLINE Vector<Tarn64s> of(Vector<Tarn64s> x)
+    {
+        return {_mm_srai_epi32(_mm_shuffle_epi32(x.v, 0xF5), 31)};
+    }
+};
+inline constexpr Word<SignsOf64s> signsOf64s;
+
+// Right shift that brings in zeros.
+struct ShiftRight64 {
+    static TARN_INLINE Tarn64s of(Tarn64s x, int n) { return ShiftRightLogical::of(x, n); }
+    static TARN_INLINE Vector<Tarn64s> of(Vector<Tarn64s> x, int n)
+    {
+        return {_mm_srl_epi64(x.v, _mm_cvtsi32_si128(n))};
+    }
+};
+inline constexpr Word<ShiftRight64> shiftRight64;
+
+// Limited to the bounds of 32 bits.
+struct NarrowSaturated64 {
+    static TARN_INLINE Tarn32s of(Tarn64s x) { return clampTo<Tarn32s>(x); }
+    static TARN_INLINE Vector<Tarn32s> of(Pack<Tarn64s, 2 * lanes<Tarn64s>> x)
+    {
+        const __m128 lo = _mm_castsi128_ps(x.lo.v);
+        const __m128 hi = _mm_castsi128_ps(x.hi.v);
+        const Vector<Tarn32s> low{_mm_castps_si128(_mm_shuffle_ps(lo, hi, 0x88))};
+        const Vector<Tarn32s> high{_mm_castps_si128(_mm_shuffle_ps(lo, hi, 0xDD))};
+        const auto bound = BitXor::of(ShiftRight::of(high, 31), splat<Vector<Tarn32s>>(highest<Tarn32s>));
+        return SelectInteger::of(EqualInteger::of(ShiftRight::of(low, 31), high), low, bound);
+    }
+};
+inline constexpr Word<NarrowSaturated64> narrowSaturated64;
 
 // -- 32-bit integers and doubles
 // ---------------------------------------------------------------------------------------

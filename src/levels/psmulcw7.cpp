@@ -19,10 +19,6 @@ struct ComplexProductByConstant {
     }
 };
 
-struct ComplexProductOf32s {
-    TARN_INLINE auto operator()(Tarn32sc a, Tarn32sc b) const { return FullWidth{mulComplex(a, b)}; }
-};
-
 // The lowest integer, which a conversion gives for all that does not fit, ends at the lower bound: right for what is
 // below, and for NaN, but the upper limit is held beforehand. In this order of operands the minimum lets NaN through.
 struct LimitedProductTo16s {
@@ -45,8 +41,8 @@ using Bytes = ExactCases<Tarn8u, FullProduct>;
 using Words = ExactCases<Tarn16s, ExactProduct>;
 using ComplexWords = ExactCases<Tarn16sc, ComplexProductByConstant>;
 using ComplexWordsOvf = ExactCases<Tarn16sc, ComplexProduct>;
-using Real32s = ExactCases<Tarn32s, ExactProductOf32s>;
-using Complex32s = ExactCases<Tarn32sc, ComplexProductOf32s>;
+using Real32s = ExactCases<Tarn32s, FullProduct>;
+using Complex32s = ExactCases<Tarn32sc, ComplexProduct>;
 
 } // namespace
 
@@ -73,14 +69,13 @@ void ownsMulC_16s_NegSfs(const Tarn16s* pSrc, Tarn16s val, Tarn16s* pDst, int le
     apply(Words::Neg{shift}, pSrc, val, pDst, len);
 }
 
-constinit const ConstantKernels<Tarn32s> tarn::mulC_32s =
-    tableOf<ConstantKernels<Tarn32s>, Real32s, OneByOne>(productLimits_32s);
+constinit const ConstantKernels<Tarn32s> tarn::mulC_32s = tableOf<ConstantKernels<Tarn32s>, Real32s>(productLimits_32s);
 constinit const ConstantKernels_I<Tarn32s> tarn::mulC_32s_I =
-    tableOf<ConstantKernels_I<Tarn32s>, Real32s, OneByOne>(productLimits_32s);
+    tableOf<ConstantKernels_I<Tarn32s>, Real32s>(productLimits_32s);
 constinit const ConstantKernels<Tarn32sc> tarn::mulC_32sc =
-    tableOf<ConstantKernels<Tarn32sc>, Complex32s, OneByOne>(productLimits_32sc);
+    tableOf<ConstantKernels<Tarn32sc>, Complex32s>(productLimits_32sc);
 constinit const ConstantKernels_I<Tarn32sc> tarn::mulC_32sc_I =
-    tableOf<ConstantKernels_I<Tarn32sc>, Complex32s, OneByOne>(productLimits_32sc);
+    tableOf<ConstantKernels_I<Tarn32sc>, Complex32s>(productLimits_32sc);
 
 void ownsMulC_32f16s(const Tarn32f* pSrc, Tarn32f val, Tarn16s* pDst, int len)
 {

@@ -16,12 +16,19 @@ struct ProductToFloat {
     }
 };
 
-struct ComplexProductOf32s {
-    TARN_INLINE auto operator()(Tarn32sc a, Tarn32sc b) const { return FullWidth{mulComplex(a, b)}; }
-};
-
-struct MixedProductOf32s {
-    TARN_INLINE Tarn64sc operator()(Tarn32s a, Tarn32sc b) const { return {Tarn64s{a} * b.re, Tarn64s{a} * b.im}; }
+// A real element times a complex one.
+struct MixedProduct {
+    TARN_INLINE auto operator()(Tarn32s a, Tarn32sc b) const
+    {
+        return FullWidth{Tarn64sc{mulWidened(a, b.re), mulWidened(a, b.im)}};
+    }
+    template <int N>
+    TARN_INLINE auto operator()(Pack<Tarn32s, N> a, Pack<Tarn32sc, N> b) const
+    {
+        const auto twice = joinParts(a, a);
+        return FullWidth{
+            reinterpretPack<Tarn64sc>(mulWidened(reinterpretPack<Tarn32s>(twice), reinterpretPack<Tarn32s>(b)))};
+    }
 };
 
 // The factor is applied to the first operand.
@@ -43,8 +50,8 @@ using Words = ExactCases<Tarn16s, ExactProduct>;
 using UnsignedWords = ExactCases<Tarn16s, FullProduct>;
 using WordsTo32s = ExactCases<Tarn32s, ExactProduct>;
 using ComplexWords = ExactCases<Tarn16sc, ComplexProduct>;
-using Complex32s = ExactCases<Tarn32sc, ComplexProductOf32s>;
-using Mixed32s = ExactCases<Tarn32sc, MixedProductOf32s>;
+using Complex32s = ExactCases<Tarn32sc, ComplexProduct>;
+using Mixed32s = ExactCases<Tarn32sc, MixedProduct>;
 
 } // namespace
 
@@ -69,12 +76,12 @@ TARN_DEFINE_KERNEL(ownsMul_16sc_I_Bound, VECTORS_I, Tarn16sc, ComplexWords::Sign
 TARN_DEFINE_KERNEL(tarn::mulBound_32s, VECTORS, Tarn32s, SignOfWhole<ProductByDoubles>{})
 TARN_DEFINE_KERNEL(tarn::mulBound_32s_I, VECTORS_I, Tarn32s, SignOfWhole<ProductByDoubles>{})
 
-constinit const MixedKernels tarn::mul_32s32sc = tableOf<MixedKernels, Mixed32s, OneByOne>(productLimits_32s);
-constinit const MixedKernels_I tarn::mul_32s32sc_I = tableOf<MixedKernels_I, Mixed32s, OneByOne>(productLimits_32s);
+constinit const MixedKernels tarn::mul_32s32sc = tableOf<MixedKernels, Mixed32s>(productLimits_32s);
+constinit const MixedKernels_I tarn::mul_32s32sc_I = tableOf<MixedKernels_I, Mixed32s>(productLimits_32s);
 constinit const VectorKernels<Tarn32sc> tarn::mul_32sc =
-    tableOf<VectorKernels<Tarn32sc>, Complex32s, OneByOne>(productLimits_32sc);
+    tableOf<VectorKernels<Tarn32sc>, Complex32s>(productLimits_32sc);
 constinit const VectorKernels_I<Tarn32sc> tarn::mul_32sc_I =
-    tableOf<VectorKernels_I<Tarn32sc>, Complex32s, OneByOne>(productLimits_32sc);
+    tableOf<VectorKernels_I<Tarn32sc>, Complex32s>(productLimits_32sc);
 
 void ownsMul_8u16u(const Tarn8u* pSrc1, const Tarn8u* pSrc2, Tarn16u* pDst, int len)
 {

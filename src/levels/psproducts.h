@@ -20,7 +20,7 @@ struct ExactProduct {
     }
 };
 
-// Bytes, or an unsigned word and a signed one: rounding may carry out of the top.
+// Bytes, an unsigned word and a signed one, or 32 bits each: rounding may carry out of the top, or has no other form.
 struct FullProduct {
     template <typename X, typename Y>
     TARN_INLINE auto operator()(X a, Y b) const
@@ -35,10 +35,6 @@ struct ComplexProduct {
     {
         return FullWidth{mulComplex(a, b)};
     }
-};
-
-struct ExactProductOf32s {
-    TARN_INLINE Tarn64s operator()(Tarn32s a, Tarn32s b) const { return Tarn64s{a} * b; }
 };
 
 // -- 32-bit products by way of doubles
