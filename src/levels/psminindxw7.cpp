@@ -23,6 +23,13 @@ struct ForMinimum {
     {
         return !(x >= record);
     }
+    // Element by element a NaN gives way to whatever follows, and so does what has taken its place: the last element it
+    // is in the end.
+    template <typename T>
+    static TARN_INLINE bool yieldsToLast(T record)
+    {
+        return record != record;
+    }
 };
 struct ForMaximum {
     static constexpr auto selection = max;
@@ -30,6 +37,11 @@ struct ForMaximum {
     static TARN_INLINE bool improves(T x, T record)
     {
         return x > record;
+    }
+    template <typename T>
+    static TARN_INLINE bool yieldsToLast(T /*record*/)
+    {
+        return false;
     }
 };
 
@@ -41,7 +53,7 @@ struct Record {
 
 // The elements from i up to `end`, one by one.
 template <typename Extreme, typename T>
-TARN_INLINE int scan(Record<T>& record, const T* p, int i, int end)
+TARN_INLINE void scan(Record<T>& record, const T* p, int i, int end)
 {
     for (; i < end; ++i) {
         const T x = loadElement(p + i);
@@ -49,7 +61,6 @@ TARN_INLINE int scan(Record<T>& record, const T* p, int i, int end)
             record = {x, i};
         }
     }
-    return i;
 }
 
 template <typename T>
@@ -63,7 +74,15 @@ template <typename Extreme, typename T>
 TARN_INLINE void byElement(const T* p, int len, T* value, int* index)
 {
     Record<T> record{loadElement(p), 0};
-    scan<Extreme>(record, p, 1, len);
+    for (int i = 1; i < len && !Extreme::yieldsToLast(record.value); ++i) {
+        const T x = loadElement(p + i);
+        if (Extreme::improves(x, record.value)) {
+            record = {x, i};
+        }
+    }
+    if (Extreme::yieldsToLast(record.value)) {
+        record = {loadElement(p + len - 1), len - 1};
+    }
     storeRecord(record, value, index);
 }
 
@@ -89,8 +108,8 @@ TARN_INLINE void byBlock(void (*extremeOf)(const T*, int, T*), int (*indexOf)(co
     constexpr int block = blockBytes / sizeof(T);
     constexpr int step = 2 * lanes<T>;
     Record<T> record{loadElement(p), 0};
-    int i = scan<Extreme>(record, p, 1, std::max(1, std::min(head, len)));
-    i = std::min(head, len);
+    int i = std::min(head, len);
+    scan<Extreme>(record, p, 1, i);
     for (int rest = (len - i) / step * step, taken = 0; rest > 0; rest -= taken, i += taken) {
         taken = std::min(rest, block);
         T best;
