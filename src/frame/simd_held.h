@@ -28,6 +28,17 @@ TARN_INLINE void release(T* p, decltype(hold(p)) element)
     }
 }
 
+// The element itself, to be computed with.
+template <typename T>
+TARN_INLINE T valueOf(decltype(hold(static_cast<const T*>(nullptr))) element)
+{
+    if constexpr (std::is_same_v<T, Tarn64f>) {
+        return _mm_cvtsd_f64(_mm_castsi128_pd(element));
+    } else {
+        return element;
+    }
+}
+
 template <typename T>
 TARN_INLINE void moveElement(T* to, const T* from)
 {

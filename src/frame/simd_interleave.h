@@ -96,9 +96,8 @@ TARN_INLINE std::array<Vector<T>, Channels> weave(const std::array<Vector<T>, Ch
 template <typename T>
 TARN_INLINE void storeHalves(T* low, T* high, Vector<T> x)
 {
-    const __m128d both = reinterpret_cast<__m128d>(x.v);
-    _mm_storel_pd(reinterpret_cast<double*>(low), both);
-    _mm_storeh_pd(reinterpret_cast<double*>(high), both);
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(low), reinterpret_cast<__m128i>(x.v));
+    _mm_storeh_pi(reinterpret_cast<__m64*>(high), reinterpret_cast<__m128>(x.v));
 }
 
 } // namespace tarn

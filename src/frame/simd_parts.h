@@ -57,15 +57,36 @@ TARN_INLINE X fromDoubles(Pack<Tarn64f, N> parts)
     }
 }
 
-// re^2 + im^2 in the places of both parts; three operations, three roundings.
-struct SquaredMagnitudes {
-    static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> parts)
-    {
-        const __m128d squares = _mm_mul_pd(parts.v, parts.v);
-        return {_mm_hadd_pd(squares, squares)};
+// re^2 + im^2 of each pair of parts, three operations and three roundings. Of one pair alone in both lanes.
+template <int N>
+TARN_INLINE auto squaredMagnitudes(Pack<Tarn64f, N> parts)
+{
+    constexpr int whole = lanes<Tarn64f>;
+    if constexpr (N > 2 * whole) {
+        return join(squaredMagnitudes(parts.lo), squaredMagnitudes(parts.hi));
+    } else {
+        const auto squares = mul(parts, parts);
+        if constexpr (N == whole) {
+            return Vector<Tarn64f>{_mm_hadd_pd(squares.v, squares.v)};
+        } else {
+            return Vector<Tarn64f>{_mm_hadd_pd(squares.lo.v, squares.hi.v)};
+        }
     }
-};
-inline constexpr Word<SquaredMagnitudes> squaredMagnitudes;
+}
+
+// What squaredMagnitudes gives, or comes of it, in the places of both parts again.
+template <typename D, int N>
+TARN_INLINE D inBothParts(Pack<Tarn64f, N> perElement)
+{
+    if constexpr (D::size == N) {
+        return perElement;
+    } else if constexpr (N > lanes<Tarn64f>) {
+        return {inBothParts<decltype(D::lo)>(perElement.lo), inBothParts<decltype(D::lo)>(perElement.hi)};
+    } else {
+        const __m128d x = perElement.v;
+        return {{_mm_unpacklo_pd(x, x)}, {_mm_unpackhi_pd(x, x)}};
+    }
+}
 
 // The larger of |re| and |im| in the places of both.
 struct LargerParts {
@@ -98,22 +119,15 @@ TARN_INLINE D realParts(Tarn64f re)
     }
 }
 
-// A mask over parts as a mask over the elements themselves: a bool, or a pack of X's type.
+// A mask that compares what squaredMagnitudes gives, as a mask over the elements themselves: a bool, or a pack whose
+// lanes cover an element each.
 template <typename X, int N>
 TARN_INLINE auto elementMask(Pack<Tarn64f, N> mask)
 {
-    using T = Element<X>;
     if constexpr (!isPack<X>) {
         return anyOf(mask);
-    } else if constexpr (std::is_same_v<T, Tarn64fc>) {
-        return reinterpretPack<T>(mask);
-    } else if constexpr (X::size > lanes<T>) {
-        return join(elementMask<decltype(X::lo)>(mask.lo), elementMask<decltype(X::hi)>(mask.hi));
     } else {
-        static_assert(std::is_same_v<T, Tarn32fc>);
-        const __m128 lo = _mm_castpd_ps(mask.lo.v);
-        const __m128 hi = _mm_castpd_ps(mask.hi.v);
-        return X{_mm_shuffle_ps(lo, hi, 0x88)};
+        return mask;
     }
 }
 
@@ -121,8 +135,8 @@ TARN_INLINE auto elementMask(Pack<Tarn64f, N> mask)
 template <typename T>
     requires isComplex<T> TARN_INLINE T chooseElements(bool mask, T yes, T no) { return mask ? yes : no; }
 
-template <typename M, typename T, int N>
-TARN_INLINE Pack<T, N> chooseElements(Pack<M, N> mask, Pack<T, N> yes, Pack<T, N> no)
+template <typename M, int K, typename T, int N>
+TARN_INLINE Pack<T, N> chooseElements(Pack<M, K> mask, Pack<T, N> yes, Pack<T, N> no)
 {
     using P = Part<T>;
     return reinterpretPack<T>(select(reinterpretPack<P>(mask), reinterpretPack<P>(yes), reinterpretPack<P>(no)));

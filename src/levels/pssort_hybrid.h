@@ -23,8 +23,7 @@ template <typename T>
 struct Elements {
     T* p;
 
-    TARN_INLINE T operator[](std::ptrdiff_t i) const { return loadElement(p + i); }
-    TARN_INLINE void set(std::ptrdiff_t i, T x) const { store(p + i, x); }
+    TARN_INLINE T operator[](std::ptrdiff_t i) const { return valueOf<T>(hold(p + i)); }
     TARN_INLINE void move(std::ptrdiff_t to, std::ptrdiff_t from) const { moveElement(p + to, p + from); }
     TARN_INLINE void swap(std::ptrdiff_t i, std::ptrdiff_t k) const { swapElements(p + i, p + k); }
 };
@@ -39,7 +38,8 @@ template <typename T, typename Before>
 void sortShort(Elements<T> a, int first, int last, Before before)
 {
     for (int i = first + 1; i <= last; ++i) {
-        const T x = a[i];
+        const auto held = hold(a.p + i);
+        const T x = valueOf<T>(held);
         int k = i;
         if (before(x, a[first])) {
             for (; k > first; --k) {
@@ -51,7 +51,7 @@ void sortShort(Elements<T> a, int first, int last, Before before)
                 a.move(k, k - 1);
             }
         }
-        a.set(k, x);
+        release(a.p + k, held);
     }
 }
 
@@ -157,7 +157,8 @@ int partition(Elements<T> a, int first, int end, T pivot, Before before)
 template <typename T, typename Before>
 void siftDown(Elements<T> a, int first, int root, int count, Before before)
 {
-    const T x = a[first + root];
+    const auto held = hold(a.p + first + root);
+    const T x = valueOf<T>(held);
     for (int child = 2 * root + 1; child < count; child = 2 * root + 1) {
         if (child + 1 < count && before(a[first + child], a[first + child + 1])) {
             ++child;
@@ -168,7 +169,7 @@ void siftDown(Elements<T> a, int first, int root, int count, Before before)
         a.move(first + root, first + child);
         root = child;
     }
-    a.set(first + root, x);
+    release(a.p + first + root, held);
 }
 
 // For ranges on which the pivots were bad again and again.

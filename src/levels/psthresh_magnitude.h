@@ -10,10 +10,12 @@
 
 namespace tarn {
 
-// An element, or pack of them, measured. The parts are those of the element times the factor, a power of two.
-template <typename D>
+// An element, or pack of them, measured: its parts times a power of two, that factor, and their squares summed. Factors
+// and squares are one for each element, or one for each part where a register has room for one element only.
+template <typename D, typename S>
 struct Measured {
-    D factor, parts, squares;
+    D parts;
+    S factor, squares;
 };
 
 template <typename T, typename D>
@@ -31,17 +33,25 @@ TARN_INLINE D rangeFactor(D parts)
 template <typename X>
 TARN_INLINE auto measure(X z)
 {
+    using T = Element<X>;
     const auto parts = asDoubles(z);
-    const auto factor = rangeFactor<Element<X>>(parts);
+    const auto factor = rangeFactor<T>(parts);
     const auto moved = mul(parts, factor);
-    return Measured<std::remove_const_t<decltype(moved)>>{factor, moved, squaredMagnitudes(moved)};
+    const auto squares = squaredMagnitudes(moved);
+    using D = std::remove_const_t<decltype(moved)>;
+    using S = std::remove_const_t<decltype(squares)>;
+    if constexpr (std::is_same_v<D, S>) {
+        return Measured<D, S>{moved, factor, squares};
+    } else {
+        return Measured<D, S>{moved, splat<S>(1), squares};
+    }
 }
 
-// True in the places of the parts of an element whose magnitude compares with the level as asked.
-template <typename Comparison, typename D>
-TARN_INLINE D compareMagnitudes(Comparison comparison, Measured<D> z, Tarn64f level)
+// True for an element whose magnitude compares with the level as asked.
+template <typename Comparison, typename D, typename S>
+TARN_INLINE S compareMagnitudes(Comparison comparison, Measured<D, S> z, Tarn64f level)
 {
-    const auto movedLevel = mul(splat<D>(level), z.factor);
+    const auto movedLevel = mul(splat<S>(level), z.factor);
     return comparison(z.squares, mul(movedLevel, movedLevel));
 }
 

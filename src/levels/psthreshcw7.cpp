@@ -18,20 +18,20 @@ TARN_INLINE D realWithSigns(Tarn64f magnitude, D signedZeros)
 // The parts of elements moved to the magnitude `level`, part * level / magnitude. The order is the element type's: the
 // products of integers are exact, so that ties are told when the division comes last; a quotient of two doubles may
 // leave the range, unless it is that of a part and its own magnitude.
-template <typename T, typename D>
-TARN_INLINE D scaledTo(Tarn64f level, Measured<D> z)
+template <typename T, typename D, typename S>
+TARN_INLINE D scaledTo(Tarn64f level, Measured<D, S> z)
 {
     const auto magnitude = squareRoot(z.squares);
-    const auto levels = splat<D>(level);
     D scaled;
     if constexpr (std::is_same_v<T, Tarn16sc>) {
-        scaled = tarn::div(mul(z.parts, levels), magnitude);
+        scaled = tarn::div(mul(z.parts, splat<D>(level)), inBothParts<D>(magnitude));
     } else if constexpr (std::is_same_v<T, Tarn64fc>) {
-        scaled = mul(tarn::div(z.parts, magnitude), levels);
+        scaled = mul(tarn::div(z.parts, inBothParts<D>(magnitude)), splat<D>(level));
     } else {
-        scaled = mul(z.parts, tarn::div(levels, magnitude));
+        scaled = mul(z.parts, inBothParts<D>(tarn::div(splat<S>(level), magnitude)));
     }
-    return tarn::select(equal(z.squares, splat<D>(0)), realWithSigns(level, z.parts), scaled);
+    const auto zero = equal(z.squares, splat<S>(0));
+    return anyOf(zero) ? tarn::select(inBothParts<D>(zero), realWithSigns(level, z.parts), scaled) : scaled;
 }
 
 template <typename Comparison, typename T>

@@ -70,16 +70,17 @@ struct InvertedComplex {
     {
         const auto z = measure(x);
         using D = decltype(z.parts);
+        using S = decltype(z.squares);
         const auto conjugates = conjugateParts(z.parts);
-        auto inverse = mul(tarn::div(conjugates, z.squares), z.factor);
+        D inverse = mul(tarn::div(conjugates, inBothParts<D>(z.squares)), inBothParts<D>(z.factor));
         const auto below = compareMagnitudes(less, z, level);
         if (anyOf(below)) {
-            const auto raisedInverse = tarn::div(tarn::div(conjugates, squareRoot(z.squares)), splat<D>(level));
-            inverse = tarn::select(below, raisedInverse, inverse);
+            const auto phases = tarn::div(conjugates, inBothParts<D>(squareRoot(z.squares)));
+            inverse = tarn::select(inBothParts<D>(below), tarn::div(phases, splat<D>(level)), inverse);
         }
-        const auto zero = equal(z.squares, splat<D>(0));
+        const auto zero = equal(z.squares, splat<S>(0));
         if (anyOf(zero)) {
-            inverse = tarn::select(zero, ofZero(conjugates), inverse);
+            inverse = tarn::select(inBothParts<D>(zero), ofZero(conjugates), inverse);
         }
         return fromDoubles<X>(inverse);
     }
