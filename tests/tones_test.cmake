@@ -1,0 +1,59 @@
+# Runs the example that lists tones over a square wave, whose harmonics are known, and over what it has to refuse.
+cmake_minimum_required(VERSION 3.25)
+file(REMOVE_RECURSE ${WORK_DIR})
+file(MAKE_DIRECTORY ${WORK_DIR})
+
+# Half a period of 32 samples 0x6161, half of 0x2121: amplitude 8224, period 64 samples, or 750 Hz at 48000. The
+# harmonic m has the amplitude 8224 / (16 sin(pi m / 64)).
+string(REPEAT "a" 64 high)
+string(REPEAT "!" 64 low)
+string(REPEAT "${high}${low}" 600 wave)
+file(WRITE ${WORK_DIR}/square "${wave}")
+
+# The same with a period of 50 samples, 960 Hz, which lies between two bins. For an odd half the harmonic m has the
+# amplitude 8224 / (12.5 sin(pi m / 50)).
+string(REPEAT "a" 50 high)
+string(REPEAT "!" 50 low)
+string(REPEAT "${high}${low}" 800 wave)
+file(WRITE ${WORK_DIR}/between "${wave}")
+
+function(expect_tones expression input)
+    execute_process(COMMAND ${TONES} ${ARGN} INPUT_FILE ${WORK_DIR}/${input} OUTPUT_VARIABLE output
+        COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT output MATCHES "${expression}")
+        message(SEND_ERROR "tones ${ARGN} <${input}: ${output}")
+    endif()
+endfunction()
+
+function(expect_refusal reason input)
+    execute_process(COMMAND ${TONES} ${ARGN} INPUT_FILE ${input} RESULT_VARIABLE status ERROR_VARIABLE message
+        OUTPUT_VARIABLE output)
+    if(NOT status EQUAL 1 OR NOT message MATCHES "${reason}" OR NOT output STREQUAL "")
+        message(SEND_ERROR "tones ${ARGN} <${input}: status ${status}, message ${message}, output ${output}")
+    endif()
+endfunction()
+
+expect_tones("^ *750.00 Hz +-9.91 dB\n *2250.00 Hz +-19.42 dB\n *3750.00 Hz +-23.80 dB\n$" square --count 3)
+expect_tones("^ *689.06 Hz +-9.91 dB\n$" square --count 1 --rate 44100)
+expect_tones("^ *960.00 Hz +-9.90 dB\n *2880.00 Hz +-19.40 dB\n$" between --count 2)
+
+# In short blocks neighbours leak into each other: a hundredth of a bin is what can be had.
+expect_tones("^ *7(49.[6-9]|50.[0-4])[0-9] Hz +-9.9[0-2] dB\n$" square
+    --count 1 --order 10 --spectrum ${WORK_DIR}/spectrum)
+file(STRINGS ${WORK_DIR}/spectrum lines)
+list(LENGTH lines count)
+list(GET lines 16 fundamental)
+if(NOT count EQUAL 513 OR NOT fundamental STREQUAL "750.000 -9.91")
+    message(SEND_ERROR "a spectrum of ${count} lines, bin 16 is ${fundamental}")
+endif()
+
+file(WRITE ${WORK_DIR}/empty "")
+string(REPEAT "a" 33 text)
+file(WRITE ${WORK_DIR}/odd "${text}")
+expect_refusal("standard input: too short: a block has 16384 samples" ${WORK_DIR}/empty)
+expect_refusal("standard input: not 16-bit PCM" ${WORK_DIR}/odd --order 4)
+expect_refusal("--order: must be an integer from 4 to 20" ${WORK_DIR}/square --order 3)
+expect_refusal("--count: must be an integer from 1 to 100" ${WORK_DIR}/square --count many)
+expect_refusal("--loud: no such option" ${WORK_DIR}/square --loud 1)
+expect_refusal("^usage: tones" ${WORK_DIR}/square --rate)
+expect_refusal("missing/file: No such file" ${WORK_DIR}/square --spectrum ${WORK_DIR}/missing/file)
