@@ -1,6 +1,7 @@
 // Kernels of sampling down and up.
 #include "levels/pssample.h"
 
+#include "frame/simd_held.h"
 #include "frame/simd_interleave.h"
 
 namespace {
@@ -15,19 +16,19 @@ void takeEveryFrom(int first, const T* pSrc, T* pDst, int count, int factor)
 {
     const std::ptrdiff_t stride = factor;
     const T* next = pSrc + first * stride;
+    const auto take = [&](int i) {
+        moveElement(pDst + i, next);
+        next += stride;
+    };
     int i = first;
-    for (; i <= count - unrolledSteps; i += unrolledSteps, next += unrolledSteps * stride) {
-        const T x0 = loadElement(next);
-        const T x1 = loadElement(next + stride);
-        const T x2 = loadElement(next + 2 * stride);
-        const T x3 = loadElement(next + 3 * stride);
-        store(pDst + i, x0);
-        store(pDst + i + 1, x1);
-        store(pDst + i + 2, x2);
-        store(pDst + i + 3, x3);
+    for (; i <= count - unrolledSteps; i += unrolledSteps) {
+        take(i);
+        take(i + 1);
+        take(i + 2);
+        take(i + 3);
     }
-    for (; i < count; ++i, next += stride) {
-        store(pDst + i, loadElement(next));
+    for (; i < count; ++i) {
+        take(i);
     }
 }
 
@@ -45,15 +46,22 @@ void takeEverySecond(const T* pSrc, int srcLen, T* pDst, int count)
     takeEveryFrom(i, pSrc, pDst, count, 2);
 }
 
+// The destination of all of them has no more elements than an int counts.
 template <typename T>
 void spreadElements(const T* pSrc, int count, T* pDst, int factor, int phase)
 {
     const std::ptrdiff_t stride = factor;
-    std::memset(static_cast<void*>(pDst), 0,
-                static_cast<std::size_t>(stride) * static_cast<std::size_t>(count) * sizeof(T));
+    walk(pDst, count * factor, Identity{}, Everywhere<T>{});
     T* next = pDst + phase;
-    for (int i = 0; i < count; ++i, next += stride) {
-        store(next, loadElement(pSrc + i));
+    int i = 0;
+    for (; i <= count - unrolledSteps; i += unrolledSteps, next += unrolledSteps * stride) {
+        moveElement(next, pSrc + i);
+        moveElement(next + stride, pSrc + i + 1);
+        moveElement(next + 2 * stride, pSrc + i + 2);
+        moveElement(next + 3 * stride, pSrc + i + 3);
+    }
+    for (; i < count; ++i, next += stride) {
+        moveElement(next, pSrc + i);
     }
 }
 
