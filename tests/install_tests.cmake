@@ -20,4 +20,6 @@ add_test(NAME consumer_test COMMAND ${CMAKE_COMMAND}
 if(TARNS_BUILD_EXAMPLES)
     add_test(NAME examples_test COMMAND ${CMAKE_COMMAND} -D MIX=$<TARGET_FILE:mix>
         -D WORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/examples -P ${CMAKE_CURRENT_LIST_DIR}/examples_test.cmake)
+    add_test(NAME tones_test COMMAND ${CMAKE_COMMAND} -D TONES=$<TARGET_FILE:tones>
+        -D WORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/tones -P ${CMAKE_CURRENT_LIST_DIR}/tones_test.cmake)
 endif()

@@ -13,19 +13,6 @@ struct Backwards {
     TARN_INLINE Backwards operator+(int elements) const { return {last - elements}; }
 };
 
-// The elements in opposite order. A register that holds a single one is its own reverse.
-template <typename T, int N>
-TARN_INLINE Pack<T, N> turned(Pack<T, N> x)
-{
-    if constexpr (N > lanes<T>) {
-        return {turned(x.hi), turned(x.lo)};
-    } else if constexpr (N == 1) {
-        return x;
-    } else {
-        return reverse(x);
-    }
-}
-
 template <typename T>
 TARN_INLINE T loadElement(Backwards<T> source)
 {
@@ -34,7 +21,7 @@ TARN_INLINE T loadElement(Backwards<T> source)
 template <int N, typename T>
 TARN_INLINE Pack<T, N> loadPack(Backwards<T> source)
 {
-    return turned(tarn::loadPack<N>(source.last - (N - 1)));
+    return reverse(tarn::loadPack<N>(source.last - (N - 1)));
 }
 
 } // namespace tarn

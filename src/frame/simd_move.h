@@ -24,6 +24,8 @@ struct Reverse {
     {
         if constexpr (N > lanes<T>) {
             return {of(x.hi), of(x.lo)};
+        } else if constexpr (N == 1) {
+            return x;
         } else if constexpr (sizeof(T) == 8) {
             const __m128d both = reinterpret_cast<__m128d>(x.v);
             return {reinterpret_cast<Native<T>>(_mm_shuffle_pd(both, both, 1))};

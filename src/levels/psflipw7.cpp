@@ -1,28 +1,11 @@
 // Kernels that turn an array round.
 #include "levels/pscopyca.h"
 
+#include "frame/backwards.h"
+
 using namespace tarn;
 
 namespace {
-
-// An array read from its last element to its first.
-template <typename T>
-struct Backwards {
-    using Element = T;
-    const T* last;
-
-    TARN_INLINE Backwards operator+(int elements) const { return {last - elements}; }
-};
-template <typename T>
-TARN_INLINE T loadElement(Backwards<T> source)
-{
-    return tarn::loadElement(source.last);
-}
-template <int N, typename T>
-TARN_INLINE Pack<T, N> loadPack(Backwards<T> source)
-{
-    return reverse(tarn::loadPack<N>(source.last - (N - 1)));
-}
 
 template <typename T>
 void flip(const T* src, T* dst, int len)

@@ -127,7 +127,7 @@ TARN_INLINE void expandPairs(const C* pairs, C* dst, int len, int from)
 {
     const auto bins = loadPack<N>(pairs + from - 1);
     store(dst + from, bins);
-    store(dst + len - (from + N - 1), turned(conjugate(bins)));
+    store(dst + len - (from + N - 1), reverse(conjugate(bins)));
 }
 
 // From the highest bin down: in place the pairs lie at their bins or just below them, and none is overwritten before it
