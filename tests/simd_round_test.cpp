@@ -40,8 +40,10 @@ TEST(SimdRound, BetweenThePrecisions)
     }
 }
 
-TEST(SimdRound, BitsAndMasks)
+TEST(SimdRound, WideningBitsAndMasks)
 {
+    expectAgreement<Tarn8s>(widenBySign);
+    expectAgreement<Tarn16s>(widenBySign);
     expectAgreement<Tarn32f>(bitsOfSingle);
     expectAgreement<Tarn32s>(singleOfBits);
     expectAgreement<Tarn32s, Tarn32s>([](auto a, auto b) { return keepWhere(greater(a, b), a); });

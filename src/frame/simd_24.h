@@ -1,10 +1,12 @@
 // 24-bit elements: three consecutive bytes, low byte first, as the walker's sources and destinations.
 //
-// Sixteen elements fill three registers, and four of them the first twelve bytes of one: there they are taken apart and
-// put together by shifts of its halves, which hold two elements each.
+// Sixteen elements fill three registers. They are taken apart and put together by shifts of halves of a register, which
+// hold two elements each.
 #pragma once
 
 #include "frame/simd.h"
+
+#include <cstddef>
 
 namespace tarn {
 
@@ -46,7 +48,7 @@ struct Source24 {
     using Element = Stored24;
     const Tarn8u* bytes;
 
-    TARN_INLINE Source24 operator+(int elements) const { return {bytes + 3 * elements}; }
+    TARN_INLINE Source24 operator+(int elements) const { return {bytes + std::ptrdiff_t{3} * elements}; }
 };
 
 template <Integer W>
@@ -84,26 +86,32 @@ struct Store24 {
     {
         return {{static_cast<Tarn8u>(x), static_cast<Tarn8u>(x >> 8), static_cast<Tarn8u>(x >> 16)}};
     }
+    // Pairs of elements make 48 bits of 64. The first and the third register go together, and so do the others, so that
+    // each half of a register holds pairs that are four apart, and four of them fill three words of either half.
     template <Integer W>
     static TARN_INLINE Pack<Stored24, vectorBytes> of(Pack<W, vectorBytes> x)
     {
-        const __m128i a = twelve(x.lo.lo.v);
-        const __m128i b = twelve(x.lo.hi.v);
-        const __m128i c = twelve(x.hi.lo.v);
-        const __m128i d = twelve(x.hi.hi.v);
-        return {{_mm_or_si128(a, _mm_slli_si128(b, 12))},
-                {_mm_or_si128(_mm_srli_si128(b, 4), _mm_slli_si128(c, 8))},
-                {_mm_or_si128(_mm_srli_si128(c, 8), _mm_slli_si128(d, 4))}};
+        const __m128i a = pairs(x.lo.lo.v);
+        const __m128i b = pairs(x.lo.hi.v);
+        const __m128i c = pairs(x.hi.lo.v);
+        const __m128i d = pairs(x.hi.hi.v);
+        const __m128i first = _mm_unpacklo_epi64(a, c);
+        const __m128i second = _mm_unpackhi_epi64(a, c);
+        const __m128i third = _mm_unpacklo_epi64(b, d);
+        const __m128i fourth = _mm_unpackhi_epi64(b, d);
+        const __m128i low = _mm_or_si128(first, _mm_slli_epi64(second, 48));
+        const __m128i middle = _mm_or_si128(_mm_srli_epi64(second, 16), _mm_slli_epi64(third, 32));
+        const __m128i high = _mm_or_si128(_mm_srli_epi64(third, 32), _mm_slli_epi64(fourth, 16));
+        const __m128d across = _mm_shuffle_pd(_mm_castsi128_pd(high), _mm_castsi128_pd(low), 2);
+        return {{_mm_unpacklo_epi64(low, middle)}, {_mm_castpd_si128(across)}, {_mm_unpackhi_epi64(middle, high)}};
     }
 
 private:
-    static TARN_INLINE __m128i twelve(__m128i x)
+    static TARN_INLINE __m128i pairs(__m128i x)
     {
         const __m128i even = _mm_and_si128(x, _mm_set_epi32(0, 0xFFFFFF, 0, 0xFFFFFF));
         const __m128i odd = _mm_and_si128(_mm_srli_epi64(x, 8), _mm_set_epi32(0xFFFF, -0x1000000, 0xFFFF, -0x1000000));
-        const __m128i pairs = _mm_or_si128(even, odd);
-        const __m128i upper = _mm_unpackhi_epi64(pairs, _mm_setzero_si128());
-        return _mm_or_si128(_mm_move_epi64(pairs), _mm_slli_si128(upper, 6));
+        return _mm_or_si128(even, odd);
     }
 };
 inline constexpr Word<Store24> store24;

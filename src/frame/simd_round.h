@@ -5,6 +5,42 @@
 
 namespace tarn {
 
+// An operation carried through one register after the other: its intermediate results then are few enough at a time for
+// the eight registers of 32-bit code.
+template <typename X, typename Operation>
+TARN_INLINE auto byRegister(X x, Operation operation)
+{
+    if constexpr (isPack<X>) {
+        if constexpr (X::size > lanes<Element<X>>) {
+            return join(byRegister(x.lo, operation), byRegister(x.hi, operation));
+        } else {
+            return operation(x);
+        }
+    } else {
+        return operation(x);
+    }
+}
+
+// -- Widening --------------------------------------------------------------------------------------------------------
+
+// What `widen` gives for signed elements, the upper halves made by a comparison: one for both, and it leaves the units
+// that shift to the conversion that follows.
+struct WidenBySign {
+    static TARN_INLINE Tarn16s of(Tarn8s x) { return x; }
+    static TARN_INLINE Tarn32s of(Tarn16s x) { return x; }
+    static TARN_INLINE Pack<Tarn16s, 2 * lanes<Tarn16s>> of(Vector<Tarn8s> x)
+    {
+        const __m128i signs = _mm_cmpgt_epi8(_mm_setzero_si128(), x.v);
+        return {{_mm_unpacklo_epi8(x.v, signs)}, {_mm_unpackhi_epi8(x.v, signs)}};
+    }
+    static TARN_INLINE Pack<Tarn32s, 2 * lanes<Tarn32s>> of(Vector<Tarn16s> x)
+    {
+        const __m128i signs = _mm_cmpgt_epi16(_mm_setzero_si128(), x.v);
+        return {{_mm_unpacklo_epi16(x.v, signs)}, {_mm_unpackhi_epi16(x.v, signs)}};
+    }
+};
+inline constexpr Word<WidenBySign> widenBySign;
+
 // -- Floats as integers ----------------------------------------------------------------------------------------------
 
 // In the current rounding mode; what does not fit, NaN included, becomes the lowest integer.

@@ -9,12 +9,11 @@ namespace {
 
 using tarn::select; // the system has one as well
 
-constexpr Tarn32s min24s = -0x800000;
 constexpr Tarn32s max24s = 0x7FFFFF;
 constexpr Tarn32u max24u = 0xFFFFFF;
 
 // The same as floats, all of which hold them exactly.
-constexpr Tarn32f min24sF = min24s;
+constexpr Tarn32f min24sF = -0x800000;
 constexpr Tarn32f max24sF = max24s;
 constexpr Tarn32f min24uF = 0;
 constexpr Tarn32f max24uF = max24u;
@@ -27,23 +26,51 @@ Source24<W> sourceOf(const Tarn8u* src)
 
 Stored24* destinationOf(Tarn8u* dst) { return reinterpret_cast<Stored24*>(dst); }
 
+// A 24-bit integer is one whose upper bits are all its sign; what is not has the bound of its sign.
 template <typename X>
 TARN_INLINE X limit24(X x)
 {
     if constexpr (std::is_signed_v<Element<X>>) {
-        return min(max(x, splat<X>(min24s)), splat<X>(max24s));
+        const auto signs = shiftRight(x, 31);
+        return select(equal(shiftRight(x, 23), signs), x, bitXor(signs, splat<X>(max24s)));
     } else {
-        return min(x, splat<X>(max24u));
+        return select(equal(shiftRight(x, 24), splat<X>(0)), x, splat<X>(max24u));
     }
 }
 
-struct LimitTo24 {
+struct Bounds24 {
     template <typename X>
-    static TARN_INLINE auto of(X x)
+    static TARN_INLINE X limit(X x)
     {
-        return store24(limit24(x));
+        return limit24(x);
+    }
+    template <typename X>
+    static TARN_INLINE auto narrow(X x)
+    {
+        return store24(x);
     }
 };
+
+struct WithinBounds24 : Bounds24 {
+    template <typename X>
+    static TARN_INLINE X limit(X x)
+    {
+        return x;
+    }
+};
+
+// From this scale factor on nothing is left to limit: even 2^31 less one rounds to 2^22 at most.
+constexpr int withinFrom = 9;
+
+template <typename S>
+void roundDown24(const S* src, Tarn8u* dst, int len, int scaleFactor)
+{
+    if (scaleFactor >= withinFrom) {
+        walk(destinationOf(dst), len, RoundedDown<WithinBounds24>{scaleFactor}, src);
+    } else {
+        walk(destinationOf(dst), len, RoundedDown<Bounds24>{scaleFactor}, src);
+    }
+}
 
 // x times 2^n, saturated in 32 bits or below.
 template <typename X>
@@ -62,7 +89,8 @@ struct ShiftedUp24 {
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        return LimitTo24::of(shiftedUp(x, n));
+        const int count = n;
+        return store24(byRegister(x, [count](auto t) { return limit24(shiftedUp(t, count)); }));
     }
 };
 
@@ -74,7 +102,11 @@ struct ToInteger24 {
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        return store24(roundSingle(min(max(scale(x), splat<X>(lower)), splat<X>(upper))));
+        const auto limited = [this](auto t) {
+            using F = decltype(t);
+            return roundSingle(min(max(scale(t), splat<F>(lower)), splat<F>(upper)));
+        };
+        return store24(byRegister(x, limited));
     }
 };
 
@@ -134,18 +166,18 @@ void ownsConvert_32f24u_SfsPosNeg_W7(const Tarn32f* pSrc, Tarn8u* pDst, int len,
     toScaled24(pSrc, pDst, len, scaleFactor, min24uF, max24uF);
 }
 
-#define TARN_DEFINE_24(NAME, S)                                                    \
-    void NAME##0_W7(const S* pSrc, Tarn8u* pDst, int len)                          \
-    {                                                                              \
-        walk(destinationOf(pDst), len, Limited<LimitTo24>{}, pSrc);                \
-    }                                                                              \
-    void NAME##Pos_W7(const S* pSrc, Tarn8u* pDst, int len, int scaleFactor)       \
-    {                                                                              \
-        walk(destinationOf(pDst), len, RoundedDown<LimitTo24>{scaleFactor}, pSrc); \
-    }                                                                              \
-    void NAME##Neg_W7(const S* pSrc, Tarn8u* pDst, int len, int scaleFactor)       \
-    {                                                                              \
-        walk(destinationOf(pDst), len, ShiftedUp24{scaleFactor}, pSrc);            \
+#define TARN_DEFINE_24(NAME, S)                                              \
+    void NAME##0_W7(const S* pSrc, Tarn8u* pDst, int len)                    \
+    {                                                                        \
+        walk(destinationOf(pDst), len, Limited<Bounds24>{}, pSrc);           \
+    }                                                                        \
+    void NAME##Pos_W7(const S* pSrc, Tarn8u* pDst, int len, int scaleFactor) \
+    {                                                                        \
+        roundDown24(pSrc, pDst, len, scaleFactor);                           \
+    }                                                                        \
+    void NAME##Neg_W7(const S* pSrc, Tarn8u* pDst, int len, int scaleFactor) \
+    {                                                                        \
+        walk(destinationOf(pDst), len, ShiftedUp24{scaleFactor}, pSrc);      \
     }
 
 TARN_DEFINE_24(ownsConvert_32s24s_Sfs, Tarn32s)

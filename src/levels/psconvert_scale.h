@@ -64,24 +64,26 @@ struct TowardsZero {
     static constexpr const auto& twice = truncateDouble;
 };
 
-// -- The scale rule on 32-bit integers; Limit saturates at the destination's bounds ----------------------------------
+// -- The scale rule on 32-bit integers. Bounds limits them, where narrowing does not, and narrows. --------------------
 
-template <typename Limit>
+template <typename Bounds>
 struct Limited {
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        return Limit::of(x);
+        return Bounds::narrow(byRegister(x, [](auto t) { return Bounds::limit(t); }));
     }
 };
 
-template <typename Limit>
+template <typename Bounds>
 struct RoundedDown {
     int s;
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        return Limit::of(shiftRounded(FullWidth{x}, s));
+        const int count = s;
+        const auto rounded = [count](auto t) { return Bounds::limit(shiftRounded(FullWidth{t}, count)); };
+        return Bounds::narrow(byRegister(x, rounded));
     }
 };
 

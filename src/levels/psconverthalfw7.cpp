@@ -15,7 +15,6 @@ constexpr Tarn32s halfSign = 0x8000;
 constexpr Tarn32s halfMagnitude = 0x7FFF;
 constexpr Tarn32s halfInfinity = 0x7C00;
 constexpr Tarn32s halfQuiet = 0x200;
-constexpr Tarn32s halfPayload = 0x3FF;
 constexpr Tarn32s smallestNormalHalf = 0x400;
 constexpr Tarn32s singleInfinity = 0x7F800000;
 
@@ -52,29 +51,69 @@ TARN_INLINE auto roundToHalf(X magnitude)
     return add(significand, sub(shiftRightLogical(shifter, dropped), splat<I>(base)));
 }
 
-// A sign bit of 32 as a sign bit of 16, extended so that narrowing keeps the bits.
+// A sign bit of 32 as one of 16, extended so that narrowing keeps the bits.
 template <typename I>
-TARN_INLINE auto withSignOf(I bits, I half)
+TARN_INLINE I withSignOf(I bits, I half)
 {
-    return narrowSaturated<Tarn16s>(bitOr(bitAnd(shiftRight(bits, 16), splat<I>(~halfMagnitude)), half));
+    return bitOr(bitAnd(shiftRight(bits, 16), splat<I>(~halfMagnitude)), half);
+}
+
+// Infinities and NaN: the low bits of the longer exponent are those of the shorter one. The top bits of a NaN's payload
+// are kept, and the one that makes it quiet is set.
+template <typename I>
+TARN_INLINE I specialToHalf(I magnitude)
+{
+    const auto top = bitAnd(shiftRight(magnitude, dropped), splat<I>(halfMagnitude));
+    return bitOr(top, keepWhere(greater(magnitude, splat<I>(singleInfinity)), splat<I>(halfQuiet)));
 }
 
 // What is beyond `largest` becomes infinity where it is 2^16, and the largest half where it is the float below that.
-struct ToHalf {
-    Tarn32f largest;
+template <typename X>
+TARN_INLINE auto toHalf(X x, Tarn32f largest)
+{
+    using I = Like<X, Tarn32s>;
+    const auto bits = bitsOfSingle(x);
+    const auto magnitude = bitAnd(bits, splat<I>(highest<Tarn32s>));
+    const auto isSpecial = greater(magnitude, splat<I>(singleInfinity - 1));
+    auto half = roundToHalf(min(singleOfBits(magnitude), splat<X>(largest)));
+    // Signals have none of them as a rule, and then nobody waits for the selection.
+    if (anyOf(isSpecial)) [[unlikely]] {
+        half = select(isSpecial, specialToHalf(magnitude), half);
+    }
+    return withSignOf(bits, half);
+}
 
+// An integer of 16 bits has no way out of the halves.
+template <typename I>
+TARN_INLINE I integerToHalf(I x)
+{
+    const auto bits = bitsOfSingle(convert<Tarn32f>(x));
+    return withSignOf(bits, roundToHalf(singleOfBits(bitAnd(bits, splat<I>(highest<Tarn32s>)))));
+}
+
+// Exact in any rounding mode. Denormal halves are small integers in a unit of 2^-24, and normal floats.
+template <typename I>
+TARN_INLINE auto fromHalf(I half)
+{
+    using F = Like<I, Tarn32f>;
+    constexpr Tarn32s rebias = biasDifference << singleFraction;
+    const auto magnitude = bitAnd(half, splat<I>(halfMagnitude));
+    const auto sign = shiftLeft(bitAnd(half, splat<I>(halfSign)), 16);
+    const auto normal = add(shiftLeft(magnitude, dropped), splat<I>(rebias));
+    const auto denormal = bitsOfSingle(mul(convert<Tarn32f>(magnitude), splat<F>(0x1p-24F)));
+    const auto finite = select(greater(splat<I>(smallestNormalHalf), magnitude), denormal, normal);
+    // The largest exponent of one format becomes that of the other by as much again.
+    const auto special = keepWhere(greater(magnitude, splat<I>(halfInfinity - 1)), splat<I>(rebias));
+    return singleOfBits(bitOr(add(finite, special), sign));
+}
+
+struct SingleToHalf {
+    Tarn32f largest;
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        using I = Like<X, Tarn32s>;
-        const auto bits = bitsOfSingle(x);
-        const auto magnitude = bitAnd(bits, splat<I>(highest<Tarn32s>));
-        const auto finite = roundToHalf(min(singleOfBits(magnitude), splat<X>(largest)));
-        // The top bits of a NaN's payload are kept, and the one that makes it quiet is set.
-        const auto quiet = keepWhere(greater(magnitude, splat<I>(singleInfinity)), splat<I>(halfQuiet));
-        const auto payload = bitAnd(shiftRight(magnitude, dropped), splat<I>(halfPayload));
-        const auto special = bitOr(bitOr(payload, quiet), splat<I>(halfInfinity));
-        return withSignOf(bits, select(greater(splat<I>(singleInfinity), magnitude), finite, special));
+        const auto limit = largest;
+        return narrowSaturated<Tarn16s>(byRegister(x, [limit](auto t) { return toHalf(t, limit); }));
     }
 };
 
@@ -82,30 +121,15 @@ struct IntegerToHalf {
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        const auto wide = widen(x);
-        using I = std::remove_const_t<decltype(wide)>;
-        const auto bits = bitsOfSingle(convert<Tarn32f>(wide));
-        return withSignOf(bits, roundToHalf(singleOfBits(bitAnd(bits, splat<I>(highest<Tarn32s>)))));
+        return narrowSaturated<Tarn16s>(byRegister(widenBySign(x), [](auto t) { return integerToHalf(t); }));
     }
 };
 
-// Exact in any rounding mode. Denormal halves are small integers in a unit of 2^-24, and normal floats.
-struct FromHalf {
+struct HalfToSingle {
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        const auto wide = widen(x);
-        using I = std::remove_const_t<decltype(wide)>;
-        using F = Like<X, Tarn32f>;
-        constexpr Tarn32s rebias = biasDifference << singleFraction;
-        const auto magnitude = bitAnd(wide, splat<I>(halfMagnitude));
-        const auto sign = shiftLeft(bitAnd(wide, splat<I>(halfSign)), 16);
-        const auto normal = add(shiftLeft(magnitude, dropped), splat<I>(rebias));
-        const auto denormal = bitsOfSingle(mul(convert<Tarn32f>(magnitude), splat<F>(0x1p-24F)));
-        const auto finite = select(greater(splat<I>(smallestNormalHalf), magnitude), denormal, normal);
-        // The largest exponent of one format becomes that of the other by as much again.
-        const auto special = keepWhere(greater(magnitude, splat<I>(halfInfinity - 1)), splat<I>(rebias));
-        return singleOfBits(bitOr(add(finite, special), sign));
+        return byRegister(widen(retype<Tarn16u>(x)), [](auto t) { return fromHalf(t); });
     }
 };
 
@@ -116,9 +140,11 @@ struct HalfToInteger {
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        using F = Like<X, Tarn32f>;
-        const auto scaled = ByFactor<Tarn32f>{factor}(FromHalf{}(x));
-        return narrowSaturated<Tarn16s>(roundSingle(min(splat<F>(highest<Tarn16s>), scaled)));
+        const auto integer = [this](auto t) {
+            const auto scaled = ByFactor<Tarn32f>{factor}(fromHalf(t));
+            return roundSingle(min(splat<std::remove_const_t<decltype(scaled)>>(highest<Tarn16s>), scaled));
+        };
+        return narrowSaturated<Tarn16s>(byRegister(widen(retype<Tarn16u>(x)), integer));
     }
 };
 
@@ -133,10 +159,10 @@ void ownsConvert_16s16f_W7(const Tarn16s* pSrc, Tarn16s* pDst, int len, int rndM
 void ownsConvert_32f16f_W7(const Tarn32f* pSrc, Tarn16s* pDst, int len, int rndMode)
 {
     const HalfRounding rounding(rndMode);
-    walk(pDst, len, ToHalf{rndMode == 1 ? 0x1p16F : 0x1.FFFFFEp15F}, pSrc);
+    walk(pDst, len, SingleToHalf{rndMode == 1 ? 0x1p16F : 0x1.FFFFFEp15F}, pSrc);
 }
 
-void ownsConvert_16f32f_W7(const Tarn16s* pSrc, Tarn32f* pDst, int len) { walk(pDst, len, FromHalf{}, pSrc); }
+void ownsConvert_16f32f_W7(const Tarn16s* pSrc, Tarn32f* pDst, int len) { walk(pDst, len, HalfToSingle{}, pSrc); }
 
 void owntarnsCnvrt_16f16s_Sfs(const Tarn16s* pSrc, Tarn16s* pDst, int len, int rndMode, int scaleFactor)
 {

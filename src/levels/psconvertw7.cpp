@@ -14,8 +14,13 @@ struct ToFloat {
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        if constexpr (sizeof(Element<X>) < sizeof(Tarn32s)) {
+        using T = Element<X>;
+        if constexpr (std::is_same_v<T, Tarn8u>) {
+            return (*this)(retype<Tarn16u>(widen(x)));
+        } else if constexpr (std::is_same_v<T, Tarn16u>) {
             return (*this)(widen(x));
+        } else if constexpr (sizeof(T) < sizeof(Tarn32s)) {
+            return (*this)(widenBySign(x));
         } else {
             return convert<F>(x);
         }
@@ -62,9 +67,14 @@ void walkOverlapping(const Tarn32s* src, Tarn32f* dst, int len, Operation operat
 
 // -- Integers to integers --------------------------------------------------------------------------------------------
 
-struct LimitTo16s {
+struct Bounds16s {
     template <typename X>
-    static TARN_INLINE auto of(X x)
+    static TARN_INLINE X limit(X x)
+    {
+        return x;
+    }
+    template <typename X>
+    static TARN_INLINE auto narrow(X x)
     {
         return narrowSaturated<Tarn16s>(x);
     }
@@ -170,8 +180,8 @@ void toScaledIntegers(const S* src, D* dst, int len, int rndMode, int scaleFacto
 #define TARN_DEFINE_SCALED_CONVERSION(NAME, S, D, ...) \
     void NAME(const S* pSrc, D* pDst, int len, int scaleFactor) { walk(pDst, len, __VA_ARGS__, pSrc); }
 
-TARN_DEFINE_CONVERSION(ownsConvert_8s16s_W7, Tarn8s, Tarn16s, widen)
-TARN_DEFINE_CONVERSION(ownsConvert_16s32s_W7, Tarn16s, Tarn32s, widen)
+TARN_DEFINE_CONVERSION(ownsConvert_8s16s_W7, Tarn8s, Tarn16s, widenBySign)
+TARN_DEFINE_CONVERSION(ownsConvert_16s32s_W7, Tarn16s, Tarn32s, widenBySign)
 TARN_DEFINE_CONVERSION(ownsConvert_8s32f_W7, Tarn8s, Tarn32f, ToFloat<Tarn32f>{})
 TARN_DEFINE_CONVERSION(ownsConvert_8u32f_W7, Tarn8u, Tarn32f, ToFloat<Tarn32f>{})
 TARN_DEFINE_CONVERSION(ownsConvert_16s32f_W7, Tarn16s, Tarn32f, ToFloat<Tarn32f>{})
@@ -194,8 +204,8 @@ void ownsConvert_32s32f_SfsPosNeg_W7(const Tarn32s* pSrc, Tarn32f* pDst, int len
     walkOverlapping(pSrc, pDst, len, toScaledFloat<Tarn32f>(scaleFactor));
 }
 
-TARN_DEFINE_CONVERSION(ownsConvert_32s16s_W7, Tarn32s, Tarn16s, Limited<LimitTo16s>{})
-TARN_DEFINE_SCALED_CONVERSION(ownsConvert_32s16s_SfsPos_W7, Tarn32s, Tarn16s, RoundedDown<LimitTo16s>{scaleFactor})
+TARN_DEFINE_CONVERSION(ownsConvert_32s16s_W7, Tarn32s, Tarn16s, Limited<Bounds16s>{})
+TARN_DEFINE_SCALED_CONVERSION(ownsConvert_32s16s_SfsPos_W7, Tarn32s, Tarn16s, RoundedDown<Bounds16s>{scaleFactor})
 TARN_DEFINE_SCALED_CONVERSION(ownsConvert_32s16s_SfsNeg_W7, Tarn32s, Tarn16s, ShiftedUp16s{scaleFactor})
 
 #define TARN_DEFINE_ROUNDED_CONVERSION(NAME, S, D)                                      \
