@@ -17,9 +17,9 @@ extern "C" {
 /** Windows of the design functions. */
 enum {
     tarnWinBartlett = 0, /**< tarnsWinBartlett_64f_I(): the end taps become 0 */
-    tarnWinBlackman = 1, /**< tarnsWinBlackmanOpt_64f_I(): widest transition, deepest stop band */
-    tarnWinHamming = 2,  /**< tarnsWinHamming_64f_I(): stop band at about -53 dB */
-    tarnWinHann = 3      /**< tarnsWinHann_64f_I(): stop band at about -44 dB, falling */
+    tarnWinBlackman = 1, /**< tarnsWinBlackmanOpt_64f_I(): widest transition, stop band at -61 dB, falling fast */
+    tarnWinHamming = 2,  /**< tarnsWinHamming_64f_I(): stop band at -54 dB */
+    tarnWinHann = 3      /**< tarnsWinHann_64f_I(): stop band at -44 dB, falling */
 };
 
 /** Design a low-pass or high-pass filter. With m the distance of a tap from the centre, m = 1, 2, ... for odd `tapsLen`
