@@ -23,7 +23,7 @@ enum {
     Scaling an element to a magnitude multiplies both parts by level / |z| and thereby keeps its phase; float parts are
     rounded in the current rounding mode, integer ones to nearest whatever that mode is. A zero has the phase of a
     positive real number, or of a negative one if the sign bit of its real part is set. The infinite parts of an element
-    that is scaled become NaN, its finite ones 0.
+    that is scaled or inverted become NaN, its finite ones 0.
     @{ */
 
 /** Limits elements on the side that `relOp` tells, as tarnsThreshold_LT_32f() or tarnsThreshold_GT_32f() and their like
