@@ -6,6 +6,7 @@
 #include "levels/psfft_tables.h"
 
 #include <algorithm>
+#include <bit>
 
 using namespace tarn;
 using tarn::fft::ReversedCounter;
@@ -65,14 +66,9 @@ struct Pair<16> {
 // four times the number i of a group, which is elements 2 i and 2 i + 1 of either half of the array: the half that an
 // element lies in is the lowest bit of its place in the other order.
 template <int bytes>
-TARN_INLINE void reverseBits(const void* from, void* to, int size, const Tarn32s* table)
+TARN_INLINE void reverseGroups(const Tarn8u* src, Tarn8u* dst, int size, const Tarn32s* table)
 {
     using P = Pair<bytes>;
-    if (size < 4) {
-        return;
-    }
-    const auto* src = static_cast<const Tarn8u*>(from);
-    auto* dst = static_cast<Tarn8u*>(to);
     const std::ptrdiff_t half = std::ptrdiff_t{size} / 2 * bytes;
     const auto offset = [](Tarn32s word) { return std::ptrdiff_t{word} / 2 * bytes; };
 
@@ -99,6 +95,108 @@ TARN_INLINE void reverseBits(const void* from, void* to, int size, const Tarn32s
         low.storeTo(dst + i);
         high.storeTo(dst + half + i);
     } while (*++table != 0);
+}
+
+// Large arrays are moved in tiles of 8 rows, an eighth of the array apart, of 8 elements each: whole cache lines on
+// both sides, where groups would touch every line several times, each time long after it has left the cache.
+inline constexpr int tileSide = 8;
+inline constexpr int reversedOfEight[tileSide] = {0, 4, 2, 6, 1, 5, 3, 7};
+
+// Rows of a tile, and how they are turned: as many rows as a register holds elements become as many columns.
+template <int bytes>
+class Tile {
+public:
+    using Mover = std::conditional_t<bytes == 4, Tarn32f, Tarn64f>;
+    static constexpr int movers = bytes / static_cast<int>(sizeof(Mover));
+    static constexpr int perVector = 16 / bytes;
+
+    // Writes the tile at `from`, reversed in both directions, to the tile at `to`; the strides are between rows.
+    static TARN_INLINE void move(const Tarn8u* from, std::ptrdiff_t fromStride, Tarn8u* to, std::ptrdiff_t toStride)
+    {
+        for (int column = 0; column < tileSide; column += perVector) {
+            for (int place = 0; place < tileSide; place += perVector) {
+                std::array<Vector<Mover>, perVector> block;
+                for (int i = 0; i < perVector; ++i) {
+                    block[i] = load(from + reversedOfEight[place + i] * fromStride + column * bytes);
+                }
+                if constexpr (perVector > 1) {
+                    block = transpose<Mover>(block);
+                }
+                for (int i = 0; i < perVector; ++i) {
+                    put(to + reversedOfEight[column + i] * toStride + place * bytes, block[i]);
+                }
+            }
+        }
+    }
+
+    // Rows that are in place within the tile.
+    static TARN_INLINE void copy(const Tarn8u* from, Tarn8u* to, std::ptrdiff_t toStride)
+    {
+        for (int row = 0; row < tileSide; ++row) {
+            for (int at = 0; at < tileSide * bytes; at += vectorBytes) {
+                put(to + row * toStride + at, load(from + row * tileSide * bytes + at));
+            }
+        }
+    }
+
+private:
+    static TARN_INLINE Vector<Mover> load(const Tarn8u* p)
+    {
+        return loadPack<lanes<Mover>>(reinterpret_cast<const Mover*>(p));
+    }
+    static TARN_INLINE void put(Tarn8u* p, Vector<Mover> x) { store(reinterpret_cast<Mover*>(p), x); }
+};
+
+// A tile is named by the middle bits of its elements' numbers, and its place is the reverse of its name. Names are gone
+// through in the order middle, high, low bits: eight by eight tiles stay within a few hundred pages on both sides,
+// which the processor can translate from memory it has at hand. That order is not the table's, which is not needed
+// here.
+template <int bytes>
+TARN_INLINE void reverseTiles(const Tarn8u* src, Tarn8u* dst, int size)
+{
+    constexpr int outerBits = 3;
+    constexpr int outer = 1 << outerBits;
+    constexpr std::ptrdiff_t tileBytes = tileSide * bytes;
+    const int names = size / (tileSide * tileSide);
+    const int middles = names / (outer * outer);
+    const std::ptrdiff_t stride = names * tileBytes;
+    alignas(64) Tarn8u held[tileSide * tileSide * bytes];
+
+    ReversedCounter reversed(std::countr_zero(static_cast<unsigned>(middles)));
+    for (int middle = 0; middle < middles; ++middle, reversed.advance()) {
+        for (int high = 0; high < outer; ++high) {
+            for (int low = 0; low < outer; ++low) {
+                const int name = high * (names / outer) + middle * outer + low;
+                const int place =
+                    reversedOfEight[low] * (names / outer) + reversed.value() * outer + reversedOfEight[high];
+                const std::ptrdiff_t i = name * tileBytes;
+                const std::ptrdiff_t j = place * tileBytes;
+                if (name < place) {
+                    Tile<bytes>::move(src + i, stride, held, tileBytes);
+                    Tile<bytes>::move(src + j, stride, dst + i, stride);
+                    Tile<bytes>::copy(held, dst + j, stride);
+                } else if (name == place) {
+                    Tile<bytes>::move(src + i, stride, held, tileBytes);
+                    Tile<bytes>::copy(held, dst + i, stride);
+                }
+            }
+        }
+    }
+}
+
+// From here on tiles pay; it is the smallest size whose names have high and low bits.
+inline constexpr int tiledSize = 4096;
+
+template <int bytes>
+TARN_INLINE void reverseBits(const void* from, void* to, int size, const Tarn32s* table)
+{
+    const auto* src = static_cast<const Tarn8u*>(from);
+    auto* dst = static_cast<Tarn8u*>(to);
+    if (size >= tiledSize) {
+        reverseTiles<bytes>(src, dst, size);
+    } else if (size >= 4) {
+        reverseGroups<bytes>(src, dst, size, table);
+    }
 }
 
 } // namespace
