@@ -1,0 +1,153 @@
+/* Filtering with FIR filters: blocks, single samples, in place. */
+#ifndef TARNS_FIR_H
+#define TARNS_FIR_H
+
+#include "tarns/firstate.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** @defgroup fir FIR filtering
+    y[n] = sum of h[k] x[n-k] over k from 0 to tapsLen - 1, where the samples before the first one of a call come from
+    the state's delay line. A call leaves the last samples there, so that a signal can be cut into calls of any lengths,
+    single samples included.
+
+    Blocks take one of two roads. The direct one adds the products of four taps at a time as (p0 + p1) + (p2 + p3),
+    oldest samples first, one such sum after the other; so an output does not depend on how the signal is cut. Filters
+    with a transform (see firstate.h) filter by overlap-save where a call has more samples than the transform; outputs
+    of the two roads agree up to rounding. Single samples are filtered by a dot product, whose order of additions is
+    its own. NaN and infinities spread over the `tapsLen` outputs that they reach, on the transforms' road over those of
+    their block.
+
+    Real filters of more than 1600 samples a call, complex ones of more than 800, are shared out to OpenMP's threads on
+    both roads; the caller's rounding mode holds in all of them. Filters with integer taps run on the calling thread.
+
+    Results of integer type (`Sfs`) are those of the filter times 2^-scaleFactor. Blocks round them to the nearest
+    integer, ties to even, whatever the rounding mode, and saturate; a NaN becomes the lowest integer. Single samples
+    are rounded in the current mode by a conversion to 32 bits: 16-bit results saturate, but what is 2^31 or more
+   becomes the lowest integer in either type. Filters with integer taps add products modulo 2^32 and shift the sum by s
+   = tapsFactor - scaleFactor, left without saturation, or right with rounding to nearest, ties to even; then they
+    saturate.
+    @{ */
+
+/** Filters a block.
+
+    @param pSrc        samples, `numIters` elements; must not overlap `pDst`
+    @param pDst        destination, `numIters` elements
+    @param numIters    number of samples, at least 1
+    @param pState      state of the filter
+    @param scaleFactor the result is scaled by 2^-scaleFactor, any integer
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `numIters` below 1;
+            tarnStsContextMatchErr for a state of another kind; the status of a transform that fails */
+///@{
+TARN_API TarnStatus tarnsFIR_32f(const Tarn32f* pSrc, Tarn32f* pDst, int numIters, TarnsFIRState_32f* pState);
+TARN_API TarnStatus tarnsFIR_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int numIters, TarnsFIRState_32fc* pState);
+TARN_API TarnStatus tarnsFIR32f_16s_Sfs(const Tarn16s* pSrc, Tarn16s* pDst, int numIters, TarnsFIRState32f_16s* pState,
+                                        int scaleFactor);
+TARN_API TarnStatus tarnsFIR32fc_16sc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pDst, int numIters,
+                                          TarnsFIRState32fc_16sc* pState, int scaleFactor);
+TARN_API TarnStatus tarnsFIR_64f(const Tarn64f* pSrc, Tarn64f* pDst, int numIters, TarnsFIRState_64f* pState);
+TARN_API TarnStatus tarnsFIR_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int numIters, TarnsFIRState_64fc* pState);
+TARN_API TarnStatus tarnsFIR64f_32f(const Tarn32f* pSrc, Tarn32f* pDst, int numIters, TarnsFIRState64f_32f* pState);
+TARN_API TarnStatus tarnsFIR64fc_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int numIters,
+                                      TarnsFIRState64fc_32fc* pState);
+TARN_API TarnStatus tarnsFIR64f_32s_Sfs(const Tarn32s* pSrc, Tarn32s* pDst, int numIters, TarnsFIRState64f_32s* pState,
+                                        int scaleFactor);
+TARN_API TarnStatus tarnsFIR64fc_32sc_Sfs(const Tarn32sc* pSrc, Tarn32sc* pDst, int numIters,
+                                          TarnsFIRState64fc_32sc* pState, int scaleFactor);
+TARN_API TarnStatus tarnsFIR64f_16s_Sfs(const Tarn16s* pSrc, Tarn16s* pDst, int numIters, TarnsFIRState64f_16s* pState,
+                                        int scaleFactor);
+TARN_API TarnStatus tarnsFIR64fc_16sc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pDst, int numIters,
+                                          TarnsFIRState64fc_16sc* pState, int scaleFactor);
+TARN_API TarnStatus tarnsFIR32s_16s_Sfs(const Tarn16s* pSrc, Tarn16s* pDst, int numIters, TarnsFIRState32s_16s* pState,
+                                        int scaleFactor);
+TARN_API TarnStatus tarnsFIR32sc_16sc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pDst, int numIters,
+                                          TarnsFIRState32sc_16sc* pState, int scaleFactor);
+TARN_API TarnStatus tarnsFIR32s_16s32f_Sfs(const Tarn16s* pSrc, Tarn16s* pDst, int numIters,
+                                           TarnsFIRState32s_16s32f* pState, int scaleFactor);
+TARN_API TarnStatus tarnsFIR32sc_16sc32fc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pDst, int numIters,
+                                              TarnsFIRState32sc_16sc32fc* pState, int scaleFactor);
+///@}
+
+/** Filters a block in place.
+
+    The signal goes through a buffer of the state, 4096 samples at a time. Where samples have the taps' type each such
+    part takes the road that suits its own length; otherwise the call's length decides, and parts on the transforms'
+    road have 8192 samples.
+
+    @param pSrcDst     samples, and destination, `numIters` elements
+    @param numIters    number of samples, at least 1
+    @param pState      state of the filter
+    @param scaleFactor the result is scaled by 2^-scaleFactor, any integer
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `numIters` below 1;
+            tarnStsContextMatchErr for a state of another kind; the status of a transform that fails, in which case the
+            parts before it are written */
+///@{
+TARN_API TarnStatus tarnsFIR_32f_I(Tarn32f* pSrcDst, int numIters, TarnsFIRState_32f* pState);
+TARN_API TarnStatus tarnsFIR_32fc_I(Tarn32fc* pSrcDst, int numIters, TarnsFIRState_32fc* pState);
+TARN_API TarnStatus tarnsFIR32f_16s_ISfs(Tarn16s* pSrcDst, int numIters, TarnsFIRState32f_16s* pState, int scaleFactor);
+TARN_API TarnStatus tarnsFIR32fc_16sc_ISfs(Tarn16sc* pSrcDst, int numIters, TarnsFIRState32fc_16sc* pState,
+                                           int scaleFactor);
+TARN_API TarnStatus tarnsFIR_64f_I(Tarn64f* pSrcDst, int numIters, TarnsFIRState_64f* pState);
+TARN_API TarnStatus tarnsFIR_64fc_I(Tarn64fc* pSrcDst, int numIters, TarnsFIRState_64fc* pState);
+TARN_API TarnStatus tarnsFIR64f_32f_I(Tarn32f* pSrcDst, int numIters, TarnsFIRState64f_32f* pState);
+TARN_API TarnStatus tarnsFIR64fc_32fc_I(Tarn32fc* pSrcDst, int numIters, TarnsFIRState64fc_32fc* pState);
+TARN_API TarnStatus tarnsFIR64f_32s_ISfs(Tarn32s* pSrcDst, int numIters, TarnsFIRState64f_32s* pState, int scaleFactor);
+TARN_API TarnStatus tarnsFIR64fc_32sc_ISfs(Tarn32sc* pSrcDst, int numIters, TarnsFIRState64fc_32sc* pState,
+                                           int scaleFactor);
+TARN_API TarnStatus tarnsFIR64f_16s_ISfs(Tarn16s* pSrcDst, int numIters, TarnsFIRState64f_16s* pState, int scaleFactor);
+TARN_API TarnStatus tarnsFIR64fc_16sc_ISfs(Tarn16sc* pSrcDst, int numIters, TarnsFIRState64fc_16sc* pState,
+                                           int scaleFactor);
+TARN_API TarnStatus tarnsFIR32s_16s_ISfs(Tarn16s* pSrcDst, int numIters, TarnsFIRState32s_16s* pState, int scaleFactor);
+TARN_API TarnStatus tarnsFIR32sc_16sc_ISfs(Tarn16sc* pSrcDst, int numIters, TarnsFIRState32sc_16sc* pState,
+                                           int scaleFactor);
+TARN_API TarnStatus tarnsFIR32s_16s32f_ISfs(Tarn16s* pSrcDst, int numIters, TarnsFIRState32s_16s32f* pState,
+                                            int scaleFactor);
+TARN_API TarnStatus tarnsFIR32sc_16sc32fc_ISfs(Tarn16sc* pSrcDst, int numIters, TarnsFIRState32sc_16sc32fc* pState,
+                                               int scaleFactor);
+///@}
+
+/** Filters one sample.
+
+    @param src         sample
+    @param pDstVal     where the output goes
+    @param pState      state of the filter
+    @param scaleFactor the result is scaled by 2^-scaleFactor; for float taps the power has to be a normal number
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsContextMatchErr for a state of another kind */
+///@{
+TARN_API TarnStatus tarnsFIROne_32f(Tarn32f src, Tarn32f* pDstVal, TarnsFIRState_32f* pState);
+TARN_API TarnStatus tarnsFIROne_32fc(Tarn32fc src, Tarn32fc* pDstVal, TarnsFIRState_32fc* pState);
+TARN_API TarnStatus tarnsFIROne32f_16s_Sfs(Tarn16s src, Tarn16s* pDstVal, TarnsFIRState32f_16s* pState,
+                                           int scaleFactor);
+TARN_API TarnStatus tarnsFIROne32fc_16sc_Sfs(Tarn16sc src, Tarn16sc* pDstVal, TarnsFIRState32fc_16sc* pState,
+                                             int scaleFactor);
+TARN_API TarnStatus tarnsFIROne_64f(Tarn64f src, Tarn64f* pDstVal, TarnsFIRState_64f* pState);
+TARN_API TarnStatus tarnsFIROne_64fc(Tarn64fc src, Tarn64fc* pDstVal, TarnsFIRState_64fc* pState);
+TARN_API TarnStatus tarnsFIROne64f_32f(Tarn32f src, Tarn32f* pDstVal, TarnsFIRState64f_32f* pState);
+TARN_API TarnStatus tarnsFIROne64fc_32fc(Tarn32fc src, Tarn32fc* pDstVal, TarnsFIRState64fc_32fc* pState);
+TARN_API TarnStatus tarnsFIROne64f_32s_Sfs(Tarn32s src, Tarn32s* pDstVal, TarnsFIRState64f_32s* pState,
+                                           int scaleFactor);
+TARN_API TarnStatus tarnsFIROne64fc_32sc_Sfs(Tarn32sc src, Tarn32sc* pDstVal, TarnsFIRState64fc_32sc* pState,
+                                             int scaleFactor);
+TARN_API TarnStatus tarnsFIROne64f_16s_Sfs(Tarn16s src, Tarn16s* pDstVal, TarnsFIRState64f_16s* pState,
+                                           int scaleFactor);
+TARN_API TarnStatus tarnsFIROne64fc_16sc_Sfs(Tarn16sc src, Tarn16sc* pDstVal, TarnsFIRState64fc_16sc* pState,
+                                             int scaleFactor);
+TARN_API TarnStatus tarnsFIROne32s_16s_Sfs(Tarn16s src, Tarn16s* pDstVal, TarnsFIRState32s_16s* pState,
+                                           int scaleFactor);
+TARN_API TarnStatus tarnsFIROne32sc_16sc_Sfs(Tarn16sc src, Tarn16sc* pDstVal, TarnsFIRState32sc_16sc* pState,
+                                             int scaleFactor);
+TARN_API TarnStatus tarnsFIROne32s_16s32f_Sfs(Tarn16s src, Tarn16s* pDstVal, TarnsFIRState32s_16s32f* pState,
+                                              int scaleFactor);
+TARN_API TarnStatus tarnsFIROne32sc_16sc32fc_Sfs(Tarn16sc src, Tarn16sc* pDstVal, TarnsFIRState32sc_16sc32fc* pState,
+                                                 int scaleFactor);
+///@}
+
+/** @} */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,400 @@
+// Filtering with FIR states of floating taps: the direct road, overlap-save by transforms, in place.
+#pragma once
+
+#include "frame/simd_control.h"
+#include "levels/psfir_block.h"
+#include "psfir_common.h"
+#include "psfir_memory.h"
+#include "psfir_transform.h"
+#include "tarns/convert.h"
+
+#include <omp.h>
+
+namespace tarn {
+
+// -- Samples and elements of the taps' type
+// ----------------------------------------------------------------------------
+
+template <typename T>
+inline void samplesToTaps(const T* src, T* dst, int len)
+{
+    copyElements(src, dst, len);
+}
+
+// Outputs as samples: rounded to nearest and saturated if those are integers.
+inline void outputsToSamples(const Tarn32f* src, Tarn16s* dst, int len, int scaleFactor)
+{
+    tarnsConvert_32f16s_Sfs(src, dst, len, tarnRndNear, scaleFactor);
+}
+inline void outputsToSamples(const Tarn64f* src, Tarn32f* dst, int len, int /*scaleFactor*/)
+{
+    tarnsConvert_64f32f(src, dst, len);
+}
+inline void outputsToSamples(const Tarn64f* src, Tarn32s* dst, int len, int scaleFactor)
+{
+    tarnsConvert_64f32s_Sfs(src, dst, len, tarnRndNear, scaleFactor);
+}
+inline void outputsToSamples(const Tarn64f* src, Tarn16s* dst, int len, int scaleFactor)
+{
+    convertRounded_64f16s(src, dst, len, scaleFactor);
+}
+template <typename T>
+inline void outputsToSamples(const T* src, T* dst, int len, int /*scaleFactor*/)
+{
+    copyElements(src, dst, len);
+}
+template <typename T, typename S>
+    requires(isComplex<T> && !std::is_same_v<T, S>)
+inline void outputsToSamples(const T* src, S* dst, int len, int scaleFactor)
+{
+    outputsToSamples(reinterpret_cast<const Part<T>*>(src), reinterpret_cast<Part<S>*>(dst), 2 * len, scaleFactor);
+}
+
+// -- Threads
+// -----------------------------------------------------------------------------------------------------------
+
+// Calls of more samples than this are shared out.
+template <typename T>
+inline constexpr int longestOnOneThread = isComplex<T> ? 800 : 1600;
+
+// Lends a thread of a parallel region the control word of the thread that made the call: rounding mode and treatment of
+// denormals are the caller's, whichever thread computes an output.
+class CallersControl {
+public:
+    explicit CallersControl(unsigned callers) : own(readMxcsr()), lent(own != callers)
+    {
+        if (lent) {
+            writeMxcsr(callers);
+        }
+    }
+    ~CallersControl()
+    {
+        if (lent) {
+            writeMxcsr(own);
+        }
+    }
+    CallersControl(const CallersControl&) = delete;
+    CallersControl& operator=(const CallersControl&) = delete;
+
+private:
+    const unsigned own;
+    const bool lent;
+};
+
+// -- The direct road
+// ---------------------------------------------------------------------------------------------------
+
+template <typename State>
+inline constexpr bool sameTypes = std::is_same_v<typename State::Tap, typename State::Sample>;
+
+// Outputs of samples or of elements of the taps' type, by way of `scratch` where they have to be converted.
+template <typename State, typename X>
+inline void filterStretch(const State* state, const X* src, typename State::Sample* dst, int len,
+                          typename State::Tap* scratch, int scaleFactor)
+{
+    if (len < 1) {
+        return;
+    }
+    if constexpr (sameTypes<State>) {
+        blockKernel(state->pTapsX4, src, dst, len, state->tapsLen);
+    } else {
+        blockKernel(state->pTapsX4, src, scratch, len, state->tapsLen);
+        outputsToSamples(scratch, dst, len, scaleFactor);
+    }
+}
+
+// Equal shares for all threads, and the rest for the last one.
+template <typename State>
+inline void filterStretchInParallel(const State* state, const typename State::Sample* src, typename State::Sample* dst,
+                                    int len, typename State::Tap* scratch, int scaleFactor)
+{
+    const unsigned control = readMxcsr();
+    int threads = 1;
+    int share = len;
+#pragma omp parallel
+    {
+#pragma omp master
+        {
+            threads = omp_get_num_threads();
+            share = len / threads;
+        }
+#pragma omp barrier
+        const CallersControl lent(control);
+        const int thread = omp_get_thread_num();
+        const int first = share * thread;
+        const int count = thread == threads - 1 ? len - first : share;
+        filterStretch(state, src + first, dst + first, count, scratch + first, scaleFactor);
+    }
+}
+
+// The first outputs come from the delay buffer, until the window has left it; the others read the caller's samples. By
+// then the delay line is what the next call wants.
+template <typename State>
+inline void filterDirect(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                         int scaleFactor)
+{
+    using T = typename State::Tap;
+    const int tapsLen = state->tapsLen;
+    T* const scratch = reinterpret_cast<T*>(state->pTmp);
+    T* const window = state->pDlyLine + state->dlyLineIdx;
+    state->dlyLineIdx = 0;
+    if (len <= state->inHeadLen) {
+        samplesToTaps(src, window + tapsLen, len);
+        filterStretch(state, window + 1, dst, len, scratch, scaleFactor);
+        moveElements(window + len, state->pDlyLine, tapsLen);
+        return;
+    }
+    const int head = (tapsLen + tapsOfPass - 1) & -tapsOfPass;
+    samplesToTaps(src, window + tapsLen, state->inHeadLen);
+    filterStretch(state, window + 1, dst, head, scratch, scaleFactor);
+    samplesToTaps(src + len - tapsLen, state->pDlyLine, tapsLen);
+    const auto* const bulk = src + head - tapsLen + 1;
+    if (len > longestOnOneThread<T>) {
+        filterStretchInParallel(state, bulk, dst + head, len - head, scratch, scaleFactor);
+    } else {
+        filterStretch(state, bulk, dst + head, len - head, scratch, scaleFactor);
+    }
+}
+
+// What is filtered at once where outputs are converted: their half of the scratch area. The other half is the in-place
+// calls'.
+inline constexpr int outputsAtOnce = scratchElements / 2;
+
+template <typename State>
+inline TarnStatus runDirectPart(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                                int scaleFactor = 0)
+{
+    if (len > 0) {
+        filterDirect(src, dst, len, state, scaleFactor);
+    }
+    return tarnStsNoErr;
+}
+
+template <typename State>
+inline TarnStatus runDirect(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                            int scaleFactor = 0)
+{
+    return forEachPart(len, sameTypes<State> ? len : outputsAtOnce, [=](int begin, int count) {
+        return runDirectPart(src + begin, dst + begin, count, state, scaleFactor);
+    });
+}
+
+// -- The road of transforms
+// --------------------------------------------------------------------------------------------
+
+// Where a thread computes.
+template <typename T>
+struct BlockBuffers {
+    T* block;
+    Tarn8u* work;
+};
+
+template <typename T>
+inline BlockBuffers<T> buffersOf(const FirFields<T>* state, int thread)
+{
+    return {state->pFFTBlocks + static_cast<std::ptrdiff_t>(thread) * state->fftLen,
+            state->pFFTWork + static_cast<std::ptrdiff_t>(thread) * state->fftWorkSize};
+}
+
+// Overlap-save of one call: blocks of fftLen samples, of which the last fftLen + 1 - tapsLen give outputs.
+template <typename State>
+class OverlapSave {
+    using T = typename State::Tap;
+    using S = typename State::Sample;
+    using Calls = TransformCalls<T>;
+
+public:
+    OverlapSave(const S* pSrc, S* pDst, int numIters, State* pState, int factor)
+        : src(pSrc), dst(pDst), len(numIters), state(pState), scaleFactor(factor), history(pState->tapsLen - 1),
+          useful(pState->fftLen - history)
+    {
+    }
+
+    TarnStatus run() const
+    {
+        const BlockBuffers<T> own = buffersOf<T>(state, 0);
+        copyElements(state->pDlyLine + state->dlyLineIdx + 1, own.block, history);
+        state->dlyLineIdx = 0;
+        if (len <= useful) {
+            return filterShort(own);
+        }
+        return len > longestOnOneThread<T> ? filterInParallel() : filterInTurn(own);
+    }
+
+private:
+    int blockCount() const { return (len - 1) / useful + 1; }
+
+    // Stops at the first transform that fails.
+    TarnStatus filterInTurn(BlockBuffers<T> own) const
+    {
+        TarnStatus status = filterFirst(own);
+        const int blocks = blockCount();
+        for (int b = 1; status == tarnStsNoErr && b < blocks; ++b) {
+            status = filterLater(useful * b, own);
+        }
+        return status;
+    }
+
+    // Blocks are dealt round, so that neighbours run at the same time. The result is the worst status of any thread.
+    TarnStatus filterInParallel() const
+    {
+        const unsigned control = readMxcsr();
+        Tarn32s* const statuses = state->pThreadStatus;
+        const int mostThreads = std::min(omp_get_max_threads(), state->threads);
+        int threads = 1;
+        int blocks = 0;
+#pragma omp parallel num_threads(mostThreads)
+        {
+#pragma omp master
+            {
+                threads = omp_get_num_threads();
+                std::fill_n(statuses, threads, tarnStsNoErr);
+                blocks = blockCount();
+            }
+#pragma omp barrier
+            const CallersControl lent(control);
+            const int thread = omp_get_thread_num();
+            const BlockBuffers<T> own = buffersOf<T>(state, thread);
+            for (int b = thread; b < blocks; b += threads) {
+                const TarnStatus status = b == 0 ? filterFirst(own) : filterLater(useful * b, own);
+                statuses[thread] = std::min<Tarn32s>(statuses[thread], status);
+            }
+        }
+        Tarn32s worst = tarnStsNoErr;
+        for (int thread = 0; thread < threads; ++thread) {
+            worst = std::min(worst, statuses[thread]);
+        }
+        return static_cast<TarnStatus>(worst);
+    }
+
+    // All samples fit one block, which is also where the next call's delay line is found.
+    TarnStatus filterShort(BlockBuffers<T> own) const
+    {
+        samplesToTaps(src, own.block + history, len);
+        copyElements(own.block + len - 1, state->pDlyLine, history + 1);
+        zeroElements(own.block + history + len, useful - len);
+        return convolve(own.block, own, dst, len);
+    }
+
+    // The block whose history is the delay line.
+    TarnStatus filterFirst(BlockBuffers<T> own) const
+    {
+        samplesToTaps(src, own.block + history, useful);
+        const TarnStatus status = convolve(own.block, own, dst, useful);
+        samplesToTaps(src + len - history - 1, state->pDlyLine, history + 1);
+        return status;
+    }
+
+    // The block whose outputs begin at i. A full one is transformed from the caller's samples if they need no
+    // conversion.
+    TarnStatus filterLater(int i, BlockBuffers<T> own) const
+    {
+        const S* const window = src + i - history;
+        const int left = len - i;
+        if constexpr (sameTypes<State>) {
+            if (left >= state->fftLen) {
+                return convolve(window, own, dst + i, useful);
+            }
+        }
+        const int filled = left >= useful ? state->fftLen : left + history;
+        samplesToTaps(window, own.block, filled);
+        zeroElements(own.block + filled, state->fftLen - filled);
+        return convolve(own.block, own, dst + i, std::min(left, useful));
+    }
+
+    // The outputs of a block: all of it is transformed, multiplied by the taps' spectrum and transformed back.
+    TarnStatus convolve(const T* samples, BlockBuffers<T> own, S* outputs, int count) const
+    {
+        if (const TarnStatus status = Calls::forward(samples, own.block, state->pFFTSpec, own.work)) {
+            return status;
+        }
+        Calls::multiply(state->pFFTTaps, own.block, state->fftLen);
+        if (const TarnStatus status = Calls::inverse(own.block, own.block, state->pFFTSpec, own.work)) {
+            return status;
+        }
+        outputsToSamples(own.block + history, outputs, count, scaleFactor);
+        return tarnStsNoErr;
+    }
+
+    const S* src;
+    S* dst;
+    int len;
+    State* state;
+    int scaleFactor;
+    int history; // samples of a block that belong to outputs of the one before
+    int useful;  // outputs of a block
+};
+
+template <typename State>
+inline TarnStatus runTransforms(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                                int scaleFactor = 0)
+{
+    return len < 1 ? tarnStsNoErr : OverlapSave<State>(src, dst, len, state, scaleFactor).run();
+}
+
+// -- Calls
+// -------------------------------------------------------------------------------------------------------------
+
+template <typename State>
+inline bool takesTransforms(const State* state, int len)
+{
+    return state->fftLen >= 1 && state->fftLen < len;
+}
+
+template <typename State>
+inline TarnStatus runFilter(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                            int scaleFactor = 0)
+{
+    if (const TarnStatus status = checkFilter(state, len, src, dst)) {
+        return status;
+    }
+    return takesTransforms(state, len) ? runTransforms(src, dst, len, state, scaleFactor)
+                                       : runDirect(src, dst, len, state, scaleFactor);
+}
+
+// The bulk of the direct road reads samples that are outputs already, and so does the next block of the other one. So
+// outputs, or a copy of the samples where outputs need the first half for themselves, wait in the scratch area.
+template <typename State>
+inline TarnStatus runPartsInPlace(typename State::Sample* srcDst, int len, State* state, int scaleFactor = 0)
+{
+    using S = typename State::Sample;
+    S* const scratch = reinterpret_cast<S*>(state->pTmp);
+    if constexpr (sameTypes<State>) {
+        return forEachPart(len, scratchElements, [=](int begin, int count) {
+            S* const part = srcDst + begin;
+            const TarnStatus status = takesTransforms(state, count) ? runTransforms(part, scratch, count, state)
+                                                                    : runDirect(part, scratch, count, state);
+            if (status == tarnStsNoErr) {
+                copyElements(scratch, part, count);
+            }
+            return status;
+        });
+    } else if (takesTransforms(state, len)) {
+        return forEachPart(len, 2 * scratchElements, [=](int begin, int count) {
+            S* const part = srcDst + begin;
+            const TarnStatus status = runTransforms(part, scratch, count, state, scaleFactor);
+            if (status == tarnStsNoErr) {
+                copyElements(scratch, part, count);
+            }
+            return status;
+        });
+    } else {
+        S* const copy = reinterpret_cast<S*>(state->pTmp + FirRegions<typename State::Tap>::scratch() / 2);
+        return forEachPart(len, scratchElements, [=](int begin, int count) {
+            S* const part = srcDst + begin;
+            copyElements(part, copy, count);
+            return runDirect(copy, part, count, state, scaleFactor);
+        });
+    }
+}
+
+template <typename State>
+inline TarnStatus runInPlace(typename State::Sample* srcDst, int len, State* state, int scaleFactor = 0)
+{
+    if (const TarnStatus status = checkFilter(state, len, srcDst)) {
+        return status;
+    }
+    return runPartsInPlace(srcDst, len, state, scaleFactor);
+}
+
+} // namespace tarn
