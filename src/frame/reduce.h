@@ -52,12 +52,25 @@ struct Accumulators {
 };
 
 // Takes packs of `step` elements from i on, one for each accumulator in turn, as long as there is one for each; tells
-// where it stopped.
+// where it stopped. Two turns between tests of the loop's end, since a turn may be no more than two instructions.
 template <int step, typename State, int count, typename Take, typename... S>
 TARN_INLINE Index takeSteps(Accumulators<State, count>& states, Index i, Index len, Take take, S... src)
 {
-    for (; i <= len - count * step; i += count * step) {
-        repeat<count>([&](auto k) { states.at[k] = take(states.at[k], loadPack<step>(src + (i + k * step))...); });
+    constexpr int turn = count * step;
+    // One address for each source, from which all packs have constant distances.
+    const auto takeTurn = [&](auto offset, auto... at) __attribute__((always_inline))
+    {
+        repeat<count>([&](auto k) { states.at[k] = take(states.at[k], loadPack<step>(at + (offset + k * step))...); });
+    };
+    constexpr std::integral_constant<int, 0> first;
+    constexpr std::integral_constant<int, turn> second;
+    for (; i <= len - 2 * turn; i += 2 * turn) {
+        takeTurn(first, (src + i)...);
+        takeTurn(second, (src + i)...);
+    }
+    if (i <= len - turn) {
+        takeTurn(first, (src + i)...);
+        i += turn;
     }
     return i;
 }
@@ -152,6 +165,18 @@ struct WidenExtremes {
         return {min(a.smallest, b.smallest), max(a.largest, b.largest)};
     }
 };
+
+// The smaller and the larger of each two lanes. Where the level has no such instructions one comparison serves both.
+template <Integer T>
+TARN_INLINE Extremes<Vector<T>> ordered(Vector<T> x, Vector<T> y)
+{
+    if constexpr (sizeof(T) == sizeof(Tarn32s)) {
+        const auto exchanged = bitAnd(bitXor(x, y), greater(x, y));
+        return {bitXor(x, exchanged), bitXor(y, exchanged)};
+    } else {
+        return {min(x, y), max(x, y)};
+    }
+}
 
 template <typename T>
 TARN_INLINE Extremes<T> foldExtremes(Extremes<Vector<T>> extremes)

@@ -41,7 +41,8 @@ TARN_INLINE void minMaxOfFloats(const T* p, int len, T* smallest, T* largest)
     storeExtremes(extremes, smallest, largest);
 }
 
-// Integers have no order to keep. Unsigned ones are moved to where the signed instructions see their order.
+// Integers have no order to keep, so that vectors meet each other before they meet the running extremes. Unsigned ones
+// are moved to where the signed instructions see their order.
 template <typename T, typename Moved>
 TARN_INLINE void minMaxOfIntegers(const T* p, int len, T* smallest, T* largest, Moved moved)
 {
@@ -52,11 +53,14 @@ TARN_INLINE void minMaxOfIntegers(const T* p, int len, T* smallest, T* largest, 
     if (len >= step) {
         const auto start = moved(loadPack<step>(p));
         using State = Extremes<std::remove_const_t<decltype(start)>>;
-        const auto take = [moved](State state, Vector<T> x) { return WidenExtremes{}(state, moved(x)); };
-        Accumulators<State, 2> states(State{start, start});
-        i = takeSteps<step>(states, 0, len, take, p);
-        auto all = states.joined(WidenExtremes{});
-        i = takePacks<step>(all, i, len, take, p);
+        const auto takePair = [moved](State state, Pack<T, 2 * step> x) {
+            return WidenExtremes{}(state, ordered(moved(x.lo), moved(x.hi)));
+        };
+        const auto takeOne = [moved](State state, Vector<T> x) { return WidenExtremes{}(state, moved(x)); };
+        Accumulators<State, 1> states(State{start, start});
+        i = takeSteps<2 * step>(states, step, len, takePair, p);
+        auto all = states.at[0];
+        i = takePacks<step>(all, i, len, takeOne, p);
         const auto folded = foldExtremes<Element<decltype(all.smallest)>>(all);
         extremes = {moved(folded.smallest), moved(folded.largest)};
     }

@@ -95,10 +95,13 @@ TARN_INLINE Moments<Tarn32f> momentsOfBlock(const Tarn32f* p, Index len)
     constexpr int step = lanes<Tarn32f>;
     const auto zero = splat<Vector<Tarn32f>>(0);
     Moments<Vector<Tarn32f>> moments{zero, zero};
-    const auto at = [p](Index i) { return momentsOf(loadPack<step>(p + i)); };
     Index i = 0;
     for (; i <= len - 4 * step; i += 4 * step) {
-        moments = moments + ((at(i) + at(i + step)) + (at(i + 2 * step) + at(i + 3 * step)));
+        const auto x = loadPack<4 * step>(p + i);
+        const auto sum = add(add(x.lo.lo, x.lo.hi), add(x.hi.lo, x.hi.hi));
+        const auto squares = mul(x, x);
+        moments = moments + Moments<Vector<Tarn32f>>{
+                                sum, add(add(squares.lo.lo, squares.lo.hi), add(squares.hi.lo, squares.hi.hi))};
     }
     i = takePacks<step>(moments, i, len, AddMoments{}, p);
     if (i <= len - 2) {
