@@ -57,6 +57,13 @@ inline void outputsToSamples(const T* src, S* dst, int len, int scaleFactor)
 template <typename T>
 inline constexpr int longestOnOneThread = isComplex<T> ? 800 : 1600;
 
+// A region of one thread would still cost the runtime's calls into the kernel.
+template <typename T>
+inline bool isShared(int len)
+{
+    return len > longestOnOneThread<T> && omp_get_max_threads() > 1;
+}
+
 // Lends a thread of a parallel region the control word of the thread that made the call: rounding mode and treatment of
 // denormals are the caller's, whichever thread computes an output.
 class CallersControl {
@@ -87,31 +94,53 @@ private:
 template <typename State>
 inline constexpr bool sameTypes = std::is_same_v<typename State::Tap, typename State::Sample>;
 
-// Outputs of samples or of elements of the taps' type, by way of `scratch` where they have to be converted.
+// Where outputs wait for their conversion: half of the scratch area. The other half is the in-place calls'.
+inline constexpr int outputsAtOnce = scratchElements / 2;
+
+template <typename T>
+struct OutputScratch {
+    T* outputs;
+    int room;
+
+    // One of as many equal shares.
+    OutputScratch share(int thread, int threads) const
+    {
+        const int part = room / threads;
+        return {outputs + static_cast<std::ptrdiff_t>(part) * thread, part};
+    }
+};
+
+// Outputs of samples or of elements of the taps' type, by way of the scratch area where they have to be converted.
 template <typename State, typename X>
 inline void filterStretch(const State* state, const X* src, typename State::Sample* dst, int len,
-                          typename State::Tap* scratch, int scaleFactor)
+                          OutputScratch<typename State::Tap> scratch, int scaleFactor)
 {
-    if (len < 1) {
-        return;
-    }
     if constexpr (sameTypes<State>) {
-        blockKernel(state->pTapsX4, src, dst, len, state->tapsLen);
+        if (len > 0) {
+            blockKernel(state->pTapsX4, src, dst, len, state->tapsLen);
+        }
     } else {
-        blockKernel(state->pTapsX4, src, scratch, len, state->tapsLen);
-        outputsToSamples(scratch, dst, len, scaleFactor);
+        forEachPart(len, scratch.room, [=](int begin, int count) {
+            blockKernel(state->pTapsX4, src + begin, scratch.outputs, count, state->tapsLen);
+            outputsToSamples(scratch.outputs, dst + begin, count, scaleFactor);
+            return tarnStsNoErr;
+        });
     }
 }
+
+// Each thread gets some of the scratch area, of which there is no more.
+inline constexpr int mostThreadsOfStretch = 64;
 
 // Equal shares for all threads, and the rest for the last one.
 template <typename State>
 inline void filterStretchInParallel(const State* state, const typename State::Sample* src, typename State::Sample* dst,
-                                    int len, typename State::Tap* scratch, int scaleFactor)
+                                    int len, OutputScratch<typename State::Tap> scratch, int scaleFactor)
 {
     const unsigned control = readMxcsr();
+    const int mostThreads = std::min(omp_get_max_threads(), mostThreadsOfStretch);
     int threads = 1;
     int share = len;
-#pragma omp parallel
+#pragma omp parallel num_threads(mostThreads)
     {
 #pragma omp master
         {
@@ -123,7 +152,7 @@ inline void filterStretchInParallel(const State* state, const typename State::Sa
         const int thread = omp_get_thread_num();
         const int first = share * thread;
         const int count = thread == threads - 1 ? len - first : share;
-        filterStretch(state, src + first, dst + first, count, scratch + first, scaleFactor);
+        filterStretch(state, src + first, dst + first, count, scratch.share(thread, threads), scaleFactor);
     }
 }
 
@@ -135,7 +164,7 @@ inline void filterDirect(const typename State::Sample* src, typename State::Samp
 {
     using T = typename State::Tap;
     const int tapsLen = state->tapsLen;
-    T* const scratch = reinterpret_cast<T*>(state->pTmp);
+    const OutputScratch<T> scratch{reinterpret_cast<T*>(state->pTmp), outputsAtOnce};
     T* const window = state->pDlyLine + state->dlyLineIdx;
     state->dlyLineIdx = 0;
     if (len <= state->inHeadLen) {
@@ -149,34 +178,21 @@ inline void filterDirect(const typename State::Sample* src, typename State::Samp
     filterStretch(state, window + 1, dst, head, scratch, scaleFactor);
     samplesToTaps(src + len - tapsLen, state->pDlyLine, tapsLen);
     const auto* const bulk = src + head - tapsLen + 1;
-    if (len > longestOnOneThread<T>) {
+    if (isShared<T>(len)) {
         filterStretchInParallel(state, bulk, dst + head, len - head, scratch, scaleFactor);
     } else {
         filterStretch(state, bulk, dst + head, len - head, scratch, scaleFactor);
     }
 }
 
-// What is filtered at once where outputs are converted: their half of the scratch area. The other half is the in-place
-// calls'.
-inline constexpr int outputsAtOnce = scratchElements / 2;
-
 template <typename State>
-inline TarnStatus runDirectPart(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
-                                int scaleFactor = 0)
+inline TarnStatus runDirect(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                            int scaleFactor = 0)
 {
     if (len > 0) {
         filterDirect(src, dst, len, state, scaleFactor);
     }
     return tarnStsNoErr;
-}
-
-template <typename State>
-inline TarnStatus runDirect(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
-                            int scaleFactor = 0)
-{
-    return forEachPart(len, sameTypes<State> ? len : outputsAtOnce, [=](int begin, int count) {
-        return runDirectPart(src + begin, dst + begin, count, state, scaleFactor);
-    });
 }
 
 // -- The road of transforms
@@ -218,7 +234,7 @@ public:
         if (len <= useful) {
             return filterShort(own);
         }
-        return len > longestOnOneThread<T> ? filterInParallel() : filterInTurn(own);
+        return isShared<T>(len) ? filterInParallel() : filterInTurn(own);
     }
 
 private:

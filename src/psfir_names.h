@@ -90,7 +90,7 @@
     TarnStatus ownsFIRSR##TAIL##_Sfs(const S* pSrc, S* pDst, int numIters, TarnsFIRState##TAIL* pState,        \
                                      int scaleFactor)                                                          \
     {                                                                                                          \
-        return runDirectPart(pSrc, pDst, numIters, pState, scaleFactor);                                       \
+        return runDirect(pSrc, pDst, numIters, pState, scaleFactor);                                           \
     }                                                                                                          \
     TarnStatus fftFIRSR##TAIL##_Sfs(const S* pSrc, S* pDst, int numIters, TarnsFIRState##TAIL* pState,         \
                                     int scaleFactor)                                                           \

@@ -30,10 +30,10 @@ TARN_DEFINE_FIR_FILTER_SFS(64fc_16sc, Tarn16sc)
 
 TarnStatus ownsFIRSR64f_32f(const Tarn32f* pSrc, Tarn32f* pDst, int numIters, TarnsFIRState64f_32f* pState)
 {
-    return runDirectPart(pSrc, pDst, numIters, pState);
+    return runDirect(pSrc, pDst, numIters, pState);
 }
 
 TarnStatus ownsFIRSR64fc_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int numIters, TarnsFIRState64fc_32fc* pState)
 {
-    return runDirectPart(pSrc, pDst, numIters, pState);
+    return runDirect(pSrc, pDst, numIters, pState);
 }

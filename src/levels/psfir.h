@@ -130,7 +130,7 @@ TARN_FIR_INNER_SFS(64fc_32sc, Tarn32sc);
 TARN_FIR_INNER_SFS(64f_16s, Tarn16s);
 TARN_FIR_INNER_SFS(64fc_16sc, Tarn16sc);
 
-// One block of at most half the scratch area, on the direct road.
+// The direct road of one block.
 TARN_KERNEL TarnStatus ownsFIRSR64f_32f(const Tarn32f* pSrc, Tarn32f* pDst, int numIters, TarnsFIRState64f_32f* pState);
 TARN_KERNEL TarnStatus ownsFIRSR64fc_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int numIters,
                                           TarnsFIRState64fc_32fc* pState);
