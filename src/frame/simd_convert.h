@@ -121,6 +121,16 @@ struct Convert<Tarn32f> {
 template <typename D>
 inline constexpr Word<Convert<D>> convert;
 
+// Single precision as double, exact.
+struct WidenFloat {
+    static TARN_INLINE Tarn64f of(Tarn32f x) { return static_cast<Tarn64f>(x); }
+    static TARN_INLINE Pack<Tarn64f, 2 * lanes<Tarn64f>> of(Vector<Tarn32f> x)
+    {
+        return {{_mm_cvtps_pd(x.v)}, {_mm_cvtps_pd(_mm_movehl_ps(x.v, x.v))}};
+    }
+};
+inline constexpr Word<WidenFloat> widenFloat;
+
 // The same integer bits under a type of the same width.
 template <typename U>
 struct Retype {

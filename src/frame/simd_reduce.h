@@ -81,17 +81,6 @@ TARN_INLINE Vector<Tarn32f> loadTwo(const Tarn32f* p)
     return {reinterpret_cast<__m128>(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
 }
 
-// -- Floats in twice the precision: exact ----------------------------------------------------------------------------
-
-struct WidenFloat {
-    static TARN_INLINE Tarn64f of(Tarn32f x) { return static_cast<Tarn64f>(x); }
-    static TARN_INLINE Pack<Tarn64f, 2 * lanes<Tarn64f>> of(Vector<Tarn32f> x)
-    {
-        return {{_mm_cvtps_pd(x.v)}, {_mm_cvtps_pd(_mm_movehl_ps(x.v, x.v))}};
-    }
-};
-inline constexpr Word<WidenFloat> widenFloat;
-
 // -- Complex elements ------------------------------------------------------------------------------------------------
 
 // The real part in the places of both parts, and the imaginary part there.

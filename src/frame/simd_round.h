@@ -75,16 +75,6 @@ inline constexpr Word<SaturateSingle<TruncateSingle>> truncateSaturated;
 
 // -- Between the precisions ------------------------------------------------------------------------------------------
 
-// Exact.
-struct WidenFloat {
-    static TARN_INLINE Tarn64f of(Tarn32f x) { return static_cast<Tarn64f>(x); }
-    static TARN_INLINE Pack<Tarn64f, 2 * lanes<Tarn64f>> of(Vector<Tarn32f> x)
-    {
-        return {{_mm_cvtps_pd(x.v)}, {_mm_cvtps_pd(_mm_movehl_ps(x.v, x.v))}};
-    }
-};
-inline constexpr Word<WidenFloat> widenFloat;
-
 // In the current rounding mode.
 struct NarrowFloat {
     static TARN_INLINE Tarn32f of(Tarn64f x) { return static_cast<Tarn32f>(x); }
