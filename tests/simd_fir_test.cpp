@@ -1,0 +1,56 @@
+// The words of filters, for an element and for a vector.
+#include "frame/simd_fir.h"
+#include "support/words.h"
+
+#include <gtest/gtest.h>
+
+namespace tarn::test {
+namespace {
+
+TEST(SimdFirTest, AddElements)
+{
+    expectAgreement<Tarn32f, Tarn32f>(addElements);
+    expectAgreement<Tarn64f, Tarn64f>(addElements);
+    expectAgreement<Tarn32fc, Tarn32fc>(addElements);
+    expectAgreement<Tarn64fc, Tarn64fc>(addElements);
+}
+
+TEST(SimdFirTest, SpreadSamplesGiveComplexProducts)
+{
+    const Tarn64fc x = {3, -5};
+    const Tarn64fc w = {7, 11};
+    const Tarn64fc swapped = {11, 7};
+    Tarn64fc y{};
+    store(&y, mulSpread(loadPack<1>(&x), loadPack<2>(&w.re), loadPack<2>(&swapped.re)));
+    EXPECT_EQ(3 * 7 + 5 * 11, y.re);
+    EXPECT_EQ(3 * 11 - 5 * 7, y.im);
+}
+
+TEST(SimdFirTest, SumsOfLanesKeepTheirOrder)
+{
+    const Tarn32s rows[4][4] = {{1, 2, 3, 4}, {50, 60, 70, 80}, {-1, -20, 300, 9}, {INT32_MAX, 1, 0, 5}};
+    const auto row = [&](int i) { return loadPack<4>(rows[i]); };
+    Tarn32s sums[4];
+    store(sums, sumsOfLanes(row(0), row(1), row(2), row(3)));
+    EXPECT_EQ(10, sums[0]);
+    EXPECT_EQ(260, sums[1]);
+    EXPECT_EQ(288, sums[2]);
+    EXPECT_EQ(INT32_MIN + 5, sums[3]);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(sums[i], sumOfLanes(row(i)));
+    const Tarn32f singles[4] = {1, 20, 300, 4000};
+    EXPECT_EQ(4321, sumOfLanes(loadPack<4>(singles)));
+    const Tarn64f doubles[2] = {1, 20};
+    EXPECT_EQ(21, sumOfLanes(loadPack<2>(doubles)));
+}
+
+TEST(SimdFirTest, HalvesHaveZerosAbove)
+{
+    const Tarn32f singles[2] = {1, 20};
+    EXPECT_EQ(21, sumOfLanes(loadHalf(singles)));
+    const Tarn64f one = 7;
+    EXPECT_EQ(7, sumOfLanes(loadHalf(&one)));
+}
+
+} // namespace
+} // namespace tarn::test
