@@ -3,41 +3,9 @@
 
 #include "frame/frontend.h"
 #include "levels/psminmax.h"
+#include "psextreme.h"
 
 using namespace tarn;
-
-namespace {
-
-// From these lengths on the kernels that go by blocks pay.
-constexpr int blocks_16s = 32;
-constexpr int blocks_32f = 34;
-
-template <typename T>
-TarnStatus extreme(void (*kernel)(const T*, int, T*), const T* pSrc, int len, T* pMin)
-{
-    if (const TarnStatus status = check(len, pSrc, pMin)) {
-        return status;
-    }
-    kernel(pSrc, len, pMin);
-    return tarnStsNoErr;
-}
-
-// The place is optional: without it the call is that of the extreme alone.
-template <typename T>
-TarnStatus extremeAndIndex(TarnStatus (*alone)(const T*, int, T*), void (*kernel)(const T*, int, T*, int*),
-                           const T* pSrc, int len, T* pMin, int* pIndx)
-{
-    if (pIndx == nullptr) {
-        return alone(pSrc, len, pMin);
-    }
-    if (const TarnStatus status = check(len, pSrc, pMin)) {
-        return status;
-    }
-    kernel(pSrc, len, pMin, pIndx);
-    return tarnStsNoErr;
-}
-
-} // namespace
 
 TarnStatus tarnsMin_16s(const Tarn16s* pSrc, int len, Tarn16s* pMin)
 {

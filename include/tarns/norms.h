@@ -21,8 +21,8 @@ extern "C" {
     @{ */
 
 /** Maximum norm of a vector: *pNorm = max of |pSrc[i]|. The 16-bit result is exact: 32768 for -32768.
-    In `Sfs` forms: The value v is taken as it is at a scaleFactor of 0, shifted right by it from 1 to 31, and 0 above
-   that; below 0 it is shifted left by up to 31 bits and saturates at 2147483647.
+    In the scaled form the value v is taken as it is at a scaleFactor of 0, shifted right by it from 1 to 31, and 0
+   above that; below 0 it is shifted left by up to 31 bits and saturates at 2147483647.
 
     @param pSrc        vector, `len` elements
     @param len         number of elements, at least 1
@@ -39,7 +39,7 @@ TARN_API TarnStatus tarnsNorm_Inf_16s32s_Sfs(const Tarn16s* pSrc, int len, Tarn3
 ///@}
 
 /** Sum norm of a vector: *pNorm = sum of |pSrc[i]|. 16-bit sums are exact; as a float, one of up to 65536 elements is
-   converted as a signed integer with 2^32 added to a negative one, a longer one is rounded once. In `Sfs` forms: The
+   converted as a signed integer with 2^32 added to a negative one, a longer one is rounded once. In the scaled form the
    value v is taken as it is at a scaleFactor of 0 (the 32 bits of it, for up to 65536 elements), shifted right by it
    from 1 to 31 (63 for more elements), and 0 above that; below 0 it is shifted left by up to 31 bits (32) and saturates
    at 2147483647.
@@ -59,7 +59,8 @@ TARN_API TarnStatus tarnsNorm_L1_16s32s_Sfs(const Tarn16s* pSrc, int len, Tarn32
 ///@}
 
 /** Euclidean norm of a vector: *pNorm = sqrt(sum of |pSrc[i]|^2). 16-bit sums are exact, their root is formed in double
-   precision. In `Sfs` forms: The root is divided, for a negative factor multiplied, by the signed 32-bit integer 1 <<
+   precision. In the scaled form the root is divided, for a negative factor multiplied, by the signed 32-bit integer 1
+   <<
    (|scaleFactor| mod 32): a factor of 32 changes nothing, and one of 31 negates. The result is truncated towards zero
    and saturates at 2147483647.
 
@@ -78,8 +79,8 @@ TARN_API TarnStatus tarnsNorm_L2_16s32s_Sfs(const Tarn16s* pSrc, int len, Tarn32
 ///@}
 
 /** Maximum norm of a difference: *pNorm = max of |pSrc1[i] - pSrc2[i]|. Differences of 16-bit elements are formed
-   exactly. In `Sfs` forms: The value v is taken as it is at a scaleFactor of 0, shifted right by it from 1 to 31, and 0
-   above that; below 0 it is shifted left by up to 31 bits and saturates at 2147483647.
+   exactly. In the scaled form the value v is taken as it is at a scaleFactor of 0, shifted right by it from 1 to 31,
+   and 0 above that; below 0 it is shifted left by up to 31 bits and saturates at 2147483647.
 
     @param pSrc1       first vector, `len` elements
     @param pSrc2       second vector, `len` elements
@@ -98,9 +99,9 @@ TARN_API TarnStatus tarnsNormDiff_Inf_16s32s_Sfs(const Tarn16s* pSrc1, const Tar
 ///@}
 
 /** Sum norm of a difference: *pNorm = sum of |pSrc1[i] - pSrc2[i]|. Differences of 16-bit elements are formed exactly.
-    In `Sfs` forms: The value v is taken as it is at a scaleFactor of 0 (the 32 bits of it, for up to 65536 elements),
-   shifted right by it from 1 to 31 (63 for more elements), and 0 above that; below 0 it is shifted left by up to 31
-   bits (32) and saturates at 2147483647.
+    In the scaled form the value v is taken as it is at a scaleFactor of 0 (the 32 bits of it, for up to 65536
+   elements), shifted right by it from 1 to 31 (63 for more elements), and 0 above that; below 0 it is shifted left by
+   up to 31 bits (32) and saturates at 2147483647.
 
     @param pSrc1       first vector, `len` elements
     @param pSrc2       second vector, `len` elements
@@ -119,7 +120,8 @@ TARN_API TarnStatus tarnsNormDiff_L1_16s32s_Sfs(const Tarn16s* pSrc1, const Tarn
 ///@}
 
 /** Euclidean norm of a difference: *pNorm = sqrt(sum of |pSrc1[i] - pSrc2[i]|^2). Differences of 16-bit elements are
-   formed exactly. In `Sfs` forms: The root is divided, for a negative factor multiplied, by the signed 32-bit integer 1
+   formed exactly. In the scaled form the root is divided, for a negative factor multiplied, by the signed 32-bit
+   integer 1
    << (|scaleFactor| mod 32): a factor of 32 changes nothing, and one of 31 negates. The result is truncated towards
    zero and saturates at 2147483647.
 
