@@ -73,11 +73,7 @@ TARN_INLINE Vector<T> loadOperand(const T* p)
 template <Float T>
 TARN_INLINE Vector<T> loadHalf(const T* p)
 {
-    if constexpr (std::is_same_v<T, Tarn32f>) {
-        return {_mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p)))};
-    } else {
-        return {_mm_load_sd(p)};
-    }
+    return {reinterpret_cast<Native<T>>(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
 }
 
 } // namespace tarn
