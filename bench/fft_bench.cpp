@@ -27,14 +27,6 @@ Sizes orders(int first, int last, Order... further)
 
 int orderOf(int n) { return std::countr_zero(static_cast<unsigned>(n)); }
 
-// A peer that leaves the upper halves of wide registers in use slows every instruction of ours that writes the lower
-// half of one: it has to wait for what the rest held before.
-void forgetWideRegisters()
-{
-    if (__builtin_cpu_supports("avx"))
-        asm volatile("vzeroupper");
-}
-
 // -- Ours
 // --------------------------------------------------------------------------------------------------------------
 
@@ -56,7 +48,6 @@ struct OwnTransform {
         }
         int bytes = 0;
         getBufSize(spec.get(), &bytes);
-        forgetWideRegisters();
         return {spec.get(), filledBuffer<Tarn8u>(bufferSlot, bytes + 1, Fill::ones)};
     }
 };

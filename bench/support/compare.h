@@ -66,6 +66,11 @@ void invoke(Call& call)
     }
 }
 
+/// Puts the wide registers (the upper parts of the vector ones) back into their initial state. Once a peer has used
+/// them, instructions that write 128 bits keep the rest and so have to wait for it: whoever is measured next would take
+/// up to twice as long. After 512-bit code, `vzeroupper` alone does not end that.
+void forgetWideRegisters();
+
 /// `prepare(n)` makes the buffers outside the timed loop and gives the call on them.
 template <class Prepare>
 void registerOne(const std::string& name, const Sizes& lengths, const std::string& contestant, const Prepare& prepare,
@@ -77,6 +82,7 @@ void registerOne(const std::string& name, const Sizes& lengths, const std::strin
             auto call = prepare(n);
             // The first run faults pages in and fills the caches.
             invoke(call);
+            forgetWideRegisters();
             for (auto iteration : state) {
                 static_cast<void>(iteration);
                 invoke(call);
