@@ -119,6 +119,9 @@ public:
     }
 
 private:
+    static constexpr int cacheLine = 64;
+    static constexpr int gridBytes = gridColumns * static_cast<int>(sizeof(Complex<T>));
+
     TARN_INLINE T* place(int row, int block) const { return work + (row * blocks + block) * (2 * lanes<T>); }
 
     // The first pass: rows of the matrix to transforms of four in the work area.
@@ -127,6 +130,10 @@ private:
         for (int row = 0; row < R; row += 4) {
             for (int block = 0; block < blocks; ++block) {
                 const int at = column + block * lanes<T>;
+                // The factors of the next columns, which come in steps too wide for the processor to foresee.
+                for (int i = 0; i < 4; i += cacheLine / gridBytes) {
+                    __builtin_prefetch(gridBlock(grid, R, row + i, at + columns));
+                }
                 const auto element = [&](int i) {
                     return rotate<forward>(rows.load(row + i, at), loadBlock(gridBlock(grid, R, row + i, at)));
                 };

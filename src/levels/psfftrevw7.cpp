@@ -100,6 +100,7 @@ TARN_INLINE void reverseGroups(const Tarn8u* src, Tarn8u* dst, int size, const T
 // Large arrays are moved in tiles of 8 rows, an eighth of the array apart, of 8 elements each: whole cache lines on
 // both sides, where groups would touch every line several times, each time long after it has left the cache.
 inline constexpr int tileSide = 8;
+inline constexpr unsigned pageBytes = 4096;
 inline constexpr int reversedOfEight[tileSide] = {0, 4, 2, 6, 1, 5, 3, 7};
 
 // Rows of a tile, and how they are turned: as many rows as a register holds elements become as many columns.
@@ -147,41 +148,119 @@ private:
     static TARN_INLINE void put(Tarn8u* p, Vector<Mover> x) { store(reinterpret_cast<Mover*>(p), x); }
 };
 
-// A tile is named by the middle bits of its elements' numbers, and its place is the reverse of its name. Names are gone
-// through in the order middle, high, low bits: eight by eight tiles stay within a few hundred pages on both sides,
-// which the processor can translate from memory it has at hand. That order is not the table's, which is not needed
-// here.
-template <int bytes>
-TARN_INLINE void reverseTiles(const Tarn8u* src, Tarn8u* dst, int size)
-{
-    constexpr int outerBits = 3;
-    constexpr int outer = 1 << outerBits;
-    constexpr std::ptrdiff_t tileBytes = tileSide * bytes;
-    const int names = size / (tileSide * tileSide);
-    const int middles = names / (outer * outer);
-    const std::ptrdiff_t stride = names * tileBytes;
-    alignas(64) Tarn8u held[tileSide * tileSide * bytes];
+// A tile is named by the middle bits of its elements' numbers, and its place is the reverse of its name. Tiles are
+// moved in an order that goes through each page once, on both sides, while few enough are in use for the processor to
+// translate their addresses from memory it has at hand: the bits that tell names or places within a page run fastest.
+// Eight by eight tiles, the innermost, are eight cache lines in sequence on both sides. That order is not the table's,
+// which is not needed here.
+class Tiles {
+public:
+    struct Step {
+        int name;
+        int place;
+    };
 
-    ReversedCounter reversed(std::countr_zero(static_cast<unsigned>(middles)));
-    for (int middle = 0; middle < middles; ++middle, reversed.advance()) {
-        for (int high = 0; high < outer; ++high) {
-            for (int low = 0; low < outer; ++low) {
-                const int name = high * (names / outer) + middle * outer + low;
-                const int place =
-                    reversedOfEight[low] * (names / outer) + reversed.value() * outer + reversedOfEight[high];
-                const std::ptrdiff_t i = name * tileBytes;
-                const std::ptrdiff_t j = place * tileBytes;
-                if (name < place) {
-                    Tile<bytes>::move(src + i, stride, held, tileBytes);
-                    Tile<bytes>::move(src + j, stride, dst + i, stride);
-                    Tile<bytes>::copy(held, dst + j, stride);
-                } else if (name == place) {
-                    Tile<bytes>::move(src + i, stride, held, tileBytes);
-                    Tile<bytes>::copy(held, dst + i, stride);
+    // Those of an array of `size` elements, so many of which in sequence fill a page.
+    Tiles(int size, unsigned tilesInPage)
+        : middleBits(std::countr_zero(static_cast<unsigned>(size)) - 4 * outerBits),
+          pageBits(std::min(std::countr_zero(tilesInPage) - outerBits, middleBits / 2))
+    {
+    }
+
+    // fetch(step) for every tile, and move(step) some steps later, when memory has answered.
+    template <typename Fetch, typename Move>
+    TARN_INLINE void each(Fetch fetch, Move move) const
+    {
+        std::array<Step, ahead> pending{};
+        unsigned count = 0;
+        sequence([&](Step step) {
+            fetch(step);
+            Step& slot = pending[count % ahead];
+            if (count++ >= ahead) {
+                move(slot);
+            }
+            slot = step;
+        });
+        for (unsigned i = 0; i < ahead; ++i) {
+            move(pending[(count + i) % ahead]);
+        }
+    }
+
+private:
+    static constexpr int outerBits = 3;
+    static constexpr int outer = 1 << outerBits;
+    static constexpr unsigned ahead = 8; // no more than there are tiles
+
+    template <typename Use>
+    TARN_INLINE void sequence(Use use) const
+    {
+        const int centreBits = middleBits - 2 * pageBits;
+        ReversedCounter centreReversed(centreBits);
+        for (int centre = 0; centre < 1 << centreBits; ++centre, centreReversed.advance()) {
+            ReversedCounter bottomReversed(pageBits);
+            for (int bottom = 0; bottom < 1 << pageBits; ++bottom, bottomReversed.advance()) {
+                ReversedCounter topReversed(pageBits);
+                for (int top = 0; top < 1 << pageBits; ++top, topReversed.advance()) {
+                    const int name = join(top, centre, bottom);
+                    const int place = join(bottomReversed.value(), centreReversed.value(), topReversed.value());
+                    const int outermost = middleBits + outerBits;
+                    for (int low = 0; low < outer; ++low) {
+                        for (int high = 0; high < outer; ++high) {
+                            use(Step{(high << outermost) | name | low,
+                                     (reversedOfEight[low] << outermost) | place | reversedOfEight[high]});
+                        }
+                    }
                 }
             }
         }
     }
+
+    // The middle bits in their place.
+    TARN_INLINE int join(int top, int centre, int bottom) const
+    {
+        return ((((top << (middleBits - 2 * pageBits)) | centre) << pageBits) | bottom) << outerBits;
+    }
+
+    int middleBits;
+    int pageBits;
+};
+
+template <int bytes>
+TARN_INLINE void reverseTiles(const Tarn8u* src, Tarn8u* dst, int size)
+{
+    constexpr std::ptrdiff_t tileBytes = tileSide * bytes;
+    const std::ptrdiff_t stride = size / tileSide * bytes;
+    const auto fetch = [stride](const Tarn8u* tile) {
+        for (int row = 0; row < tileSide; ++row) {
+            __builtin_prefetch(tile + row * stride);
+        }
+    };
+    const Tiles tiles(size, pageBytes / tileBytes);
+    if (src != dst) {
+        tiles.each([&](Tiles::Step step) { fetch(src + step.name * tileBytes); },
+                   [&](Tiles::Step step) {
+                       Tile<bytes>::move(src + step.name * tileBytes, stride, dst + step.place * tileBytes, stride);
+                   });
+        return;
+    }
+    alignas(64) Tarn8u held[tileSide * tileSide * bytes];
+    tiles.each(
+        [&](Tiles::Step step) {
+            if (step.name < step.place) {
+                fetch(dst + step.name * tileBytes);
+            }
+        },
+        [&](Tiles::Step step) {
+            Tarn8u* i = dst + step.name * tileBytes;
+            Tarn8u* j = dst + step.place * tileBytes;
+            if (step.name <= step.place) {
+                Tile<bytes>::move(i, stride, held, tileBytes);
+                if (step.name < step.place) {
+                    Tile<bytes>::move(j, stride, i, stride);
+                }
+                Tile<bytes>::copy(held, j, stride);
+            }
+        });
 }
 
 // From here on tiles pay; it is the smallest size whose names have high and low bits.
