@@ -52,13 +52,10 @@ struct FirPlan {
         if (const TarnStatus status = Calls::getBufSize(created, &workSize)) {
             return status;
         }
-        if (isComplex<T>) {
-            workSize = static_cast<int>(roundedUp(workSize));
-        }
+        workSize = static_cast<int>(roundedUp(workSize));
         fftLen = 1 << order;
         regions.spectrum = roundedUp(static_cast<long long>(sizeof(T)) << order);
-        regions.work = roundedUp(static_cast<long long>(workSize) * threads);
-        regions.blocks = regions.spectrum * threads;
+        regions.buffers = (workSize + regions.spectrum) * threads;
         return tarnStsNoErr;
     }
 
@@ -66,6 +63,7 @@ struct FirPlan {
     void build(FirFields<T>* state, const T* pTaps, int tapsLen, Tarn32u id) const
     {
         regions.place(state);
+        state->pFFTBlocks = state->pFFTWork == nullptr ? nullptr : reinterpret_cast<T*>(state->pFFTWork + workSize);
         state->idCtx = id;
         state->tapsLen = tapsLen;
         state->dlyLen = tapsLen;

@@ -208,8 +208,8 @@ struct BlockBuffers {
 template <typename T>
 inline BlockBuffers<T> buffersOf(const FirFields<T>* state, int thread)
 {
-    return {state->pFFTBlocks + static_cast<std::ptrdiff_t>(thread) * state->fftLen,
-            state->pFFTWork + static_cast<std::ptrdiff_t>(thread) * state->fftWorkSize};
+    const std::ptrdiff_t bytes = thread * threadBytes<T>(state->fftWorkSize, state->fftLen);
+    return {reinterpret_cast<T*>(reinterpret_cast<Tarn8u*>(state->pFFTBlocks) + bytes), state->pFFTWork + bytes};
 }
 
 // Overlap-save of one call: blocks of fftLen samples, of which the last fftLen + 1 - tapsLen give outputs.
@@ -238,6 +238,12 @@ public:
     }
 
 private:
+    // The first of a thread's blocks, or the one behind the last of the thread before. The first thread, whose buffer
+    // has the delay line, is never without a block.
+    static int shareBegin(int blocks, int thread, int threads)
+    {
+        return static_cast<int>((static_cast<long long>(blocks) * thread + threads - 1) / threads);
+    }
     int blockCount() const { return (len - 1) / useful + 1; }
 
     // Stops at the first transform that fails.
@@ -251,7 +257,8 @@ private:
         return status;
     }
 
-    // Blocks are dealt round, so that neighbours run at the same time. The result is the worst status of any thread.
+    // Every thread takes a run of neighbouring blocks: where the outputs of two threads meet they take cache lines from
+    // each other, and so do their prefetches. The result is the worst status of any thread.
     TarnStatus filterInParallel() const
     {
         const unsigned control = readMxcsr();
@@ -271,10 +278,13 @@ private:
             const CallersControl lent(control);
             const int thread = omp_get_thread_num();
             const BlockBuffers<T> own = buffersOf<T>(state, thread);
-            for (int b = thread; b < blocks; b += threads) {
-                const TarnStatus status = b == 0 ? filterFirst(own) : filterLater(useful * b, own);
-                statuses[thread] = std::min<Tarn32s>(statuses[thread], status);
+            // Kept here until the end: the slots share cache lines, which threads would take from each other.
+            TarnStatus ownWorst = tarnStsNoErr;
+            const int end = shareBegin(blocks, thread + 1, threads);
+            for (int b = shareBegin(blocks, thread, threads); b < end; ++b) {
+                ownWorst = std::min(ownWorst, b == 0 ? filterFirst(own) : filterLater(useful * b, own));
             }
+            statuses[thread] = ownWorst;
         }
         Tarn32s worst = tarnStsNoErr;
         for (int thread = 0; thread < threads; ++thread) {

@@ -53,10 +53,18 @@ struct FirSizes<Tarn64fc> {
     static constexpr long long table(long long n) { return 32 * n; }
 };
 
+// What a thread needs on the road of transforms: a transform's work buffer and behind it a block. Those of one thread
+// lie side by side, since a prefetch past their end takes cache lines from whoever is there.
+template <typename T>
+constexpr std::ptrdiff_t threadBytes(int workSize, int fftLen)
+{
+    return workSize + std::ptrdiff_t{fftLen} * static_cast<std::ptrdiff_t>(sizeof(T));
+}
+
 // Bytes of the regions, each a multiple of the alignment.
 template <typename T>
 struct FirRegions {
-    long long taps, delay, status, table, spectrum, work, blocks;
+    long long taps, delay, status, table, spectrum, buffers;
 
     // 32-bit fields: 112 bytes. Pointers of twice the width need more.
     static constexpr long long fields() { return std::max(112LL, roundedUp(sizeof(FirFields<T>))); }
@@ -71,12 +79,12 @@ struct FirRegions {
     // A state without road for transforms and its statuses.
     static constexpr FirRegions direct(long long n)
     {
-        return {roundedUp(n * static_cast<long long>(sizeof(T))), delayBytes(n), 0, FirSizes<T>::table(n), 0, 0, 0};
+        return {roundedUp(n * static_cast<long long>(sizeof(T))), delayBytes(n), 0, FirSizes<T>::table(n), 0, 0};
     }
 
     constexpr long long total() const
     {
-        return fields() + taps + delay + status + table + spectrum + work + blocks + scratch();
+        return fields() + taps + delay + status + table + spectrum + buffers + scratch();
     }
 
     // Tells a state where its regions are; those without bytes are null.
@@ -92,8 +100,7 @@ struct FirRegions {
         take(state->pThreadStatus, status);
         take(state->pTapsX4, table);
         take(state->pFFTTaps, spectrum);
-        take(state->pFFTWork, work);
-        take(state->pFFTBlocks, blocks);
+        take(state->pFFTWork, buffers);
         take(state->pTmp, scratch());
     }
 };

@@ -31,8 +31,8 @@ struct FirFields {
     int phaseTapsLen;                         // MR
     int form;                                 // MR
     int dlyLen;                               // samples that a caller sees of the delay line
-    T* pFFTBlocks;                            // fftLen elements a thread
-    Tarn8u* pFFTWork;                         // fftWorkSize bytes a thread
+    T* pFFTBlocks;                            // fftLen elements for the first thread
+    Tarn8u* pFFTWork;                         // fftWorkSize bytes for it, right before
     int fftWorkSize;
     Tarn8u* pTmp;
     Tarn32s* pThreadStatus; // null in the caller's memory
