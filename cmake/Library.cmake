@@ -17,7 +17,7 @@ target_include_directories(tarns
 # Kernels are vectorised by hand; the compiler's own vectoriser would only bloat their scalar heads and tails, and its
 # loop patterns would turn the movers into calls of memcpy. Nothing reads errno, so roots may be single instructions.
 target_compile_options(tarns PRIVATE
-    -fno-tree-vectorize -fno-tree-slp-vectorize -fno-tree-loop-distribute-patterns
+    -fno-tree-vectorize -fno-tree-slp-vectorize $<$<CXX_COMPILER_ID:GNU>:-fno-tree-loop-distribute-patterns>
     -fno-math-errno -fno-exceptions -fno-rtti -fno-semantic-interposition)
 if(NOT TARNS_SANITIZE)
     target_compile_options(tarns PRIVATE -O3)
@@ -28,9 +28,14 @@ endif()
 # transforms, whose arrays advance at different paces, are left to the compiler.
 file(GLOB TARNS_WALKING_KERNELS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/levels/*.cpp)
 list(FILTER TARNS_WALKING_KERNELS EXCLUDE REGEX "/psfft[^/]*$")
-set_source_files_properties(${TARNS_WALKING_KERNELS} PROPERTIES COMPILE_OPTIONS "-fno-ivopts;-fno-tree-scev-cprop")
-target_link_options(tarns PRIVATE -Wl,-Bsymbolic-functions -Wl,-z,defs -Wl,--as-needed
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    set_source_files_properties(${TARNS_WALKING_KERNELS} PROPERTIES COMPILE_OPTIONS "-fno-ivopts;-fno-tree-scev-cprop")
+endif()
+target_link_options(tarns PRIVATE -Wl,-Bsymbolic-functions -Wl,--as-needed
     -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+if(NOT TARNS_SANITIZE) # whose functions are the program's
+    target_link_options(tarns PRIVATE -Wl,-z,defs)
+endif()
 set_property(TARGET tarns APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
 
 find_package(OpenMP REQUIRED COMPONENTS CXX)

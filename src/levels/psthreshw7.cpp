@@ -51,9 +51,9 @@ template <typename T>
 void limit(const T* pSrc, T* pDst, int len, T level, int relOp)
 {
     if (relOp == tarnCmpGreater) {
-        walk(pDst, len, WithConstant{min, level}, pSrc);
+        walk(pDst, len, WithConstant<Word<Min>, T>{min, level}, pSrc);
     } else {
-        walk(pDst, len, WithConstant{max, level}, pSrc);
+        walk(pDst, len, WithConstant<Word<Max>, T>{max, level}, pSrc);
     }
 }
 
