@@ -22,4 +22,7 @@ if(TARNS_BUILD_EXAMPLES)
         -D WORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/examples -P ${CMAKE_CURRENT_LIST_DIR}/examples_test.cmake)
     add_test(NAME tones_test COMMAND ${CMAKE_COMMAND} -D TONES=$<TARGET_FILE:tones>
         -D WORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/tones -P ${CMAKE_CURRENT_LIST_DIR}/tones_test.cmake)
+    add_test(NAME telephone_test COMMAND ${CMAKE_COMMAND} -D TELEPHONE=$<TARGET_FILE:telephone>
+        -D TONES=$<TARGET_FILE:tones> -D WORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/telephone
+        -P ${CMAKE_CURRENT_LIST_DIR}/telephone_test.cmake)
 endif()
