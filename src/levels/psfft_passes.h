@@ -307,6 +307,10 @@ public:
             eightElements(sink);
             return;
         }
+        if (size == 16) {
+            sixteenElements(sink);
+            return;
+        }
         if (size <= wholeSize) {
             firstPass(0, size / Source::streams);
             for (int L = shortest; L < size; L *= 4) {
@@ -357,19 +361,16 @@ private:
     // copied: the compiler cannot know that the results do not overwrite them.
     void firstPass(int first, int count) const
     {
+        if (shortest == 16) {
+            firstPassOfFours(source, work, first, count);
+            return;
+        }
         const Source from = source;
         T* const to = work;
         const auto place = [=](int at, int group, int lane, int block) {
             return to + 2 * (at + from.laneOffset(lane, group) + lanes<T> * block);
         };
         const int end = first + count;
-        if (shortest == 16) {
-            for (int at = first; at < end; at += from.step(4)) {
-                from.template transformQuads<forward>(
-                    at, 4, [&](int lane, int block, Block<T> x) { storeBlock(place(at, 4, lane, block), x); });
-            }
-            return;
-        }
         for (int at = first; at < end; at += from.step(8)) {
             from.template transformQuads<forward>(
                 at, 8, [&](int lane, int block, Block<T> x) { storeBlock(place(at, 8, lane, block), x); });
@@ -382,6 +383,27 @@ private:
                 storeBlock(p + 8, even - odd);
             });
         }
+    }
+
+    static TARN_INLINE void firstPassOfFours(Source from, T* to, int first, int count)
+    {
+        for (int at = first; at < first + count; at += from.step(4)) {
+            from.template transformQuads<forward>(at, 4, [&](int lane, int block, Block<T> x) {
+                storeBlock(to + 2 * (at + from.laneOffset(lane, 4) + lanes<T> * block), x);
+            });
+        }
+    }
+
+    // One butterfly or two after another: with the length known, nothing is left of the loops.
+    template <typename Sink>
+    TARN_INLINE void sixteenElements(Sink sink) const
+    {
+        Source from = source;
+        if constexpr (requires { from.size; }) {
+            from.size = 16;
+        }
+        firstPassOfFours(from, work, 0, 16 / Source::streams);
+        stage<forward>(work, 0, 16, 16, twd, sink);
     }
 
     // Eight points are fewer than the lanes need.
