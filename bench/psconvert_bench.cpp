@@ -21,6 +21,21 @@ Comparison compareLoop(const std::string& name, TarnStatus (*convert)(const S*, 
         peer("loop", [=](const S* src, D* dst, int n) { loop(src, dst, n, further...); }));
 }
 
+// The same where a sample of one side is three bytes.
+template <class D, class S, class... Further>
+Comparison comparePacked(const std::string& name, TarnStatus (*convert)(const S*, D*, int, Further...),
+                         void (*loop)(const S*, D*, int, Further...), std::type_identity_t<Further>... further)
+{
+    const auto onBuffers = [=](auto function) {
+        return [=](int n) {
+            const S* src = filledBuffer<S>(1, sizeof(S) == 1 ? 3 * n : n, Fill::signal);
+            D* dst = filledBuffer<D>(0, sizeof(D) == 1 ? 3 * n : n, Fill::signal);
+            return [=] { return function(src, dst, n, further...); };
+        };
+    };
+    return comparePrepared(defaultSizes, name, onBuffers(convert), peer("loop", onBuffers(loop)));
+}
+
 template <class D, class S>
 Comparison compareNearest(const std::string& name, TarnStatus (*convert)(const S*, D*, int, int, int),
                           void (*loop)(const S*, D*, int, int), int s)
@@ -49,13 +64,13 @@ const Comparison rounding = [] {
 }();
 
 const Comparison bytes = [] {
-    compareLoop<Tarn32s, Tarn8u>("convert_24s32s", tarnsConvert_24s32s, from24Loop);
-    compareLoop<Tarn32f, Tarn8u>("convert_24s32f", tarnsConvert_24s32f, from24Loop);
-    compareLoop<Tarn8u, Tarn32s>("convert_32s24s_Sfs0", tarnsConvert_32s24s_Sfs, to24Loop, 0);
-    compareLoop<Tarn8u, Tarn32s>("convert_32s24s_Sfs8", tarnsConvert_32s24s_Sfs, to24Loop, 8);
-    compareLoop<Tarn8u, Tarn32s>("convert_32s24s_Sfs-3", tarnsConvert_32s24s_Sfs, to24Loop, -3);
-    compareLoop<Tarn8u, Tarn32f>("convert_32f24s_Sfs0", tarnsConvert_32f24s_Sfs, to24Loop, 0);
-    return compareLoop<Tarn8u, Tarn32f>("convert_32f24s_Sfs-9", tarnsConvert_32f24s_Sfs, to24Loop, -9);
+    comparePacked<Tarn32s, Tarn8u>("convert_24s32s", tarnsConvert_24s32s, from24Loop);
+    comparePacked<Tarn32f, Tarn8u>("convert_24s32f", tarnsConvert_24s32f, from24Loop);
+    comparePacked<Tarn8u, Tarn32s>("convert_32s24s_Sfs0", tarnsConvert_32s24s_Sfs, to24Loop, 0);
+    comparePacked<Tarn8u, Tarn32s>("convert_32s24s_Sfs8", tarnsConvert_32s24s_Sfs, to24Loop, 8);
+    comparePacked<Tarn8u, Tarn32s>("convert_32s24s_Sfs-3", tarnsConvert_32s24s_Sfs, to24Loop, -3);
+    comparePacked<Tarn8u, Tarn32f>("convert_32f24s_Sfs0", tarnsConvert_32f24s_Sfs, to24Loop, 0);
+    return comparePacked<Tarn8u, Tarn32f>("convert_32f24s_Sfs-9", tarnsConvert_32f24s_Sfs, to24Loop, -9);
 }();
 
 const Comparison halves = [] {
