@@ -372,6 +372,39 @@ TEST(Windows, RoundingModes)
     }
 }
 
+// A caller may set the mode of the vector unit alone: elements that fill no register, and the middle of a scaled
+// window, follow it as the others do.
+TEST(Windows, RoundsEveryElementInTheModeOfTheVectorUnit)
+{
+    const auto roundedIn = [](RoundingMode mode, double x) {
+        return mode == RoundingMode::nearest ? std::nearbyint(x)
+               : mode == RoundingMode::down  ? std::floor(x)
+               : mode == RoundingMode::up    ? std::ceil(x)
+                                             : std::trunc(x);
+    };
+    constexpr unsigned roundingField = 0x6000;
+    for (const RoundingMode mode : allRoundingModes)
+        for (const int sign : {-1, 1})
+            for (int len = 8; len < 24; ++len) {
+                std::vector<Tarn16s> x(static_cast<std::size_t>(len), static_cast<Tarn16s>(sign * 1115));
+                std::vector<Tarn16s> scaled = {0, 0, 0, 0, static_cast<Tarn16s>(sign * 287), 0, 0, 0, 0};
+                {
+                    const MxcsrScope scope((readMxcsr() & ~roundingField) | static_cast<unsigned>(mode) << 13);
+                    ASSERT_EQ(tarnStsNoErr, tarnsWinBartlett_16s_I(x.data(), len));
+                    ASSERT_EQ(tarnStsNoErr, tarnsWinBlackmanQ15_16s_ISfs(scaled.data(), 9, -5243, 1));
+                }
+                for (int n = 1; n < len / 2; ++n) {
+                    const double product = sign * 1115 * n * 2.0 / (len - 1);
+                    // The weights are rounded: products near an integer, or half of one, may lie on either side.
+                    if (std::fabs(2 * product - std::nearbyint(2 * product)) > 1e-3) {
+                        EXPECT_EQ(roundedIn(mode, product), x[static_cast<std::size_t>(n)]) << n << " of " << len;
+                        EXPECT_EQ(roundedIn(mode, product), x[static_cast<std::size_t>(len - 1 - n)]) << n;
+                    }
+                }
+                EXPECT_EQ(roundedIn(mode, sign * 143.5), scaled[4]);
+            }
+}
+
 template <class T>
 void expectWindowChecks(OutOfPlace<T> call, InPlace<T> inPlace)
 {

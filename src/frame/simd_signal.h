@@ -2,6 +2,7 @@
 // scalars, and put in opposite order.
 #pragma once
 
+#include "frame/simd_control.h"
 #include "frame/simd_round.h"
 
 #include <array>
@@ -102,11 +103,16 @@ TARN_INLINE void storeSamples(Tarn16s* p, Pack<Tarn32f, N> x)
     storeNarrowed(p, roundSingle(x));
 }
 
-// To an integer in the current rounding mode. The compiler's own rint() rounds magnitudes where it sees no more than
-// single or double precision, which is wrong for negative values in a directed mode.
+// To an integer in the rounding mode of the vector unit, whose conversions the other elements of an array go through:
+// callers may have set the two units differently. The compiler's own rint() rounds magnitudes where it sees no more
+// than single or double precision, which is wrong for negative values in a directed mode.
 inline long double roundExtended(long double x)
 {
-    asm("frndint" : "+t"(x));
+    constexpr unsigned roundingField = mxcsrRoundingField >> 3;
+    unsigned short own;
+    asm("fnstcw %0" : "=m"(own));
+    const auto lent = static_cast<unsigned short>((own & ~roundingField) | ((readMxcsr() & mxcsrRoundingField) >> 3));
+    asm("fldcw %1\n\tfrndint\n\tfldcw %2" : "+t"(x) : "m"(lent), "m"(own));
     return x;
 }
 
