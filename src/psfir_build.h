@@ -86,7 +86,7 @@ inline TarnStatus allocateFields(FirFields<T>** ppState, const T* pTaps, int tap
     if (const TarnStatus status = plan.addRoadOfTransforms(tapsLen)) {
         return status;
     }
-    Owned<Tarn8u[]> block = allocate<Tarn8u>(plan.regions.total());
+    Owned<Tarn8u[]> block = allocate<Tarn8u>(plan.regions.total() + FirSizes<T>::surplus(plan.threads));
     if (!block) {
         return tarnStsNoMemErr;
     }

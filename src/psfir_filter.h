@@ -234,63 +234,67 @@ public:
         if (len <= useful) {
             return filterShort(own);
         }
-        return isShared<T>(len) ? filterInParallel() : filterInTurn(own);
+        return len > longestOnOneThread<T> ? filterInShares() : filterInTurn(own);
     }
 
 private:
+    // What follows a transform that fails: the end of the call where one thread works, and nothing where others could
+    // not be told.
+    enum class Failure { ends, isKept };
+
+    int blockCount() const { return (len - 1) / useful + 1; }
+
+    TarnStatus filterInTurn(BlockBuffers<T> own) const
+    {
+        TarnStatus status = filterFirst<Failure::ends>(own);
+        const int blocks = blockCount();
+        for (int b = 1; status == tarnStsNoErr && b < blocks; ++b) {
+            status = filterLater<Failure::ends>(useful * b, own);
+        }
+        return status;
+    }
+
+    // The result is the worst status of any thread.
+    TarnStatus filterInShares() const
+    {
+        const int mostThreads = std::min(omp_get_max_threads(), state->threads);
+        int threads = 1;
+        if (mostThreads == 1) {
+            filterShare(0, 1);
+        } else {
+            const unsigned control = readMxcsr();
+#pragma omp parallel num_threads(mostThreads)
+            {
+#pragma omp master
+                threads = omp_get_num_threads();
+#pragma omp barrier
+                const CallersControl lent(control);
+                filterShare(omp_get_thread_num(), threads);
+            }
+        }
+        return static_cast<TarnStatus>(*std::min_element(state->pThreadStatus, state->pThreadStatus + threads));
+    }
+
+    // Every thread takes a run of neighbouring blocks: where the outputs of two threads meet they take cache lines from
+    // each other, and so do their prefetches. For the same reason a thread keeps its status to itself until the end.
+    void filterShare(int thread, int threads) const
+    {
+        const BlockBuffers<T> own = buffersOf<T>(state, thread);
+        const int blocks = blockCount();
+        const int end = shareBegin(blocks, thread + 1, threads);
+        TarnStatus worst = tarnStsNoErr;
+        for (int b = shareBegin(blocks, thread, threads); b < end; ++b) {
+            worst = std::min(worst, b == 0 ? filterFirst<Failure::isKept>(own)
+                                           : filterLater<Failure::isKept>(useful * b, own));
+        }
+        state->pThreadStatus[thread] = worst;
+    }
+
     // The first of a thread's blocks, or the one behind the last of the thread before. The first thread, whose buffer
     // has the delay line, is never without a block.
     static int shareBegin(int blocks, int thread, int threads)
     {
         return static_cast<int>((static_cast<long long>(blocks) * thread + threads - 1) / threads);
-    }
-    int blockCount() const { return (len - 1) / useful + 1; }
-
-    // Stops at the first transform that fails.
-    TarnStatus filterInTurn(BlockBuffers<T> own) const
-    {
-        TarnStatus status = filterFirst(own);
-        const int blocks = blockCount();
-        for (int b = 1; status == tarnStsNoErr && b < blocks; ++b) {
-            status = filterLater(useful * b, own);
-        }
-        return status;
-    }
-
-    // Every thread takes a run of neighbouring blocks: where the outputs of two threads meet they take cache lines from
-    // each other, and so do their prefetches. The result is the worst status of any thread.
-    TarnStatus filterInParallel() const
-    {
-        const unsigned control = readMxcsr();
-        Tarn32s* const statuses = state->pThreadStatus;
-        const int mostThreads = std::min(omp_get_max_threads(), state->threads);
-        int threads = 1;
-        int blocks = 0;
-#pragma omp parallel num_threads(mostThreads)
-        {
-#pragma omp master
-            {
-                threads = omp_get_num_threads();
-                std::fill_n(statuses, threads, tarnStsNoErr);
-                blocks = blockCount();
-            }
-#pragma omp barrier
-            const CallersControl lent(control);
-            const int thread = omp_get_thread_num();
-            const BlockBuffers<T> own = buffersOf<T>(state, thread);
-            // Kept here until the end: the slots share cache lines, which threads would take from each other.
-            TarnStatus ownWorst = tarnStsNoErr;
-            const int end = shareBegin(blocks, thread + 1, threads);
-            for (int b = shareBegin(blocks, thread, threads); b < end; ++b) {
-                ownWorst = std::min(ownWorst, b == 0 ? filterFirst(own) : filterLater(useful * b, own));
-            }
-            statuses[thread] = ownWorst;
-        }
-        Tarn32s worst = tarnStsNoErr;
-        for (int thread = 0; thread < threads; ++thread) {
-            worst = std::min(worst, statuses[thread]);
-        }
-        return static_cast<TarnStatus>(worst);
     }
 
     // All samples fit one block, which is also where the next call's delay line is found.
@@ -299,47 +303,55 @@ private:
         samplesToTaps(src, own.block + history, len);
         copyElements(own.block + len - 1, state->pDlyLine, history + 1);
         zeroElements(own.block + history + len, useful - len);
-        return convolve(own.block, own, dst, len);
+        return convolve<Failure::ends>(own.block, own, dst, len);
     }
 
     // The block whose history is the delay line.
+    template <Failure failure>
     TarnStatus filterFirst(BlockBuffers<T> own) const
     {
         samplesToTaps(src, own.block + history, useful);
-        const TarnStatus status = convolve(own.block, own, dst, useful);
+        const TarnStatus status = convolve<failure>(own.block, own, dst, useful);
+        if (failure == Failure::ends && status != tarnStsNoErr) {
+            return status;
+        }
         samplesToTaps(src + len - history - 1, state->pDlyLine, history + 1);
         return status;
     }
 
     // The block whose outputs begin at i. A full one is transformed from the caller's samples if they need no
     // conversion.
+    template <Failure failure>
     TarnStatus filterLater(int i, BlockBuffers<T> own) const
     {
         const S* const window = src + i - history;
         const int left = len - i;
         if constexpr (sameTypes<State>) {
             if (left >= state->fftLen) {
-                return convolve(window, own, dst + i, useful);
+                return convolve<failure>(window, own, dst + i, useful);
             }
         }
         const int filled = left >= useful ? state->fftLen : left + history;
         samplesToTaps(window, own.block, filled);
         zeroElements(own.block + filled, state->fftLen - filled);
-        return convolve(own.block, own, dst + i, std::min(left, useful));
+        return convolve<failure>(own.block, own, dst + i, std::min(left, useful));
     }
 
     // The outputs of a block: all of it is transformed, multiplied by the taps' spectrum and transformed back.
+    template <Failure failure>
     TarnStatus convolve(const T* samples, BlockBuffers<T> own, S* outputs, int count) const
     {
-        if (const TarnStatus status = Calls::forward(samples, own.block, state->pFFTSpec, own.work)) {
+        TarnStatus status = Calls::forward(samples, own.block, state->pFFTSpec, own.work);
+        if (failure == Failure::ends && status != tarnStsNoErr) {
             return status;
         }
         Calls::multiply(state->pFFTTaps, own.block, state->fftLen);
-        if (const TarnStatus status = Calls::inverse(own.block, own.block, state->pFFTSpec, own.work)) {
+        status = std::min(status, Calls::inverse(own.block, own.block, state->pFFTSpec, own.work));
+        if (failure == Failure::ends && status != tarnStsNoErr) {
             return status;
         }
         outputsToSamples(own.block + history, outputs, count, scaleFactor);
-        return tarnStsNoErr;
+        return status;
     }
 
     const S* src;

@@ -25,31 +25,36 @@ inline State* placeInBuffer(Tarn8u* pBuffer)
 inline constexpr int scratchElements = 4096;
 
 // What is fixed about the states with taps of type T. Sizes of the 32-bit library are part of its interface: where they
-// are generous, the surplus is room for a caller's memory that begins off a boundary.
+// are generous, the slack is room for a caller's memory that begins off a boundary; the surplus is that of a block
+// which the library allocates.
 template <typename T>
 struct FirSizes;
 template <>
 struct FirSizes<Tarn32f> {
     static constexpr int transformFrom = 64; // taps
     static constexpr long long slack(long long threads) { return 16 * threads; }
+    static constexpr long long surplus(long long threads) { return 16 * (threads - 1); }
     static constexpr long long table(long long n) { return 4 * roundedUp(4 * n); }
 };
 template <>
 struct FirSizes<Tarn32fc> {
     static constexpr int transformFrom = 16;
     static constexpr long long slack(long long threads) { return 16 * threads; }
+    static constexpr long long surplus(long long threads) { return 16 * (threads - 1); }
     static constexpr long long table(long long n) { return 12 * roundedUp(8 * n) + 96; }
 };
 template <>
 struct FirSizes<Tarn64f> {
     static constexpr int transformFrom = 32;
     static constexpr long long slack(long long threads) { return 16 * threads - 1; }
+    static constexpr long long surplus(long long threads) { return 16 * (threads - 1); }
     static constexpr long long table(long long n) { return 2 * roundedUp(8 * n); }
 };
 template <>
 struct FirSizes<Tarn64fc> {
     static constexpr int transformFrom = 16;
     static constexpr long long slack(long long) { return 16; }
+    static constexpr long long surplus(long long threads) { return 16 * (threads + 1); }
     static constexpr long long table(long long n) { return 32 * n; }
 };
 

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 
 namespace tarn::test {
@@ -213,7 +214,13 @@ TYPED_TEST(FirTransformTest, TellsWhichTransformFailed)
         auto* const id = reinterpret_cast<Tarn32s*>(owner->pFFTSpec);
         const Tarn32s own = *id;
         *id = 99;
+        F::setDlyLine(owner.get(), nullptr);
         EXPECT_EQ(tarnStsContextMatchErr, F::filter(signal.data(), out.data(), n, owner.get(), this->scale));
+        // A short call ends there. A long one goes on, whether there are threads or not, so its delay line is the next
+        // call's.
+        const auto* const line = reinterpret_cast<const Tarn8u*>(owner->pDlyLine);
+        const bool isSilent = std::all_of(line, line + sizeof(T) * h.size(), [](Tarn8u byte) { return byte == 0; });
+        EXPECT_EQ(n < this->longestOnOneThread, isSilent) << n;
         out = signal;
         EXPECT_EQ(tarnStsContextMatchErr, F::inPlace(out.data(), n, owner.get(), this->scale));
         EXPECT_TRUE(this->same(signal, out)) << "a part that failed is not copied";

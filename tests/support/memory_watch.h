@@ -19,6 +19,7 @@ struct MemoryWatched {
     int allowed = 0;
     int allocated = 0;
     int freed = 0;
+    std::size_t largest = 0;
 };
 inline MemoryWatched memoryWatched;
 
@@ -31,12 +32,14 @@ inline constexpr bool canRefuseMemory = true;
 
 class MemoryWatch {
 public:
-    explicit MemoryWatch(int allowed = std::numeric_limits<int>::max()) { memoryWatched = {true, allowed, 0, 0}; }
+    explicit MemoryWatch(int allowed = std::numeric_limits<int>::max()) { memoryWatched = {true, allowed, 0, 0, 0}; }
     ~MemoryWatch() { memoryWatched.armed = false; }
     MemoryWatch(const MemoryWatch&) = delete;
     MemoryWatch& operator=(const MemoryWatch&) = delete;
 
     int allocated() const { return memoryWatched.allocated; }
+    /// Bytes of the largest block that was asked for and given.
+    std::size_t largest() const { return memoryWatched.largest; }
     int outstanding() const { return memoryWatched.allocated - memoryWatched.freed; }
 };
 
@@ -53,8 +56,10 @@ extern "C" void* malloc(std::size_t size) noexcept
     if (watched.armed && watched.allocated >= watched.allowed)
         return nullptr;
     void* const block = __libc_malloc(size);
-    if (watched.armed && block != nullptr)
+    if (watched.armed && block != nullptr) {
         ++watched.allocated;
+        watched.largest = watched.largest < size ? size : watched.largest;
+    }
     return block;
 }
 
