@@ -50,11 +50,38 @@ TARN_INLINE void emitPairs(int lane, const std::array<Vector<T>, 4>& quad, Emit 
     }
 }
 
-// Results of as many quadruples as there are lanes, real and imaginary parts apart.
-template <bool forward, typename T, typename Emit>
-TARN_INLINE void emitParts(const Quad<Vector<T>>& quad, Emit emit)
+// What the real or the imaginary parts of a quadruple in bit-reversed order contribute to its transform.
+template <typename T>
+struct QuadPart {
+    Vector<T> sum, alternating, first, second; // of all; of both pairs; the pairs' differences
+
+    template <typename Load>
+    explicit TARN_INLINE QuadPart(Load load)
+    {
+        const auto x0 = load(0);
+        const auto x1 = load(1);
+        const auto s = add(x0, x1);
+        first = sub(x0, x1);
+        const auto x2 = load(2);
+        const auto x3 = load(3);
+        const auto t = add(x2, x3);
+        second = sub(x2, x3);
+        sum = add(s, t);
+        alternating = sub(s, t);
+    }
+};
+
+// Results of as many quadruples as there are lanes, real and imaginary parts apart: one part after the other, since few
+// registers hold both.
+template <bool forward, typename T, typename LoadRe, typename LoadIm, typename Emit>
+TARN_INLINE void emitParts(LoadRe loadRe, LoadIm loadIm, Emit emit)
 {
-    const Quad<Vector<T>> x = fourPoint<forward>(quad);
+    const QuadPart<T> partRe(loadRe);
+    const QuadPart<T> partIm(loadIm);
+    const auto plus = plusQuarterTurn<forward>(Block<T>{partRe.first, partIm.first}, {partRe.second, partIm.second});
+    const auto minus = minusQuarterTurn<forward>(Block<T>{partRe.first, partIm.first}, {partRe.second, partIm.second});
+    const Quad<Vector<T>> x = {Block<T>{partRe.sum, partIm.sum}, plus, Block<T>{partRe.alternating, partIm.alternating},
+                               minus};
     if constexpr (lanes<T> == 4) {
         const auto re = transpose<T>({x[0].re, x[1].re, x[2].re, x[3].re});
         const auto im = transpose<T>({x[0].im, x[1].im, x[2].im, x[3].im});
@@ -128,11 +155,13 @@ struct ReadParts : ReadingSource<T> {
     {
         const std::ptrdiff_t first = this->table[at / 4] / 2;
         const std::ptrdiff_t quarter = this->size / 4;
-        const auto part = [&](std::ptrdiff_t i) {
-            return Block<T>{loadPack<lanes<T>>(srcRe + i), loadPack<lanes<T>>(srcIm + i)};
+        const auto from = [=](const T* part) {
+            return [p = part + first, quarter](int i) {
+                constexpr int reversedOfFour[] = {0, 2, 1, 3};
+                return loadPack<lanes<T>>(p + reversedOfFour[i] * quarter);
+            };
         };
-        emitParts<forward, T>(
-            {part(first), part(first + 2 * quarter), part(first + quarter), part(first + 3 * quarter)}, emit);
+        emitParts<forward, T>(from(srcRe), from(srcIm), emit);
     }
     TARN_INLINE Complex<T> element(int i) const
     {
@@ -194,8 +223,7 @@ struct SequentialParts : SequentialSource<T> {
     {
         const auto re = columns(srcRe + at, group);
         const auto im = columns(srcIm + at, group);
-        emitParts<forward, T>(
-            {Block<T>{re[0], im[0]}, Block<T>{re[1], im[1]}, Block<T>{re[2], im[2]}, Block<T>{re[3], im[3]}}, emit);
+        emitParts<forward, T>([&](int i) { return re[i]; }, [&](int i) { return im[i]; }, emit);
     }
     TARN_INLINE Complex<T> element(int i) const { return {loadElement(srcRe + i), loadElement(srcIm + i)}; }
 
