@@ -282,25 +282,32 @@ TARN_INLINE const T* stageTwiddles(const T* twd, int first, int L)
     return twd + (L - first) / 2;
 }
 
-// A butterfly on four blocks `quarter` reals apart. Within a stage the quarters are in bit-reversed order, hence W(2k)
+// A butterfly on the four blocks that load(i) gives. Within a stage the quarters are in bit-reversed order, hence W(2k)
 // for the second and W(k) for the third; the factors are three blocks at `w`. Results go to put(quarter's number,
 // value).
-template <bool forward, typename T, typename Put>
-TARN_INLINE void butterfly(const T* p, std::ptrdiff_t quarter, const T* w, Put put)
+template <bool forward, typename T, typename Load, typename Put>
+TARN_INLINE void butterflyOf(Load load, const T* w, Put put)
 {
     constexpr int width = 2 * lanes<T>;
-    const auto c = rotate<forward>(loadBlock(p + 2 * quarter), loadBlock(w));
-    const auto d = rotate<forward>(loadBlock(p + 3 * quarter), loadBlock(w + 2 * width));
+    const auto c = rotate<forward>(load(2), loadBlock(w));
+    const auto d = rotate<forward>(load(3), loadBlock(w + 2 * width));
     const auto t0 = c + d;
     const auto t1 = c - d;
-    const auto b = rotate<forward>(loadBlock(p + quarter), loadBlock(w + width));
-    const auto a = loadBlock(p);
+    const auto b = rotate<forward>(load(1), loadBlock(w + width));
+    const auto a = load(0);
     const auto s0 = a + b;
     const auto s1 = a - b;
     put(0, s0 + t0);
     put(2, s0 - t0);
     put(1, plusQuarterTurn<forward>(s1, t1));
     put(3, minusQuarterTurn<forward>(s1, t1));
+}
+
+// The same on blocks `quarter` reals apart.
+template <bool forward, typename T, typename Put>
+TARN_INLINE void butterfly(const T* p, std::ptrdiff_t quarter, const T* w, Put put)
+{
+    butterflyOf<forward>([=](int i) { return loadBlock(p + i * quarter); }, w, put);
 }
 
 // One stage of radix 4 over `count` elements at `first` of the work area: transforms of L / 4 points become transforms
@@ -389,16 +396,19 @@ private:
     // copied: the compiler cannot know that the results do not overwrite them.
     void firstPass(int first, int count) const
     {
-        if (shortest == 16) {
-            firstPassOfFours(source, work, first, count);
-            return;
-        }
         const Source from = source;
         T* const to = work;
         const auto place = [=](int at, int group, int lane, int block) {
             return to + 2 * (at + from.laneOffset(lane, group) + lanes<T> * block);
         };
         const int end = first + count;
+        if (shortest == 16) {
+            for (int at = first; at < end; at += from.step(4)) {
+                from.template transformQuads<forward>(
+                    at, 4, [&](int lane, int block, Block<T> x) { storeBlock(place(at, 4, lane, block), x); });
+            }
+            return;
+        }
         for (int at = first; at < end; at += from.step(8)) {
             from.template transformQuads<forward>(
                 at, 8, [&](int lane, int block, Block<T> x) { storeBlock(place(at, 8, lane, block), x); });
@@ -413,16 +423,7 @@ private:
         }
     }
 
-    static TARN_INLINE void firstPassOfFours(Source from, T* to, int first, int count)
-    {
-        for (int at = first; at < first + count; at += from.step(4)) {
-            from.template transformQuads<forward>(at, 4, [&](int lane, int block, Block<T> x) {
-                storeBlock(to + 2 * (at + from.laneOffset(lane, 4) + lanes<T> * block), x);
-            });
-        }
-    }
-
-    // One butterfly or two after another: with the length known, nothing is left of the loops.
+    // With the length known nothing is left of the loops, and no work area is needed.
     template <typename Sink>
     TARN_INLINE void sixteenElements(Sink sink) const
     {
@@ -430,8 +431,17 @@ private:
         if constexpr (requires { from.size; }) {
             from.size = 16;
         }
-        firstPassOfFours(from, work, 0, 16 / Source::streams);
-        stage<forward>(work, 0, 16, 16, twd, sink);
+        constexpr int width = 2 * lanes<T>;
+        Block<T> x[4 * blocksPerQuad<T>];
+        for (int at = 0; at < 16 / Source::streams; at += from.step(4)) {
+            from.template transformQuads<forward>(at, 4, [&](int lane, int block, Block<T> value) {
+                x[(at + from.laneOffset(lane, 4)) / lanes<T> + block] = value;
+            });
+        }
+        for (int k = 0; k < blocksPerQuad<T>; ++k) {
+            butterflyOf<forward>([&](int i) { return x[k + i * blocksPerQuad<T>]; }, twd + 3 * width * k,
+                                 [&](int part, Block<T> y) { sink.put(k * width + part * 8, y); });
+        }
     }
 
     // Eight points are fewer than the lanes need.
