@@ -99,8 +99,9 @@ inline TarnStatus allocateFields(FirFields<T>** ppState, const T* pTaps, int tap
             return status;
         }
     }
-    plan.spec.release();
-    block.release();
+    // Both are the state's now.
+    static_cast<void>(plan.spec.release());
+    static_cast<void>(block.release());
     return tarnStsNoErr;
 }
 

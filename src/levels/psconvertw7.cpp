@@ -50,13 +50,12 @@ void walkOverlapping(const Tarn32s* src, Tarn32f* dst, int len, Operation operat
 {
     const auto convertElement = [&](int i) { store(dst + i, operation(loadElement(src + i))); };
     const auto bytes = static_cast<std::uintptr_t>(static_cast<unsigned>(len)) * sizeof(Tarn32s);
-    if (src == static_cast<const void*>(dst)) {
-        walk(dst, len, operation, src);
-    } else if (addressOf(src) - addressOf(dst) < bytes) {
+    const auto ahead = addressOf(src) - addressOf(dst);
+    if (ahead != 0 && ahead < bytes) {
         for (int i = 0; i < len; ++i) {
             convertElement(i);
         }
-    } else if (addressOf(dst) - addressOf(src) < bytes) {
+    } else if (ahead != 0 && 0 - ahead < bytes) {
         for (int i = len; i-- > 0;) {
             convertElement(i);
         }

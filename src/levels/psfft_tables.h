@@ -80,8 +80,9 @@ inline Owned<T[]> baseTable(int order)
     if (table) {
         const Tarn64f step = 2 * std::numbers::pi / size;
         // A sine near a right angle is the cosine of a small angle.
+        const int quarter = size / 4;
         fillRun<true>(table.get(), 0, size / 8, [=](int j) { return j * step; });
-        fillRun<false>(table.get(), size / 8 + 1, size / 4, [=](int j) { return (size / 4 - j) * step; });
+        fillRun<false>(table.get(), size / 8 + 1, quarter, [=](int j) { return (quarter - j) * step; });
     }
     return table;
 }

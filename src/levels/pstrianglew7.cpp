@@ -28,7 +28,8 @@ void triangleDirect(T* dst, int len, Triangle triangle)
     std::array<Lane, laneCount> start;
     for (int i = 0; i < laneCount; ++i) {
         const double phase = i % parts == 0 ? triangle.phase : quadrature;
-        start[static_cast<std::size_t>(i)] = static_cast<Lane>(wrappedOnce(phase + i / parts * w));
+        const int sample = i / parts;
+        start[static_cast<std::size_t>(i)] = static_cast<Lane>(wrappedOnce(phase + sample * w));
     }
 
     const auto all = [](double x) { return splat<P>(static_cast<Lane>(x)); };
