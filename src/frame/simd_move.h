@@ -5,6 +5,10 @@
 
 namespace tarn {
 
+// Asks for the cache line that holds p: to stay, or to be read once. Any address may be asked for.
+TARN_INLINE void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+TARN_INLINE void prefetchOnce(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_NTA); }
+
 // Leaves everything where it is.
 struct Identity {
     template <typename X>

@@ -253,9 +253,6 @@ TARN_INLINE Pack<T, N> loadOnBoundary(const T* p)
     return {_mm_load_ps(reinterpret_cast<const float*>(p))};
 }
 
-// Asks for the line that holds p, which is going to be read once.
-TARN_INLINE void prefetchOnce(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_NTA); }
-
 // The value is there once the program gets here: what is read of the status word afterwards has seen its computation,
 // and a control word that was written before has been in force for what is computed of it.
 TARN_INLINE void settle(Tarn32f& x) { asm volatile("" : "+x"(x)); }

@@ -132,7 +132,7 @@ private:
                 const int at = column + block * lanes<T>;
                 // The factors of the next columns, which come in steps too wide for the processor to foresee.
                 for (int i = 0; i < 4; i += cacheLine / gridBytes) {
-                    __builtin_prefetch(gridBlock(grid, R, row + i, at + columns));
+                    prefetch(gridBlock(grid, R, row + i, at + columns));
                 }
                 const auto element = [&](int i) {
                     return rotate<forward>(rows.load(row + i, at), loadBlock(gridBlock(grid, R, row + i, at)));

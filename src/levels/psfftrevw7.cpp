@@ -232,7 +232,7 @@ TARN_INLINE void reverseTiles(const Tarn8u* src, Tarn8u* dst, int size)
     const std::ptrdiff_t stride = size / tileSide * bytes;
     const auto fetch = [stride](const Tarn8u* tile) {
         for (int row = 0; row < tileSide; ++row) {
-            __builtin_prefetch(tile + row * stride);
+            prefetch(tile + row * stride);
         }
     };
     const Tiles tiles(size, pageBytes / tileBytes);
