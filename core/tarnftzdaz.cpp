@@ -1,8 +1,10 @@
 // Floating-point control of the calling thread: the x87 control and status words, MXCSR, and the symbolic word.
-#include <cstring>
-#include <xmmintrin.h>
-
+#include "frame/simd_control.h"
 #include "tarncore.h"
+
+#include <cstring>
+
+using namespace tarn;
 
 namespace {
 
@@ -25,25 +27,11 @@ constexpr unsigned int precision64 = 3u << 8;
 constexpr int roundingX87 = 10; // both rounding fields count nearest, down, up, to zero
 constexpr int roundingSymbol = 8;
 
-constexpr unsigned int mxcsrRounding = 0x6000u;
 constexpr unsigned int mxcsrDefault = 0x1F80u; // all exceptions masked, round to nearest, flags clear
 
 constexpr unsigned int merged(unsigned int old, unsigned int value, unsigned int mask)
 {
     return (old & ~mask) | (value & mask);
-}
-
-unsigned int readControlWord()
-{
-    unsigned short word;
-    __asm__ __volatile__("fnstcw %0" : "=m"(word));
-    return word;
-}
-
-void writeControlWord(unsigned int value)
-{
-    const auto word = static_cast<unsigned short>(value);
-    __asm__ __volatile__("fldcw %0" : : "m"(word) : "memory");
 }
 
 unsigned int readStatusWord()
@@ -102,9 +90,9 @@ unsigned int symbol2bit(unsigned int word)
 
 unsigned int tarn_control87(unsigned int value, unsigned int mask)
 {
-    const unsigned int symbols = merged(bit2symbol(readControlWord()), value, mask);
+    const unsigned int symbols = merged(bit2symbol(readX87Control()), value, mask);
     if (mask != 0) // a mere query must not normalise a reserved precision field
-        writeControlWord(symbol2bit(symbols));
+        writeX87Control(symbol2bit(symbols));
     return symbols;
 }
 
@@ -114,12 +102,12 @@ unsigned int tarn_clear87(void) { return sw_bit2symbol(ps_clear_fpu()); }
 
 unsigned int ps_set_cw_fpu(unsigned int value, unsigned int mask)
 {
-    const unsigned int old = readControlWord();
-    writeControlWord(merged(old, value, mask));
+    const unsigned int old = readX87Control();
+    writeX87Control(merged(old, value, mask));
     return old;
 }
 
-unsigned int ps_get_cw_fpu(void) { return readControlWord(); }
+unsigned int ps_get_cw_fpu(void) { return readX87Control(); }
 
 unsigned int ps_get_sw_fpu(void) { return readStatusWord(); }
 
@@ -132,40 +120,40 @@ unsigned int ps_clear_fpu(void)
 
 unsigned int ps_set_ssx(unsigned int value, unsigned int mask)
 {
-    const unsigned int old = _mm_getcsr();
-    _mm_setcsr(merged(old, value, mask));
+    const unsigned int old = readMxcsr();
+    writeMxcsr(merged(old, value, mask));
     return old;
 }
 
-unsigned int ps_get_ssx(void) { return _mm_getcsr(); }
+unsigned int ps_get_ssx(void) { return readMxcsr(); }
 
 unsigned int tarn_clear_ssx(void)
 {
-    const unsigned int old = _mm_getcsr();
-    _mm_setcsr(mxcsrDefault);
+    const unsigned int old = readMxcsr();
+    writeMxcsr(mxcsrDefault);
     return old;
 }
 
 unsigned int tarn_set_rcpc_fpu(unsigned int value, unsigned int mask)
 {
-    const unsigned int old = readControlWord();
+    const unsigned int old = readX87Control();
     if ((old & mask) != value)
-        writeControlWord(merged(old, value, mask));
+        writeX87Control(merged(old, value, mask));
     return old;
 }
 
-void tarn_set_cw_fpu(unsigned int value) { writeControlWord(value); }
+void tarn_set_cw_fpu(unsigned int value) { writeX87Control(value); }
 
 unsigned int tarn_set_rc_ssx(unsigned int value)
 {
-    const unsigned int old = _mm_getcsr();
-    const unsigned int wanted = merged(old, value, mxcsrRounding);
+    const unsigned int old = readMxcsr();
+    const unsigned int wanted = merged(old, value, mxcsrRoundingField);
     if (wanted != old)
-        _mm_setcsr(wanted);
+        writeMxcsr(wanted);
     return old;
 }
 
-void tarn_set_cw_ssx(unsigned int value) { _mm_setcsr(value); }
+void tarn_set_cw_ssx(unsigned int value) { writeMxcsr(value); }
 
 int tarn_tst_daz_ssx(void)
 {

@@ -3,8 +3,7 @@
 
 #include <array>
 
-namespace tarn::bench {
-namespace detail {
+namespace tarn::bench::detail {
 
 void forgetWideRegisters()
 {
@@ -25,5 +24,4 @@ void forgetWideRegisters()
 #endif
 }
 
-} // namespace detail
-} // namespace tarn::bench
+} // namespace tarn::bench::detail

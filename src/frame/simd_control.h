@@ -1,4 +1,4 @@
-// The control and status word of the SSE unit.
+// The control and status word of the SSE unit, and the control word of the x87 unit.
 #pragma once
 
 #include <pmmintrin.h>
@@ -22,8 +22,22 @@ inline void writeMxcsr(unsigned word)
     asm volatile("" : : : "memory");
 }
 
-// Fields of the word.
+inline unsigned short readX87Control()
+{
+    unsigned short word;
+    asm volatile("fnstcw %0" : "=m"(word));
+    return word;
+}
+
+inline void writeX87Control(unsigned value)
+{
+    const auto word = static_cast<unsigned short>(value);
+    asm volatile("fldcw %0" : : "m"(word) : "memory");
+}
+
+// Fields of the words.
 inline constexpr unsigned mxcsrRoundingField = 0x6000;
 inline constexpr unsigned mxcsrDenormalsAreZero = 0x0040;
+inline constexpr unsigned x87RoundingField = mxcsrRoundingField >> 3; // with the same values
 
 } // namespace tarn

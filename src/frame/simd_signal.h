@@ -108,10 +108,9 @@ TARN_INLINE void storeSamples(Tarn16s* p, Pack<Tarn32f, N> x)
 // than single or double precision, which is wrong for negative values in a directed mode.
 inline long double roundExtended(long double x)
 {
-    constexpr unsigned roundingField = mxcsrRoundingField >> 3;
-    unsigned short own;
-    asm("fnstcw %0" : "=m"(own));
-    const auto lent = static_cast<unsigned short>((own & ~roundingField) | ((readMxcsr() & mxcsrRoundingField) >> 3));
+    const unsigned short own = readX87Control();
+    const auto lent =
+        static_cast<unsigned short>((own & ~x87RoundingField) | ((readMxcsr() & mxcsrRoundingField) >> 3));
     asm("fldcw %1\n\tfrndint\n\tfldcw %2" : "+t"(x) : "m"(lent), "m"(own));
     return x;
 }
