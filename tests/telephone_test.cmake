@@ -3,14 +3,10 @@ cmake_minimum_required(VERSION 3.25)
 file(REMOVE_RECURSE ${WORK_DIR})
 file(MAKE_DIRECTORY ${WORK_DIR})
 
-# Half a period of 32 samples 0x6161, half of 0x2121: amplitude 8224 around a constant, 750 Hz at 48000 a second, with
-# harmonics at 2250, 3750, ... Hz. 38400 samples, more than the program reads at once.
-string(REPEAT "a" 64 high)
-string(REPEAT "!" 64 low)
-string(REPEAT "${high}${low}" 600 wave)
-file(WRITE ${WORK_DIR}/square "${wave}")
-string(SUBSTRING "${wave}" 0 20000 beginning)
-file(WRITE ${WORK_DIR}/beginning "${beginning}")
+# 750 Hz at 48000 samples a second, with harmonics at 2250, 3750, ... Hz; more samples than the program reads at once.
+include(${CMAKE_CURRENT_LIST_DIR}/square_wave.cmake)
+write_square_wave(${WORK_DIR}/square 64 600)
+execute_process(COMMAND head -c 20000 ${WORK_DIR}/square OUTPUT_FILE ${WORK_DIR}/beginning COMMAND_ERROR_IS_FATAL ANY)
 file(WRITE ${WORK_DIR}/empty "")
 file(WRITE ${WORK_DIR}/odd "abc")
 

@@ -3,19 +3,11 @@ cmake_minimum_required(VERSION 3.25)
 file(REMOVE_RECURSE ${WORK_DIR})
 file(MAKE_DIRECTORY ${WORK_DIR})
 
-# Half a period of 32 samples 0x6161, half of 0x2121: amplitude 8224, period 64 samples, or 750 Hz at 48000. The
-# harmonic m has the amplitude 8224 / (16 sin(pi m / 64)).
-string(REPEAT "a" 64 high)
-string(REPEAT "!" 64 low)
-string(REPEAT "${high}${low}" 600 wave)
-file(WRITE ${WORK_DIR}/square "${wave}")
-
-# The same with a period of 50 samples, 960 Hz, which lies between two bins. For an odd half the harmonic m has the
-# amplitude 8224 / (12.5 sin(pi m / 50)).
-string(REPEAT "a" 50 high)
-string(REPEAT "!" 50 low)
-string(REPEAT "${high}${low}" 800 wave)
-file(WRITE ${WORK_DIR}/between "${wave}")
+# At 48000 samples a second: 750 Hz, and 960 Hz, which lies between two bins. For an odd half of the period the harmonic m
+# has the amplitude 8224 / (12.5 sin(pi m / 50)).
+include(${CMAKE_CURRENT_LIST_DIR}/square_wave.cmake)
+write_square_wave(${WORK_DIR}/square 64 600)
+write_square_wave(${WORK_DIR}/between 50 800)
 
 function(expect_tones expression input)
     execute_process(COMMAND ${TONES} ${ARGN} INPUT_FILE ${WORK_DIR}/${input} OUTPUT_VARIABLE output
