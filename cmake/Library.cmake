@@ -1,6 +1,5 @@
 # The shared library itself.
-file(GLOB TARNS_SOURCES CONFIGURE_DEPENDS
-    ${PROJECT_SOURCE_DIR}/core/*.cpp ${PROJECT_SOURCE_DIR}/src/*.cpp ${PROJECT_SOURCE_DIR}/src/levels/*.cpp)
+file(GLOB_RECURSE TARNS_SOURCES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/*.cpp ${PROJECT_SOURCE_DIR}/src/*.cpp)
 
 add_library(tarns SHARED ${TARNS_SOURCES})
 add_library(tarns::tarns ALIAS tarns)
@@ -26,7 +25,7 @@ elseif(TARNS_SANITIZE MATCHES "undefined")
 endif()
 # Where all arrays advance together one index serves them all; 32-bit code has no registers for a pointer each. The
 # transforms, whose arrays advance at different paces, are left to the compiler.
-file(GLOB TARNS_WALKING_KERNELS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/levels/*.cpp)
+file(GLOB_RECURSE TARNS_WALKING_KERNELS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/levels/*.cpp)
 list(FILTER TARNS_WALKING_KERNELS EXCLUDE REGEX "/psfft[^/]*$")
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     set_source_files_properties(${TARNS_WALKING_KERNELS} PROPERTIES COMPILE_OPTIONS "-fno-ivopts;-fno-tree-scev-cprop")

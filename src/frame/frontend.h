@@ -3,7 +3,7 @@
 
 #include "frame/checks.h"
 #include "frame/scale.h"
-#include "levels/pscopyca.h"
+#include "levels/data/pscopyca.h"
 
 namespace tarn {
 

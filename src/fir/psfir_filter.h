@@ -1,0 +1,438 @@
+// Filtering with FIR states of floating taps: the direct road, overlap-save by transforms, in place.
+#pragma once
+
+#include "fir/psfir_common.h"
+#include "fir/psfir_memory.h"
+#include "fir/psfir_transform.h"
+#include "frame/simd_control.h"
+#include "levels/fir/psfir_block.h"
+#include "tarns/convert.h"
+
+#include <omp.h>
+
+namespace tarn {
+
+// -- Samples and elements of the taps' type
+// ----------------------------------------------------------------------------
+
+template <typename T>
+inline void samplesToTaps(const T* src, T* dst, int len)
+{
+    copyElements(src, dst, len);
+}
+
+// Outputs as samples: rounded to nearest and saturated if those are integers.
+inline void outputsToSamples(const Tarn32f* src, Tarn16s* dst, int len, int scaleFactor)
+{
+    tarnsConvert_32f16s_Sfs(src, dst, len, tarnRndNear, scaleFactor);
+}
+inline void outputsToSamples(const Tarn64f* src, Tarn32f* dst, int len, int /*scaleFactor*/)
+{
+    tarnsConvert_64f32f(src, dst, len);
+}
+inline void outputsToSamples(const Tarn64f* src, Tarn32s* dst, int len, int scaleFactor)
+{
+    tarnsConvert_64f32s_Sfs(src, dst, len, tarnRndNear, scaleFactor);
+}
+inline void outputsToSamples(const Tarn64f* src, Tarn16s* dst, int len, int scaleFactor)
+{
+    convertRounded_64f16s(src, dst, len, scaleFactor);
+}
+template <typename T>
+inline void outputsToSamples(const T* src, T* dst, int len, int /*scaleFactor*/)
+{
+    copyElements(src, dst, len);
+}
+template <typename T, typename S>
+    requires(isComplex<T> && !std::is_same_v<T, S>)
+inline void outputsToSamples(const T* src, S* dst, int len, int scaleFactor)
+{
+    outputsToSamples(reinterpret_cast<const Part<T>*>(src), reinterpret_cast<Part<S>*>(dst), 2 * len, scaleFactor);
+}
+
+// -- Threads
+// -----------------------------------------------------------------------------------------------------------
+
+// Calls of more samples than this are shared out.
+template <typename T>
+inline constexpr int longestOnOneThread = isComplex<T> ? 800 : 1600;
+
+// A region of one thread would still cost the runtime's calls into the kernel.
+template <typename T>
+inline bool isShared(int len)
+{
+    return len > longestOnOneThread<T> && omp_get_max_threads() > 1;
+}
+
+// Lends a thread of a parallel region the control word of the thread that made the call: rounding mode and treatment of
+// denormals are the caller's, whichever thread computes an output.
+class CallersControl {
+public:
+    explicit CallersControl(unsigned callers) : own(readMxcsr()), lent(own != callers)
+    {
+        if (lent) {
+            writeMxcsr(callers);
+        }
+    }
+    ~CallersControl()
+    {
+        if (lent) {
+            writeMxcsr(own);
+        }
+    }
+    CallersControl(const CallersControl&) = delete;
+    CallersControl& operator=(const CallersControl&) = delete;
+
+private:
+    const unsigned own;
+    const bool lent;
+};
+
+// -- The direct road
+// ---------------------------------------------------------------------------------------------------
+
+template <typename State>
+inline constexpr bool sameTypes = std::is_same_v<typename State::Tap, typename State::Sample>;
+
+// Where outputs wait for their conversion: half of the scratch area. The other half is the in-place calls'.
+inline constexpr int outputsAtOnce = scratchElements / 2;
+
+template <typename T>
+struct OutputScratch {
+    T* outputs;
+    int room;
+
+    // One of as many equal shares.
+    OutputScratch share(int thread, int threads) const
+    {
+        const int part = room / threads;
+        return {outputs + static_cast<std::ptrdiff_t>(part) * thread, part};
+    }
+};
+
+// Outputs of samples or of elements of the taps' type, by way of the scratch area where they have to be converted.
+template <typename State, typename X>
+inline void filterStretch(const State* state, const X* src, typename State::Sample* dst, int len,
+                          OutputScratch<typename State::Tap> scratch, int scaleFactor)
+{
+    if constexpr (sameTypes<State>) {
+        if (len > 0) {
+            blockKernel(state->pTapsX4, src, dst, len, state->tapsLen);
+        }
+    } else {
+        forEachPart(len, scratch.room, [=](int begin, int count) {
+            blockKernel(state->pTapsX4, src + begin, scratch.outputs, count, state->tapsLen);
+            outputsToSamples(scratch.outputs, dst + begin, count, scaleFactor);
+            return tarnStsNoErr;
+        });
+    }
+}
+
+// Each thread gets some of the scratch area, of which there is no more.
+inline constexpr int mostThreadsOfStretch = 64;
+
+// Equal shares for all threads, and the rest for the last one.
+template <typename State>
+inline void filterStretchInParallel(const State* state, const typename State::Sample* src, typename State::Sample* dst,
+                                    int len, OutputScratch<typename State::Tap> scratch, int scaleFactor)
+{
+    const unsigned control = readMxcsr();
+    const int mostThreads = std::min(omp_get_max_threads(), mostThreadsOfStretch);
+    int threads = 1;
+    int share = len;
+#pragma omp parallel num_threads(mostThreads)
+    {
+#pragma omp master
+        {
+            threads = omp_get_num_threads();
+            share = len / threads;
+        }
+#pragma omp barrier
+        const CallersControl lent(control);
+        const int thread = omp_get_thread_num();
+        const int first = share * thread;
+        const int count = thread == threads - 1 ? len - first : share;
+        filterStretch(state, src + first, dst + first, count, scratch.share(thread, threads), scaleFactor);
+    }
+}
+
+// The first outputs come from the delay buffer, until the window has left it; the others read the caller's samples. By
+// then the delay line is what the next call wants.
+template <typename State>
+inline void filterDirect(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                         int scaleFactor)
+{
+    using T = typename State::Tap;
+    const int tapsLen = state->tapsLen;
+    const OutputScratch<T> scratch{reinterpret_cast<T*>(state->pTmp), outputsAtOnce};
+    T* const window = state->pDlyLine + state->dlyLineIdx;
+    state->dlyLineIdx = 0;
+    if (len <= state->inHeadLen) {
+        samplesToTaps(src, window + tapsLen, len);
+        filterStretch(state, window + 1, dst, len, scratch, scaleFactor);
+        moveElements(window + len, state->pDlyLine, tapsLen);
+        return;
+    }
+    const int head = (tapsLen + tapsOfPass - 1) & -tapsOfPass;
+    samplesToTaps(src, window + tapsLen, state->inHeadLen);
+    filterStretch(state, window + 1, dst, head, scratch, scaleFactor);
+    samplesToTaps(src + len - tapsLen, state->pDlyLine, tapsLen);
+    const auto* const bulk = src + head - tapsLen + 1;
+    if (isShared<T>(len)) {
+        filterStretchInParallel(state, bulk, dst + head, len - head, scratch, scaleFactor);
+    } else {
+        filterStretch(state, bulk, dst + head, len - head, scratch, scaleFactor);
+    }
+}
+
+template <typename State>
+inline TarnStatus runDirect(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                            int scaleFactor = 0)
+{
+    if (len > 0) {
+        filterDirect(src, dst, len, state, scaleFactor);
+    }
+    return tarnStsNoErr;
+}
+
+// -- The road of transforms
+// --------------------------------------------------------------------------------------------
+
+// Where a thread computes.
+template <typename T>
+struct BlockBuffers {
+    T* block;
+    Tarn8u* work;
+};
+
+template <typename T>
+inline BlockBuffers<T> buffersOf(const FirFields<T>* state, int thread)
+{
+    const std::ptrdiff_t bytes = thread * threadBytes<T>(state->fftWorkSize, state->fftLen);
+    return {reinterpret_cast<T*>(reinterpret_cast<Tarn8u*>(state->pFFTBlocks) + bytes), state->pFFTWork + bytes};
+}
+
+// Overlap-save of one call: blocks of fftLen samples, of which the last fftLen + 1 - tapsLen give outputs.
+template <typename State>
+class OverlapSave {
+    using T = typename State::Tap;
+    using S = typename State::Sample;
+    using Calls = TransformCalls<T>;
+
+public:
+    OverlapSave(const S* pSrc, S* pDst, int numIters, State* pState, int factor)
+        : src(pSrc), dst(pDst), len(numIters), state(pState), scaleFactor(factor), history(pState->tapsLen - 1),
+          useful(pState->fftLen - history)
+    {
+    }
+
+    TarnStatus run() const
+    {
+        const BlockBuffers<T> own = buffersOf<T>(state, 0);
+        copyElements(state->pDlyLine + state->dlyLineIdx + 1, own.block, history);
+        state->dlyLineIdx = 0;
+        if (len <= useful) {
+            return filterShort(own);
+        }
+        return len > longestOnOneThread<T> ? filterInShares() : filterInTurn(own);
+    }
+
+private:
+    // What follows a transform that fails: the end of the call where one thread works, and nothing where others could
+    // not be told.
+    enum class Failure { ends, isKept };
+
+    int blockCount() const { return (len - 1) / useful + 1; }
+
+    TarnStatus filterInTurn(BlockBuffers<T> own) const
+    {
+        TarnStatus status = filterFirst<Failure::ends>(own);
+        const int blocks = blockCount();
+        for (int b = 1; status == tarnStsNoErr && b < blocks; ++b) {
+            status = filterLater<Failure::ends>(useful * b, own);
+        }
+        return status;
+    }
+
+    // The result is the worst status of any thread.
+    TarnStatus filterInShares() const
+    {
+        const int mostThreads = std::min(omp_get_max_threads(), state->threads);
+        int threads = 1;
+        if (mostThreads == 1) {
+            filterShare(0, 1);
+        } else {
+            const unsigned control = readMxcsr();
+#pragma omp parallel num_threads(mostThreads)
+            {
+#pragma omp master
+                threads = omp_get_num_threads();
+#pragma omp barrier
+                const CallersControl lent(control);
+                filterShare(omp_get_thread_num(), threads);
+            }
+        }
+        return static_cast<TarnStatus>(*std::min_element(state->pThreadStatus, state->pThreadStatus + threads));
+    }
+
+    // Every thread takes a run of neighbouring blocks: where the outputs of two threads meet they take cache lines from
+    // each other, and so do their prefetches. For the same reason a thread keeps its status to itself until the end.
+    void filterShare(int thread, int threads) const
+    {
+        const BlockBuffers<T> own = buffersOf<T>(state, thread);
+        const int blocks = blockCount();
+        const int end = shareBegin(blocks, thread + 1, threads);
+        TarnStatus worst = tarnStsNoErr;
+        for (int b = shareBegin(blocks, thread, threads); b < end; ++b) {
+            worst = std::min(worst, b == 0 ? filterFirst<Failure::isKept>(own)
+                                           : filterLater<Failure::isKept>(useful * b, own));
+        }
+        state->pThreadStatus[thread] = worst;
+    }
+
+    // The first of a thread's blocks, or the one behind the last of the thread before. The first thread, whose buffer
+    // has the delay line, is never without a block.
+    static int shareBegin(int blocks, int thread, int threads)
+    {
+        return static_cast<int>((static_cast<long long>(blocks) * thread + threads - 1) / threads);
+    }
+
+    // All samples fit one block, which is also where the next call's delay line is found.
+    TarnStatus filterShort(BlockBuffers<T> own) const
+    {
+        samplesToTaps(src, own.block + history, len);
+        copyElements(own.block + len - 1, state->pDlyLine, history + 1);
+        zeroElements(own.block + history + len, useful - len);
+        return convolve<Failure::ends>(own.block, own, dst, len);
+    }
+
+    // The block whose history is the delay line.
+    template <Failure failure>
+    TarnStatus filterFirst(BlockBuffers<T> own) const
+    {
+        samplesToTaps(src, own.block + history, useful);
+        const TarnStatus status = convolve<failure>(own.block, own, dst, useful);
+        if (failure == Failure::ends && status != tarnStsNoErr) {
+            return status;
+        }
+        samplesToTaps(src + len - history - 1, state->pDlyLine, history + 1);
+        return status;
+    }
+
+    // The block whose outputs begin at i. A full one is transformed from the caller's samples if they need no
+    // conversion.
+    template <Failure failure>
+    TarnStatus filterLater(int i, BlockBuffers<T> own) const
+    {
+        const S* const window = src + i - history;
+        const int left = len - i;
+        if constexpr (sameTypes<State>) {
+            if (left >= state->fftLen) {
+                return convolve<failure>(window, own, dst + i, useful);
+            }
+        }
+        const int filled = left >= useful ? state->fftLen : left + history;
+        samplesToTaps(window, own.block, filled);
+        zeroElements(own.block + filled, state->fftLen - filled);
+        return convolve<failure>(own.block, own, dst + i, std::min(left, useful));
+    }
+
+    // The outputs of a block: all of it is transformed, multiplied by the taps' spectrum and transformed back.
+    template <Failure failure>
+    TarnStatus convolve(const T* samples, BlockBuffers<T> own, S* outputs, int count) const
+    {
+        TarnStatus status = Calls::forward(samples, own.block, state->pFFTSpec, own.work);
+        if (failure == Failure::ends && status != tarnStsNoErr) {
+            return status;
+        }
+        Calls::multiply(state->pFFTTaps, own.block, state->fftLen);
+        status = std::min(status, Calls::inverse(own.block, own.block, state->pFFTSpec, own.work));
+        if (failure == Failure::ends && status != tarnStsNoErr) {
+            return status;
+        }
+        outputsToSamples(own.block + history, outputs, count, scaleFactor);
+        return status;
+    }
+
+    const S* src;
+    S* dst;
+    int len;
+    State* state;
+    int scaleFactor;
+    int history; // samples of a block that belong to outputs of the one before
+    int useful;  // outputs of a block
+};
+
+template <typename State>
+inline TarnStatus runTransforms(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                                int scaleFactor = 0)
+{
+    return len < 1 ? tarnStsNoErr : OverlapSave<State>(src, dst, len, state, scaleFactor).run();
+}
+
+// -- Calls
+// -------------------------------------------------------------------------------------------------------------
+
+template <typename State>
+inline bool takesTransforms(const State* state, int len)
+{
+    return state->fftLen >= 1 && state->fftLen < len;
+}
+
+template <typename State>
+inline TarnStatus runFilter(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                            int scaleFactor = 0)
+{
+    if (const TarnStatus status = checkFilter(state, len, src, dst)) {
+        return status;
+    }
+    return takesTransforms(state, len) ? runTransforms(src, dst, len, state, scaleFactor)
+                                       : runDirect(src, dst, len, state, scaleFactor);
+}
+
+// The bulk of the direct road reads samples that are outputs already, and so does the next block of the other one. So
+// outputs, or a copy of the samples where outputs need the first half for themselves, wait in the scratch area.
+template <typename State>
+inline TarnStatus runPartsInPlace(typename State::Sample* srcDst, int len, State* state, int scaleFactor = 0)
+{
+    using S = typename State::Sample;
+    S* const scratch = reinterpret_cast<S*>(state->pTmp);
+    if constexpr (sameTypes<State>) {
+        return forEachPart(len, scratchElements, [=](int begin, int count) {
+            S* const part = srcDst + begin;
+            const TarnStatus status = takesTransforms(state, count) ? runTransforms(part, scratch, count, state)
+                                                                    : runDirect(part, scratch, count, state);
+            if (status == tarnStsNoErr) {
+                copyElements(scratch, part, count);
+            }
+            return status;
+        });
+    } else if (takesTransforms(state, len)) {
+        return forEachPart(len, 2 * scratchElements, [=](int begin, int count) {
+            S* const part = srcDst + begin;
+            const TarnStatus status = runTransforms(part, scratch, count, state, scaleFactor);
+            if (status == tarnStsNoErr) {
+                copyElements(scratch, part, count);
+            }
+            return status;
+        });
+    } else {
+        S* const copy = reinterpret_cast<S*>(state->pTmp + FirRegions<typename State::Tap>::scratch() / 2);
+        return forEachPart(len, scratchElements, [=](int begin, int count) {
+            S* const part = srcDst + begin;
+            copyElements(part, copy, count);
+            return runDirect(copy, part, count, state, scaleFactor);
+        });
+    }
+}
+
+template <typename State>
+inline TarnStatus runInPlace(typename State::Sample* srcDst, int len, State* state, int scaleFactor = 0)
+{
+    if (const TarnStatus status = checkFilter(state, len, srcDst)) {
+        return status;
+    }
+    return runPartsInPlace(srcDst, len, state, scaleFactor);
+}
+
+} // namespace tarn

@@ -1,0 +1,70 @@
+// The transforms behind the FFT road of FIR filters, by the type of the taps.
+#pragma once
+
+#include "levels/fir/psfir_state.h"
+#include "tarns/fft.h"
+#include "tarns/multiply.h"
+#include "tarns/spectrum.h"
+
+namespace tarn {
+
+// The calls for a type of taps. The spectrum of real data is in Perm format.
+template <typename T>
+struct TransformCalls;
+
+template <>
+struct TransformCalls<Tarn32f> {
+    static constexpr auto initAlloc = tarnsFFTInitAlloc_R_32f;
+    static constexpr auto getBufSize = tarnsFFTGetBufSize_R_32f;
+    static constexpr auto forward = tarnsFFTFwd_RToPerm_32f;
+    static constexpr auto multiply = tarnsMulPerm_32f_I;
+    static constexpr auto inverse = tarnsFFTInv_PermToR_32f;
+    static constexpr auto free = tarnsFFTFree_R_32f;
+};
+template <>
+struct TransformCalls<Tarn32fc> {
+    static constexpr auto initAlloc = tarnsFFTInitAlloc_C_32fc;
+    static constexpr auto getBufSize = tarnsFFTGetBufSize_C_32fc;
+    static constexpr auto forward = tarnsFFTFwd_CToC_32fc;
+    static constexpr auto multiply = tarnsMul_32fc_I;
+    static constexpr auto inverse = tarnsFFTInv_CToC_32fc;
+    static constexpr auto free = tarnsFFTFree_C_32fc;
+};
+template <>
+struct TransformCalls<Tarn64f> {
+    static constexpr auto initAlloc = tarnsFFTInitAlloc_R_64f;
+    static constexpr auto getBufSize = tarnsFFTGetBufSize_R_64f;
+    static constexpr auto forward = tarnsFFTFwd_RToPerm_64f;
+    static constexpr auto multiply = tarnsMulPerm_64f_I;
+    static constexpr auto inverse = tarnsFFTInv_PermToR_64f;
+    static constexpr auto free = tarnsFFTFree_R_64f;
+};
+template <>
+struct TransformCalls<Tarn64fc> {
+    static constexpr auto initAlloc = tarnsFFTInitAlloc_C_64fc;
+    static constexpr auto getBufSize = tarnsFFTGetBufSize_C_64fc;
+    static constexpr auto forward = tarnsFFTFwd_CToC_64fc;
+    static constexpr auto multiply = tarnsMul_64fc_I;
+    static constexpr auto inverse = tarnsFFTInv_CToC_64fc;
+    static constexpr auto free = tarnsFFTFree_C_64fc;
+};
+
+// The order of the transform for so many taps: more than twice as long, so that at least half a block is of use.
+constexpr int transformOrder(int tapsLen)
+{
+    int order = 2;
+    while (1LL << order <= tapsLen) {
+        ++order;
+    }
+    return order + 1;
+}
+
+// A specification with an owner.
+template <typename T>
+struct ReleaseSpec {
+    void operator()(typename FirTransform<T>::Spec* spec) const { TransformCalls<T>::free(spec); }
+};
+template <typename T>
+using OwnedSpec = std::unique_ptr<typename FirTransform<T>::Spec, ReleaseSpec<T>>;
+
+} // namespace tarn

@@ -1,0 +1,308 @@
+// FIR filters with integer taps: states, and front ends.
+#include "tarns/fir.h"
+
+#include "fir/psfir_common.h"
+#include "fir/psfir_memory.h"
+#include "fir/psfir_names.h"
+
+#include <omp.h>
+
+#include <cmath>
+
+using namespace tarn;
+
+namespace {
+
+// -- Taps
+// --------------------------------------------------------------------------------------------------------------
+
+// The largest magnitude of 16-bit taps; one step below the type's.
+constexpr Tarn32u largestTap = 32766;
+
+constexpr Tarn32u magnitude(Tarn32s x) { return x < 0 ? 0U - static_cast<Tarn32u>(x) : static_cast<Tarn32u>(x); }
+
+// How far taps have to be shifted to fit 16 bits, by the largest magnitude of all components.
+int shiftOf(const Tarn32s* taps, int len)
+{
+    Tarn32u largest = 0;
+    for (int i = 0; i < len; ++i) {
+        largest = std::max(largest, magnitude(loadElement(taps + i)));
+    }
+    int shift = 0;
+    while (largest >> shift > largestTap) {
+        ++shift;
+    }
+    return shift;
+}
+
+// Four copies of the reversed taps, each one word further from a boundary, with zeros between them.
+void writeTable(TarnsFIRState32s_16s* state)
+{
+    const int stride = state->tapsTableStride;
+    zeroElements(state->pTapsTable, 4 * stride);
+    for (int c = 0; c < 4; ++c) {
+        for (int k = 0; k < state->tapsLen; ++k) {
+            state->pTapsTable[c * stride + c + 1 + k] = static_cast<Tarn16s>(state->pTaps[k]);
+        }
+    }
+}
+
+// The reversed taps as pairs (re, -im), then as pairs (im, re).
+void writeTable(TarnsFIRState32sc_16sc* state)
+{
+    Tarn16s* const first = state->pTapsTable;
+    Tarn16s* const second = first + 2 * state->tapsLen;
+    for (int k = 0; k < state->tapsLen; ++k) {
+        const Tarn32sc tap = state->pTaps[k];
+        first[2 * k] = static_cast<Tarn16s>(tap.re);
+        first[2 * k + 1] = static_cast<Tarn16s>(-tap.im);
+        second[2 * k] = static_cast<Tarn16s>(tap.im);
+        second[2 * k + 1] = static_cast<Tarn16s>(tap.re);
+    }
+}
+
+// Integer taps, of which the state keeps the upper bits.
+template <typename State>
+void storeTaps(State* state, const typename State::Tap* pTaps, int tapsFactor)
+{
+    const int parts = static_cast<int>(sizeof(typename State::Tap) / sizeof(Tarn32s));
+    reverseConverted(pTaps, state->pTaps, state->tapsLen);
+    auto* const components = reinterpret_cast<Tarn32s*>(state->pTaps);
+    const int shift = shiftOf(components, parts * state->tapsLen);
+    for (int i = 0; i < parts * state->tapsLen; ++i) {
+        components[i] >>= shift;
+    }
+    state->tapsFactor = tapsFactor + shift;
+    writeTable(state);
+}
+
+// Float taps F, which the state keeps as integers.
+template <typename State, typename F>
+void storeFloatTaps(State* state, const F* pTaps)
+{
+    constexpr int parts = static_cast<int>(sizeof(F) / sizeof(Tarn32f));
+    auto* const components = reinterpret_cast<Tarn32s*>(state->pTaps);
+    state->tapsFactor = scale32fTaps32s(reinterpret_cast<const Tarn32f*>(pTaps), components, parts * state->tapsLen);
+    std::reverse(state->pTaps, state->pTaps + state->tapsLen);
+    writeTable(state);
+}
+
+Tarn32f tapToFloat(Tarn32s tap, int factor) { return std::ldexp(static_cast<Tarn32f>(tap), factor); }
+Tarn32fc tapToFloat(Tarn32sc tap, int factor) { return {tapToFloat(tap.re, factor), tapToFloat(tap.im, factor)}; }
+
+// -- States
+// ------------------------------------------------------------------------------------------------------------
+
+template <typename State>
+using RegionsOf = FirIntegerRegions<typename State::Sample>;
+
+// What does not depend on the form of the taps, and then the taps by `keepTaps`.
+template <typename State, typename KeepTaps>
+void build(State* state, int tapsLen, const typename State::Sample* pDlyLine, int isAllocated, KeepTaps keepTaps)
+{
+    RegionsOf<State>::of(tapsLen).place(state);
+    state->idCtx = State::singleRateId;
+    state->tapsLen = tapsLen;
+    state->dlyLen = tapsLen;
+    state->pPhaseOffsets = nullptr;
+    state->isAllocated = isAllocated;
+    if constexpr (isComplex<typename State::Sample>) {
+        state->inHeadLen = ((2 * tapsLen + 7) & ~7) + 2;
+        state->tapsTableStride = 0;
+    } else {
+        state->inHeadLen = RegionsOf<State>::stride(tapsLen);
+        state->tapsTableStride = RegionsOf<State>::stride(tapsLen);
+    }
+    fillDelay(state, state->pDlyLine, pDlyLine);
+    keepTaps(state);
+}
+
+template <typename State, typename P, typename KeepTaps>
+TarnStatus allocateState(State** ppState, const P* pTaps, int tapsLen, const typename State::Sample* pDlyLine,
+                         KeepTaps keepTaps)
+{
+    if (const TarnStatus status = checkTaps(tapsLen, ppState, pTaps)) {
+        return status;
+    }
+    Owned<Tarn8u[]> block = allocate<Tarn8u>(RegionsOf<State>::of(tapsLen).template total<State>());
+    if (!block) {
+        return tarnStsNoMemErr;
+    }
+    *ppState = reinterpret_cast<State*>(block.release());
+    build(*ppState, tapsLen, pDlyLine, 1, keepTaps);
+    return tarnStsNoErr;
+}
+
+template <typename State, typename P, typename KeepTaps>
+TarnStatus buildInBuffer(State** ppState, const P* pTaps, int tapsLen, const typename State::Sample* pDlyLine,
+                         Tarn8u* pBuffer, KeepTaps keepTaps)
+{
+    if (const TarnStatus status = checkTaps(tapsLen, ppState, pTaps, pBuffer)) {
+        return status;
+    }
+    *ppState = placeInBuffer<State>(pBuffer);
+    build(*ppState, tapsLen, pDlyLine, 0, keepTaps);
+    return tarnStsNoErr;
+}
+
+template <typename State>
+TarnStatus stateSize(int tapsLen, int* pBufferSize)
+{
+    if (const TarnStatus status = checkTaps(tapsLen, pBufferSize)) {
+        return status;
+    }
+    const long long bytes = RegionsOf<State>::of(tapsLen).template total<State>() + RegionsOf<State>::slack;
+    store(pBufferSize, static_cast<int>(bytes));
+    return tarnStsNoErr;
+}
+
+// Multi-rate states compile their taps in ways of their own.
+template <typename State, typename P, typename KeepTaps>
+TarnStatus setTaps(const P* pTaps, State* state, KeepTaps keepTaps)
+{
+    if (pTaps == nullptr || state == nullptr) {
+        return tarnStsNullPtrErr;
+    }
+    if (!isSingleRate(state)) {
+        return tarnStsContextMatchErr;
+    }
+    keepTaps(state);
+    return tarnStsNoErr;
+}
+
+template <typename State>
+TarnStatus getTaps(const State* state, typename State::Tap* pTaps, int* pTapsFactor)
+{
+    if (const TarnStatus status = checkState(state, pTaps, pTapsFactor)) {
+        return status;
+    }
+    reverseConverted(state->pTaps, pTaps, state->tapsLen);
+    store(pTapsFactor, state->tapsFactor);
+    return tarnStsNoErr;
+}
+
+template <typename State, typename F>
+TarnStatus getFloatTaps(const State* state, F* pTaps)
+{
+    if (const TarnStatus status = checkState(state, pTaps)) {
+        return status;
+    }
+    for (int k = 0; k < state->tapsLen; ++k) {
+        store(pTaps + k, tapToFloat(state->pTaps[state->tapsLen - 1 - k], state->tapsFactor));
+    }
+    return tarnStsNoErr;
+}
+
+template <typename State>
+TarnStatus freeState(State* state)
+{
+    if (const TarnStatus status = checkState(state)) {
+        return status;
+    }
+    if (state->isAllocated == 1) {
+        tarnsFree(state);
+    }
+    return tarnStsNoErr;
+}
+
+// -- Filters
+// -----------------------------------------------------------------------------------------------------------
+
+TarnStatus filter(const Tarn16s* src, Tarn16s* dst, int len, TarnsFIRState32s_16s* state, int scaleFactor)
+{
+    ownFIRSR32s_16s_Sfs(src, dst, len, state, scaleFactor);
+    return tarnStsNoErr;
+}
+TarnStatus filter(const Tarn16sc* src, Tarn16sc* dst, int len, TarnsFIRState32sc_16sc* state, int scaleFactor)
+{
+    ownFIRSR32sc_16sc_Sfs(src, dst, len, state, scaleFactor);
+    return tarnStsNoErr;
+}
+
+template <typename State>
+TarnStatus runFilter(const typename State::Sample* src, typename State::Sample* dst, int len, State* state,
+                     int scaleFactor)
+{
+    if (const TarnStatus status = checkFilter(state, len, src, dst)) {
+        return status;
+    }
+    return filter(src, dst, len, state, scaleFactor);
+}
+
+// Outputs overwrite samples that are still in the window: the kernel reads a copy in the scratch area.
+template <typename State>
+TarnStatus runInPlace(typename State::Sample* srcDst, int len, State* state, int scaleFactor)
+{
+    using S = typename State::Sample;
+    if (const TarnStatus status = checkFilter(state, len, srcDst)) {
+        return status;
+    }
+    S* const scratch = reinterpret_cast<S*>(state->pTmp);
+    return forEachPart(len, RegionsOf<State>::scratch / static_cast<int>(sizeof(S)), [=](int begin, int count) {
+        copyElements(srcDst + begin, scratch, count);
+        return filter(scratch, srcDst + begin, count, state, scaleFactor);
+    });
+}
+
+} // namespace
+
+// Taps P with a factor, or floats.
+#define TARN_DEFINE_FIR_INTEGER_STATE(TAIL, T, S)                                                                  \
+    TarnStatus tarnsFIRInitAlloc##TAIL(TarnsFIRState##TAIL** ppState, const T* pTaps, int tapsLen, int tapsFactor, \
+                                       const S* pDlyLine)                                                          \
+    {                                                                                                              \
+        return allocateState(ppState, pTaps, tapsLen, pDlyLine,                                                    \
+                             [=](auto* state) { storeTaps(state, pTaps, tapsFactor); });                           \
+    }                                                                                                              \
+    TarnStatus tarnsFIRInit##TAIL(TarnsFIRState##TAIL** ppState, const T* pTaps, int tapsLen, int tapsFactor,      \
+                                  const S* pDlyLine, Tarn8u* pBuffer)                                              \
+    {                                                                                                              \
+        return buildInBuffer(ppState, pTaps, tapsLen, pDlyLine, pBuffer,                                           \
+                             [=](auto* state) { storeTaps(state, pTaps, tapsFactor); });                           \
+    }                                                                                                              \
+    TarnStatus tarnsFIRSetTaps##TAIL(const T* pTaps, TarnsFIRState##TAIL* pState, int tapsFactor)                  \
+    {                                                                                                              \
+        return setTaps(pTaps, pState, [=](auto* state) { storeTaps(state, pTaps, tapsFactor); });                  \
+    }                                                                                                              \
+    TarnStatus tarnsFIRGetTaps##TAIL(const TarnsFIRState##TAIL* pState, T* pTaps, int* pTapsFactor)                \
+    {                                                                                                              \
+        return getTaps(pState, pTaps, pTapsFactor);                                                                \
+    }
+
+#define TARN_DEFINE_FIR_FLOAT_TAPS_STATE(TAIL, T, S)                                                                  \
+    TarnStatus tarnsFIRInitAlloc##TAIL(TarnsFIRState##TAIL** ppState, const T* pTaps, int tapsLen, const S* pDlyLine) \
+    {                                                                                                                 \
+        return allocateState(ppState, pTaps, tapsLen, pDlyLine, [=](auto* state) { storeFloatTaps(state, pTaps); });  \
+    }                                                                                                                 \
+    TarnStatus tarnsFIRInit##TAIL(TarnsFIRState##TAIL** ppState, const T* pTaps, int tapsLen, const S* pDlyLine,      \
+                                  Tarn8u* pBuffer)                                                                    \
+    {                                                                                                                 \
+        return buildInBuffer(ppState, pTaps, tapsLen, pDlyLine, pBuffer,                                              \
+                             [=](auto* state) { storeFloatTaps(state, pTaps); });                                     \
+    }                                                                                                                 \
+    TarnStatus tarnsFIRSetTaps##TAIL(const T* pTaps, TarnsFIRState##TAIL* pState)                                     \
+    {                                                                                                                 \
+        return setTaps(pTaps, pState, [=](auto* state) { storeFloatTaps(state, pTaps); });                            \
+    }                                                                                                                 \
+    TarnStatus tarnsFIRGetTaps##TAIL(const TarnsFIRState##TAIL* pState, T* pTaps)                                     \
+    {                                                                                                                 \
+        return getFloatTaps(pState, pTaps);                                                                           \
+    }
+
+#define TARN_DEFINE_FIR_INTEGER_FILTER(TAIL, S)                          \
+    TarnStatus tarnsFIRGetStateSize##TAIL(int tapsLen, int* pBufferSize) \
+    {                                                                    \
+        return stateSize<TarnsFIRState##TAIL>(tapsLen, pBufferSize);     \
+    }                                                                    \
+    TARN_DEFINE_FIR_DELAY(TAIL, S)                                       \
+    TARN_DEFINE_FIR_CALLS_SFS(TAIL, S)
+
+TARN_DEFINE_FIR_INTEGER_STATE(32s_16s, Tarn32s, Tarn16s)
+TARN_DEFINE_FIR_INTEGER_STATE(32sc_16sc, Tarn32sc, Tarn16sc)
+TARN_DEFINE_FIR_FLOAT_TAPS_STATE(32s_16s32f, Tarn32f, Tarn16s)
+TARN_DEFINE_FIR_FLOAT_TAPS_STATE(32sc_16sc32fc, Tarn32fc, Tarn16sc)
+
+TARN_DEFINE_FIR_INTEGER_FILTER(32s_16s, Tarn16s)
+TARN_DEFINE_FIR_INTEGER_FILTER(32sc_16sc, Tarn16sc)
+TARN_DEFINE_FIR_INTEGER_FILTER(32s_16s32f, Tarn16s)
+TARN_DEFINE_FIR_INTEGER_FILTER(32sc_16sc32fc, Tarn16sc)

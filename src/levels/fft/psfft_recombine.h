@@ -1,0 +1,130 @@
+// Recombination: a real transform of 2 M points out of a complex one of M points, and back. The spectrum is in Perm
+// order, so that slot k of a complex view is X[k].
+#pragma once
+
+#include "frame/object.h"
+#include "frame/simd.h"
+#include "levels/fft/psfft_butterflies.h"
+
+namespace tarn::fft {
+
+template <typename T>
+using Slots = Complex<Vector<T>>;
+
+// A table of values (A[k], B[k]) for k from 1 to a quarter of the real length, in blocks of lanes<T>: A, then B.
+template <typename T, typename Value>
+inline Owned<T[]> recombinationTable(int order, Value value)
+{
+    constexpr int group = lanes<T>;
+    const long long slots = order <= 3 ? 2 : (1LL << order) / 4;
+    Owned<T[]> table = allocate<T>(2 * slots);
+    if (!table) {
+        return table;
+    }
+    if (order <= 3) {
+        // Transforms this short do not recombine.
+        std::fill_n(table.get(), 2 * slots, T{0});
+        return table;
+    }
+    for (int i = 0; i < slots; ++i) {
+        const auto [a, b] = value(i + 1);
+        T* block = table.get() + i / group * (2 * group) + i % group;
+        block[0] = a;
+        block[group] = b;
+    }
+    return table;
+}
+
+template <typename T>
+inline Owned<T[]> realRecombinationTable(int order, const T* base)
+{
+    const int quarter = (1 << order) / 4;
+    constexpr T half = T{1} / 2;
+    return recombinationTable<T>(order, [=](int k) {
+        return std::pair<T, T>{half * base[quarter - k], -half * base[k] + half};
+    });
+}
+
+template <typename T>
+inline Owned<T[]> ccsRecombinationTable(int order, const T* base)
+{
+    const int quarter = (1 << order) / 4;
+    return recombinationTable<T>(order, [=](int k) { return std::pair<T, T>{base[quarter - k], -base[k]}; });
+}
+
+// The slots of a rising and a falling index.
+template <typename X>
+struct Facing {
+    Complex<X> low, high;
+};
+
+// Z[k] and Z[M - k] of the half-length transform to X[k] and X[M - k].
+struct ToSpectrum {
+    template <typename X>
+    static TARN_INLINE Facing<X> join(Complex<X> low, Complex<X> high, Complex<X> factor)
+    {
+        const X a = sub(low.re, high.re);
+        const X b = add(low.im, high.im);
+        const X q = add(mul(factor.re, b), mul(factor.im, a));
+        const X p = sub(mul(factor.im, b), mul(factor.re, a));
+        return {{add(high.re, q), sub(p, high.im)}, {sub(low.re, q), sub(p, low.im)}};
+    }
+    template <typename X>
+    static TARN_INLINE Complex<X> middle(Complex<X> x)
+    {
+        return {x.re, -x.im};
+    }
+};
+
+// X[k] and X[M - k] to 2 Z[k] and 2 Z[M - k].
+struct FromSpectrum {
+    template <typename X>
+    static TARN_INLINE Facing<X> join(Complex<X> low, Complex<X> high, Complex<X> factor)
+    {
+        const X a = sub(low.re, high.re);
+        const X c = add(low.re, high.re);
+        const X b = add(low.im, high.im);
+        const X e = sub(low.im, high.im);
+        const X q = sub(mul(factor.im, a), mul(factor.re, b));
+        const X p = add(mul(factor.im, b), mul(factor.re, a));
+        return {{add(c, q), add(e, p)}, {sub(c, q), sub(p, e)}};
+    }
+    template <typename X>
+    static TARN_INLINE Complex<X> middle(Complex<X> x)
+    {
+        return {2 * x.re, -2 * x.im};
+    }
+};
+
+// Joins slots 1 to M - 1; slot 0 is the caller's. The last vector reaches the middle slot, which is its own opposite
+// and is therefore written after all others. M is 1, 2 or a power of two that the table has been made for.
+template <typename Rule, typename T>
+inline void recombine(const T* src, T* dst, int M, const T* table)
+{
+    if (M <= 1) {
+        return;
+    }
+    const Complex<T> middle = Rule::middle(Complex<T>{loadElement(src + M), loadElement(src + M + 1)});
+    if (M > 2) {
+        constexpr int width = lanes<T>;
+        const T* srcLow = src + 2;
+        T* dstLow = dst + 2;
+        const T* srcHigh = src + 2 * (M - width);
+        T* dstHigh = dst + 2 * (M - width);
+        for (int k = 1; k < M / 2; k += width) {
+            const auto x = Rule::join(loadPairs(srcLow), loadPairsReversed(srcHigh),
+                                      Slots<T>{loadAligned(table), loadAligned(table + width)});
+            storePairs(dstLow, x.low);
+            storePairsReversed(dstHigh, x.high);
+            srcLow += 2 * width;
+            dstLow += 2 * width;
+            srcHigh -= 2 * width;
+            dstHigh -= 2 * width;
+            table += 2 * width;
+        }
+    }
+    store(dst + M, middle.re);
+    store(dst + M + 1, middle.im);
+}
+
+} // namespace tarn::fft

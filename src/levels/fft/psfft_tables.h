@@ -1,0 +1,146 @@
+// The tables of the power-of-two transforms. Every factor is an entry of one base sine table or its negative, so that
+// the symmetry of the circle holds to the bit.
+#pragma once
+
+#include "frame/object.h"
+#include "frame/trigonometry.h"
+#include "frame/walk.h"
+#include "levels/fft/psfft_butterflies.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace tarn::fft {
+
+// Counts through the numbers of some bits in bit-reversed order.
+class ReversedCounter {
+public:
+    explicit ReversedCounter(int bits) : top(bits > 0 ? 1 << (bits - 1) : 0) {}
+
+    int value() const { return reversed; }
+    void advance()
+    {
+        int bit = top;
+        while ((reversed & bit) != 0) {
+            reversed ^= bit;
+            bit >>= 1;
+        }
+        reversed |= bit;
+    }
+
+private:
+    int top;
+    int reversed = 0;
+};
+
+// Sines (or cosines) of two arguments, rounded to the element type: the single-precision tables are made in double
+// precision too, so that no rounding of an argument shows in them.
+template <bool sine, typename T>
+inline void twoValues(Tarn64f first, Tarn64f second, T* to)
+{
+    const Tarn64f arguments[] = {first, second};
+    Tarn64f values[2];
+    (sine ? zpldSin2 : zpldCos2)(arguments, values);
+    to[0] = static_cast<T>(values[0]);
+    to[1] = static_cast<T>(values[1]);
+}
+
+// table[i] = sin(argument(i)) or cos(argument(i)) for i from `first` to `last`. A short run and the two ends of a long
+// one go through the mathematics library.
+template <bool sine, typename T, typename Argument>
+inline void fillRun(T* table, int first, int last, Argument argument)
+{
+    constexpr int shortRun = 7;
+    int i = first;
+    const auto one = [&] {
+        const Tarn64f x = argument(i);
+        table[i++] = static_cast<T>(sine ? std::sin(x) : std::cos(x));
+    };
+    if (last - first + 1 >= shortRun) {
+        while (!isOnBoundary(table + i)) {
+            one();
+        }
+        for (; i + lanes<T> - 1 <= last; i += lanes<T>) {
+            for (int k = 0; k < lanes<T>; k += 2) {
+                twoValues<sine>(argument(i + k), argument(i + k + 1), table + i + k);
+            }
+        }
+    }
+    while (i <= last) {
+        one();
+    }
+}
+
+// Null if there is no memory, or if the table is larger than an allocation can be.
+template <typename T>
+inline Owned<T[]> baseTable(int order)
+{
+    const int size = 1 << order;
+    Owned<T[]> table = allocate<T>(size / 4 + 1);
+    if (table) {
+        const Tarn64f step = 2 * std::numbers::pi / size;
+        // A sine near a right angle is the cosine of a small angle.
+        const int quarter = size / 4;
+        fillRun<true>(table.get(), 0, size / 8, [=](int j) { return j * step; });
+        fillRun<false>(table.get(), size / 8 + 1, quarter, [=](int j) { return (quarter - j) * step; });
+    }
+    return table;
+}
+
+// The circle of 2^order points, as a view of a base table of that order or a higher one.
+template <typename T>
+struct Circle {
+    const T* base;
+    int quarter; // entries of the base table in a right angle
+    int stride;  // entries of the base table from point to point
+
+    Circle(const T* base, int baseOrder, int order)
+        : base(base), quarter((1 << baseOrder) / 4), stride(1 << (baseOrder - order))
+    {
+    }
+
+    // (cos, -sin) of the angle of m points, m from 0 to four right angles.
+    Complex<T> factor(int m) const
+    {
+        const int at = m * stride;
+        switch ((at - (at > 0)) / quarter) {
+        case 0:
+            return {base[quarter - at], -base[at]};
+        case 1:
+            return {-base[at - quarter], -base[2 * quarter - at]};
+        case 2:
+            return {-base[3 * quarter - at], base[at - 2 * quarter]};
+        default:
+            return {base[at - 3 * quarter], base[4 * quarter - at]};
+        }
+    }
+};
+
+// The factors of all the stages of one length, from the shortest up. A stage of length L holds W(k), W(2k) and W(3k)
+// for k below L / 4, in blocks of the working arrangement.
+template <typename T>
+inline Owned<T[]> stageTable(int order, const T* base, int baseOrder)
+{
+    constexpr int group = lanes<T>;
+    const long long size = 1LL << order;
+    Owned<T[]> table = allocate<T>(2 * (size < 9 ? 1 : size));
+    if (!table) {
+        return table;
+    }
+    T* to = table.get();
+    for (int stage = order % 2 == 0 ? 4 : 5; stage <= order; stage += 2) {
+        const Circle<T> circle(base, baseOrder, stage);
+        for (int k = 0; k < (1 << stage) / 4; k += group) {
+            for (int power = 1; power <= 3; ++power, to += 2 * group) {
+                for (int lane = 0; lane < group; ++lane) {
+                    const Complex<T> w = circle.factor(power * (k + lane));
+                    to[lane] = w.re;
+                    to[lane + group] = w.im;
+                }
+            }
+        }
+    }
+    return table;
+}
+
+} // namespace tarn::fft

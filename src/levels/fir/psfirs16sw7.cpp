@@ -1,0 +1,294 @@
+// Kernels of FIR filters with 16-bit taps and samples: sums modulo 2^32, shifted and saturated.
+#include "frame/scale_exact.h"
+#include "frame/simd_fir.h"
+#include "frame/simd_round.h"
+#include "levels/data/pscopyca.h"
+#include "levels/fir/psfir.h"
+
+using namespace tarn;
+
+namespace {
+
+// -- From sums to samples
+// ----------------------------------------------------------------------------------------------
+
+// The three ways to multiply a sum by 2^s.
+struct Unshifted {
+    template <typename X>
+    TARN_INLINE X operator()(X sum) const
+    {
+        return sum;
+    }
+};
+struct ShiftedUp {
+    int n;
+    template <typename X>
+    TARN_INLINE X operator()(X sum) const
+    {
+        return shiftLeft(sum, n);
+    }
+};
+struct ShiftedDown {
+    int n;
+    template <typename X>
+    TARN_INLINE X operator()(X sum) const
+    {
+        return shiftRounded(FullWidth<X>{sum}, n);
+    }
+};
+// By more than the width: no sum reaches one half any more.
+struct ShiftedOut {
+    template <typename X>
+    TARN_INLINE X operator()(X) const
+    {
+        return splat<X>(0);
+    }
+};
+
+// Calls `run` with the step that multiplies by 2^(tapsFactor - scaleFactor).
+template <typename Run>
+TARN_INLINE void withShift(int tapsFactor, int scaleFactor, Run run)
+{
+    constexpr int width = 32;
+    const Tarn64s s = Tarn64s{tapsFactor} - scaleFactor;
+    if (s == 0) {
+        run(Unshifted{});
+    } else if (s > 0) {
+        run(ShiftedUp{static_cast<int>(std::min<Tarn64s>(s, width))});
+    } else if (s > -width) {
+        run(ShiftedDown{static_cast<int>(-s)});
+    } else {
+        run(ShiftedOut{});
+    }
+}
+
+// -- Real filters
+// ------------------------------------------------------------------------------------------------------
+
+// Outputs that are computed together, from the same registers of taps.
+constexpr int outputsTogether = 4;
+constexpr int samplesAtOnce = lanes<Tarn16s>;
+
+// The taps of a state as they lie in memory: copy c of the reversed taps, with zeros behind it.
+const Tarn16s* tapsCopy(const TarnsFIRState32s_16s* state, int c)
+{
+    return state->pTapsTable + c * state->tapsTableStride + c + 1;
+}
+
+// One output, reading nothing but its window.
+TARN_INLINE Tarn32s filterWindow(const Tarn16s* x, const Tarn16s* taps, int tapsLen)
+{
+    auto sums = splat<Vector<Tarn32s>>(0);
+    int i = 0;
+    for (; i <= tapsLen - samplesAtOnce; i += samplesAtOnce) {
+        sums = add(sums, mulAddPairs(loadPack<samplesAtOnce>(x + i), loadPack<samplesAtOnce>(taps + i)));
+    }
+    Tarn32s sum = sumOfLanes(sums);
+    for (; i < tapsLen; ++i) {
+        sum = add(sum, Tarn32s{loadElement(x + i)} * loadElement(taps + i));
+    }
+    return sum;
+}
+
+// Four outputs. It reads whole registers of samples and taps: what is behind the last tap is multiplied by zero.
+TARN_INLINE Vector<Tarn32s> filterFour(const Tarn16s* x, const Tarn16s* taps, int tapsLen)
+{
+    const auto zero = splat<Vector<Tarn32s>>(0);
+    Vector<Tarn32s> sums[outputsTogether] = {zero, zero, zero, zero};
+    for (int i = 0; i < tapsLen; i += samplesAtOnce) {
+        const auto w = loadPack<samplesAtOnce>(taps + i);
+        for (int k = 0; k < outputsTogether; ++k) {
+            sums[k] = add(sums[k], mulAddPairs(loadPack<samplesAtOnce>(x + i + k), w));
+        }
+    }
+    return sumsOfLanes(sums[0], sums[1], sums[2], sums[3]);
+}
+
+template <typename Shift>
+void filterBlock(const Tarn16s* src, Tarn16s* dst, int len, const TarnsFIRState32s_16s* state, Shift shift)
+{
+    const int tapsLen = state->tapsLen;
+    const Tarn16s* const taps = tapsCopy(state, 0);
+    // The samples are len + tapsLen - 1: so many outputs can be computed without a look beyond them.
+    const int beyond = (tapsLen + samplesAtOnce - 1) / samplesAtOnce * samplesAtOnce - tapsLen;
+    constexpr int block = 2 * outputsTogether;
+    int i = 0;
+    for (; i <= len - block - beyond; i += block) {
+        const auto first = filterFour(src + i, taps, tapsLen);
+        const auto second = filterFour(src + i + outputsTogether, taps, tapsLen);
+        store(dst + i, narrowSaturated<Tarn16s>(shift(join(first, second))));
+    }
+    for (; i < len; ++i) {
+        store(dst + i, narrowSaturated<Tarn16s>(shift(filterWindow(src + i, taps, tapsLen))));
+    }
+}
+
+// -- Complex filters
+// ---------------------------------------------------------------------------------------------------
+
+// Two lists of the reversed taps: (re, -im) and (im, re). A pair product with one of them is a part of the result.
+struct PairLists {
+    const Tarn16sc* re;
+    const Tarn16sc* im;
+};
+
+PairLists pairLists(const TarnsFIRState32sc_16sc* state)
+{
+    const auto* const first = reinterpret_cast<const Tarn16sc*>(state->pTapsTable);
+    return {first, first + state->tapsLen};
+}
+
+TARN_INLINE Tarn32sc filterWindow(const Tarn16sc* x, PairLists taps, int tapsLen)
+{
+    Tarn32sc sum{0, 0};
+    for (int i = 0; i < tapsLen; ++i) {
+        const Tarn16sc sample = loadElement(x + i);
+        sum.re = add(sum.re, dotParts(sample, taps.re[i]));
+        sum.im = add(sum.im, dotParts(sample, taps.im[i]));
+    }
+    return sum;
+}
+
+template <typename Shift>
+TARN_INLINE Tarn16sc toSample(Tarn32sc sum, Shift shift)
+{
+    return {narrowSaturated<Tarn16s>(shift(sum.re)), narrowSaturated<Tarn16s>(shift(sum.im))};
+}
+
+// Two registers of outputs: their four registers of sums leave room for the taps and the samples.
+template <typename Shift>
+TARN_INLINE void filterRegisters(const Tarn16sc* src, Tarn16sc* dst, PairLists taps, int tapsLen, Shift shift)
+{
+    constexpr int step = lanes<Tarn16sc>;
+    const auto zero = splat<Vector<Tarn32s>>(0);
+    Vector<Tarn32s> re[2] = {zero, zero};
+    Vector<Tarn32s> im[2] = {zero, zero};
+    for (int i = 0; i < tapsLen; ++i) {
+        const auto reTap = splat<Vector<Tarn16sc>>(taps.re[i]);
+        const auto imTap = splat<Vector<Tarn16sc>>(taps.im[i]);
+        for (int k = 0; k < 2; ++k) {
+            const auto x = loadPack<step>(src + i + k * step);
+            re[k] = add(re[k], dotParts(x, reTap));
+            im[k] = add(im[k], dotParts(x, imTap));
+        }
+    }
+    for (int k = 0; k < 2; ++k) {
+        const auto sums = reinterpretPack<Tarn32s>(joinParts(re[k], im[k]));
+        store(dst + k * step, reinterpretPack<Tarn16sc>(narrowSaturated<Tarn16s>(shift(sums))));
+    }
+}
+
+template <typename Shift>
+void filterBlock(const Tarn16sc* src, Tarn16sc* dst, int len, const TarnsFIRState32sc_16sc* state, Shift shift)
+{
+    constexpr int block = 2 * lanes<Tarn16sc>;
+    const int tapsLen = state->tapsLen;
+    const PairLists taps = pairLists(state);
+    int i = 0;
+    for (; i <= len - block; i += block) {
+        filterRegisters(src + i, dst + i, taps, tapsLen, shift);
+    }
+    for (; i < len; ++i) {
+        store(dst + i, toSample(filterWindow(src + i, taps, tapsLen), shift));
+    }
+}
+
+// -- Delay line
+// --------------------------------------------------------------------------------------------------------
+
+template <typename S>
+void moveSamples(const S* src, S* dst, int len)
+{
+    ownsMove_8u_W7(reinterpret_cast<const Tarn8u*>(src), reinterpret_cast<Tarn8u*>(dst),
+                   len * static_cast<int>(sizeof(S)));
+}
+
+// The first outputs come from the delay buffer, until the window has left it; the others read the caller's samples.
+template <typename State, typename S>
+void filter(const S* src, S* dst, int len, State* state, int scaleFactor)
+{
+    const int tapsLen = state->tapsLen;
+    S* const line = state->pDlyLine;
+    if (state->dlyLineIdx != 0) {
+        moveSamples(line + state->dlyLineIdx, line, tapsLen);
+        state->dlyLineIdx = 0;
+    }
+    const int head = std::min(len, tapsLen);
+    moveSamples(src, line + tapsLen, head);
+    withShift(state->tapsFactor, scaleFactor, [=](auto shift) {
+        filterBlock(line + 1, dst, head, state, shift);
+        if (len > head) {
+            filterBlock(src + 1, dst + head, len - head, state, shift);
+        }
+    });
+    if (len < tapsLen) {
+        moveSamples(line + len, line, tapsLen);
+    } else {
+        moveSamples(src + len - tapsLen, line, tapsLen);
+    }
+}
+
+template <typename State, typename S>
+TARN_INLINE S* enter(State* state, S src)
+{
+    const int tapsLen = state->tapsLen;
+    S* const place = state->pDlyLine + state->dlyLineIdx;
+    place[0] = src;
+    place[tapsLen] = src;
+    state->dlyLineIdx = state->dlyLineIdx + 1 == tapsLen ? 0 : state->dlyLineIdx + 1;
+    return state->pDlyLine + state->dlyLineIdx;
+}
+
+} // namespace
+
+void ownFIRSR32s_16s_Sfs(const Tarn16s* pSrc, Tarn16s* pDst, int numIters, TarnsFIRState32s_16s* pState,
+                         int scaleFactor)
+{
+    filter(pSrc, pDst, numIters, pState, scaleFactor);
+}
+
+void ownFIRSR32sc_16sc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pDst, int numIters, TarnsFIRState32sc_16sc* pState,
+                           int scaleFactor)
+{
+    filter(pSrc, pDst, numIters, pState, scaleFactor);
+}
+
+void ownFIRSROne32s_16s_Sfs(TarnsFIRState32s_16s* pState, Tarn16s src, Tarn16s* pDstVal, int scaleFactor)
+{
+    const Tarn32s sum = filterWindow(enter(pState, src), tapsCopy(pState, 3), pState->tapsLen);
+    withShift(pState->tapsFactor, scaleFactor,
+              [=](auto shift) { store(pDstVal, narrowSaturated<Tarn16s>(shift(sum))); });
+}
+
+void ownFIRSROne32sc_16sc_Sfs(TarnsFIRState32sc_16sc* pState, Tarn16sc src, Tarn16sc* pDstVal, int scaleFactor)
+{
+    const Tarn32sc sum = filterWindow(enter(pState, src), pairLists(pState), pState->tapsLen);
+    withShift(pState->tapsFactor, scaleFactor, [=](auto shift) { store(pDstVal, toSample(sum, shift)); });
+}
+
+int scale32fTaps32s(const Tarn32f* pSrc, Tarn32s* pDst, int len)
+{
+    constexpr Tarn32f limit = 32767.0F;
+    Tarn32f magnitude = 0;
+    for (int i = 0; i < len; ++i) {
+        magnitude = std::max(magnitude, std::fabs(loadElement(pSrc + i)));
+    }
+    Tarn32f scale = 1;
+    int exponent = 0;
+    // Without a finite magnitude above zero there is nothing to scale, and no end to it.
+    if (magnitude > 0 && magnitude <= std::numeric_limits<Tarn32f>::max()) {
+        for (; magnitude > limit; ++exponent) {
+            magnitude *= 0.5F;
+            scale *= 0.5F;
+        }
+        for (; exponent <= 0 && 2 * magnitude < limit; --exponent) {
+            magnitude *= 2;
+            scale *= 2;
+        }
+    }
+    for (int i = 0; i < len; ++i) {
+        const Tarn32f scaled = scale * loadElement(pSrc + i);
+        store(pDst + i, truncateDouble(static_cast<Tarn64f>(scaled) + (scaled < 0 ? -0.5 : 0.5)));
+    }
+    return exponent;
+}

@@ -1,4 +1,0 @@
-// Front ends of the power-of-two transforms in single precision.
-#include "psfft.h"
-
-TARN_FFT_FRONT_ENDS(32f)
