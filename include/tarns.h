@@ -15,6 +15,7 @@
 #include "tarns/memory.h"
 #include "tarns/multiply.h"
 #include "tarns/norms.h"
+#include "tarns/roots.h"
 #include "tarns/sampling.h"
 #include "tarns/sort.h"
 #include "tarns/spectrum.h"
