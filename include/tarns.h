@@ -5,6 +5,7 @@
 #include "tarncore.h"
 #include "tarns/arithmetic.h"
 #include "tarns/convert.h"
+#include "tarns/cplx.h"
 #include "tarns/data.h"
 #include "tarns/fft.h"
 #include "tarns/fir.h"
