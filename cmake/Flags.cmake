@@ -17,7 +17,8 @@ endif()
 
 # Results are defined to the bit: no target may contract a*b+c.
 add_library(tarns_flags INTERFACE)
-target_compile_options(tarns_flags INTERFACE -ffp-contract=off -Wall -Wextra $<$<COMPILE_LANGUAGE:CXX>:-Wconversion>)
+target_compile_options(tarns_flags INTERFACE -ffp-contract=off -Wall -Wextra $<$<COMPILE_LANGUAGE:CXX>:-Wconversion>
+    $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-sign-conversion>) # which only clang counts among them
 if(TARNS_WARNINGS_AS_ERRORS)
     target_compile_options(tarns_flags INTERFACE -Werror)
 endif()

@@ -1,0 +1,216 @@
+// The core: texts, memory, words of the floating-point units. What the processor tells of itself is asked for and not
+// digested.
+#include "interface/digest/special_calls.h"
+
+#include "support/fpstate.h"
+
+#include <tarns.h>
+
+#include <array>
+#include <cfenv>
+#include <cstdint>
+#include <functional>
+#include <map>
+
+namespace tarn::test::digest {
+namespace {
+
+using Calls = std::function<void(Hash&)>;
+
+Calls statusTexts(const char* (*function)(TarnStatus))
+{
+    return [=](Hash& hash) {
+        for (TarnStatus status = -300; status <= 100; ++status)
+            hash.add(function(status));
+    };
+}
+
+Calls ofNumbers(int (*function)(Tarn64f))
+{
+    return [=](Hash& hash) {
+        for (const double x : hardValues<double>())
+            hash.add(static_cast<std::uint64_t>(function(x)));
+    };
+}
+
+Calls ofWords(unsigned (*function)(unsigned))
+{
+    return [=](Hash& hash) {
+        Random random(1);
+        for (int i = 0; i < 1000; ++i)
+            hash.add(function(static_cast<unsigned>(random.next())));
+    };
+}
+
+Calls refusals(TarnStatus (*function)(int))
+{
+    return [=](Hash& hash) { hash.add(static_cast<std::uint64_t>(function(1))); };
+}
+
+Calls refusals(TarnStatus (*function)(int, void*))
+{
+    return [=](Hash& hash) { hash.add(static_cast<std::uint64_t>(function(1, nullptr))); };
+}
+
+/// The environment that programs start with, before and after.
+template <class F>
+void inDefaultEnvironment(Hash& hash, F f)
+{
+    std::fenv_t outside;
+    std::fegetenv(&outside);
+    std::fesetenv(FE_DFL_ENV);
+    const std::uint64_t result = f();
+    const std::array<std::uint64_t, 3> words = {result, readX87Control(), readMxcsr()};
+    std::fesetenv(&outside);
+    for (const std::uint64_t word : words)
+        hash.add(word);
+}
+
+Calls wordRead(unsigned (*function)())
+{
+    return [=](Hash& hash) { inDefaultEnvironment(hash, function); };
+}
+
+/// Any rounding and precision; exceptions stay masked.
+struct Fields {
+    unsigned always;
+    unsigned sometimes;
+};
+constexpr Fields x87 = {0x7F, 0xF00};
+constexpr Fields symbolic = {0x8001F, 0x70300};
+constexpr Fields mxcsr = {0x1F80, 0xE03F};
+
+Calls wordSet(unsigned (*function)(unsigned, unsigned), Fields fields)
+{
+    return [=](Hash& hash) {
+        Random random(2);
+        for (int i = 0; i < 200; ++i) {
+            const unsigned value = fields.always | (static_cast<unsigned>(random.next()) & fields.sometimes);
+            const unsigned mask = static_cast<unsigned>(random.next()) & (fields.always | fields.sometimes);
+            inDefaultEnvironment(hash, [&] { return function(value, mask); });
+        }
+    };
+}
+
+template <class R>
+Calls wordLoaded(R (*function)(unsigned), Fields fields)
+{
+    return [=](Hash& hash) {
+        Random random(3);
+        for (int i = 0; i < 50; ++i) {
+            const unsigned value = fields.always | (static_cast<unsigned>(random.next()) & fields.sometimes);
+            inDefaultEnvironment(hash, [&]() -> std::uint64_t {
+                if constexpr (std::is_void_v<R>) {
+                    function(value);
+                    return 0;
+                } else {
+                    return function(value);
+                }
+            });
+        }
+    };
+}
+
+template <class R, class... A>
+Calls machineDependent(R (*function)(A...))
+{
+    return [=](Hash&) { function(A{}...); };
+}
+
+template <class T>
+Calls memory(T* (*function)(int))
+{
+    return [=](Hash& hash) {
+        for (const int len : {1, 2, 3, 100, 5000}) {
+            T* block = function(len);
+            hash.add(reinterpret_cast<std::uintptr_t>(block) % 32);
+            hash.add(block != nullptr);
+            std::fill_n(block, len, T{});
+            tarnsFree(block);
+        }
+        hash.add(function(0) == nullptr);
+        hash.add(function(-1) == nullptr);
+    };
+}
+
+const std::map<std::string, Calls>& specialCalls()
+{
+    static const std::map<std::string, Calls> calls = {
+        {"tarnGetStatusString", statusTexts(tarnGetStatusString)},
+        {"tarnCoreGetStatusString", statusTexts(tarnCoreGetStatusString)},
+        {"tarnsGetLibVersion", [](Hash& hash) { hash.add(tarnsGetLibVersion()->version); }},
+        {"tarnGetCpuType", machineDependent(tarnGetCpuType)},
+        {"tarnCoreGetCpuType", machineDependent(tarnCoreGetCpuType)},
+        {"tarnGetCpuClocks", machineDependent(tarnGetCpuClocks)},
+        {"tarnCoreGetCpuClocks", machineDependent(tarnCoreGetCpuClocks)},
+        {"tarn_get_cpu_counter", machineDependent(tarn_get_cpu_counter)},
+        {"tarn_has_cpuid", machineDependent(tarn_has_cpuid)},
+        {"tarn_max_cpuid_input", machineDependent(tarn_max_cpuid_input)},
+        {"tarn_is_AuthenticCPU", machineDependent(tarn_is_AuthenticCPU)},
+        {"tarn_has_rdtsc", machineDependent(tarn_has_rdtsc)},
+        {"tarn_is_mmx_extension", machineDependent(tarn_is_mmx_extension)},
+        {"tarn_is_ssx_extension", machineDependent(tarn_is_ssx_extension)},
+        {"tarn_is_sse2_extension", machineDependent(tarn_is_sse2_extension)},
+        {"tarn_is_htt_extension", machineDependent(tarn_is_htt_extension)},
+        {"tarn_is_sse3_extension", machineDependent(tarn_is_sse3_extension)},
+        {"tarn_tst_daz_ssx", machineDependent(tarn_tst_daz_ssx)},
+        {"tarn_get_cpu_ident",
+         [](Hash&) {
+             TarnCpuIdent ident;
+             tarn_get_cpu_ident(&ident);
+         }},
+        {"tarnSetFlushToZero", refusals(tarnSetFlushToZero)},
+        {"tarnCoreSetFlushToZero", refusals(tarnCoreSetFlushToZero)},
+        {"tarnSetDenormAreZeros", refusals(tarnSetDenormAreZeros)},
+        {"tarnCoreSetDenormAreZeros", refusals(tarnCoreSetDenormAreZeros)},
+        {"bit2symbol", ofWords(bit2symbol)},
+        {"symbol2bit", ofWords(symbol2bit)},
+        {"sw_bit2symbol", ofWords(sw_bit2symbol)},
+        {"tarn_control87", wordSet(tarn_control87, symbolic)},
+        {"tarn_status87", wordRead(tarn_status87)},
+        {"tarn_clear87", wordRead(tarn_clear87)},
+        {"ps_set_cw_fpu", wordSet(ps_set_cw_fpu, x87)},
+        {"ps_set_ssx", wordSet(ps_set_ssx, mxcsr)},
+        {"ps_get_cw_fpu", wordRead(ps_get_cw_fpu)},
+        {"ps_get_sw_fpu", wordRead(ps_get_sw_fpu)},
+        {"ps_get_ssx", wordRead(ps_get_ssx)},
+        {"ps_clear_fpu", wordRead(ps_clear_fpu)},
+        {"tarn_clear_ssx", wordRead(tarn_clear_ssx)},
+        {"tarn_set_rcpc_fpu", wordSet(tarn_set_rcpc_fpu, x87)},
+        {"tarn_set_rc_ssx", wordLoaded(tarn_set_rc_ssx, mxcsr)},
+        {"tarn_set_cw_fpu", wordLoaded(tarn_set_cw_fpu, x87)},
+        {"tarn_set_cw_ssx", wordLoaded(tarn_set_cw_ssx, mxcsr)},
+        {"tarn_isnan", ofNumbers(tarn_isnan)},
+        {"tarn_finite", ofNumbers(tarn_finite)},
+        {"tarnsMalloc_8u", memory(tarnsMalloc_8u)},
+        {"tarnsMalloc_8s", memory(tarnsMalloc_8s)},
+        {"tarnsMalloc_16u", memory(tarnsMalloc_16u)},
+        {"tarnsMalloc_16s", memory(tarnsMalloc_16s)},
+        {"tarnsMalloc_32u", memory(tarnsMalloc_32u)},
+        {"tarnsMalloc_32s", memory(tarnsMalloc_32s)},
+        {"tarnsMalloc_64s", memory(tarnsMalloc_64s)},
+        {"tarnsMalloc_32f", memory(tarnsMalloc_32f)},
+        {"tarnsMalloc_64f", memory(tarnsMalloc_64f)},
+        {"tarnsMalloc_8sc", memory(tarnsMalloc_8sc)},
+        {"tarnsMalloc_16sc", memory(tarnsMalloc_16sc)},
+        {"tarnsMalloc_32sc", memory(tarnsMalloc_32sc)},
+        {"tarnsMalloc_64sc", memory(tarnsMalloc_64sc)},
+        {"tarnsMalloc_32fc", memory(tarnsMalloc_32fc)},
+        {"tarnsMalloc_64fc", memory(tarnsMalloc_64fc)},
+        {"tarnsFree", [](Hash&) { tarnsFree(tarnsMalloc_8u(100)); }},
+    };
+    return calls;
+}
+
+} // namespace
+
+bool callSpecially(const std::string& name, Hash& hash)
+{
+    const auto found = specialCalls().find(name);
+    if (found == specialCalls().end())
+        return false;
+    found->second(hash);
+    return true;
+}
+
+} // namespace tarn::test::digest
