@@ -11,12 +11,22 @@ namespace {
 // Most of this family treats an array as bytes, or as integers of the elements' width.
 
 template <typename T>
-TarnStatus copyElements(void (*kernel)(const Tarn8u*, Tarn8u*, int), const T* pSrc, T* pDst, int len)
+TarnStatus copyElements(const T* pSrc, T* pDst, int len)
 {
     if (const TarnStatus status = check(len, pSrc, pDst)) {
         return status;
     }
-    kernel(reinterpret_cast<const Tarn8u*>(pSrc), reinterpret_cast<Tarn8u*>(pDst), wrappedProduct(len, sizeof(T)));
+    tarn::copy(pSrc, pDst, len);
+    return tarnStsNoErr;
+}
+
+template <typename T>
+TarnStatus moveElements(const T* pSrc, T* pDst, int len)
+{
+    if (const TarnStatus status = check(len, pSrc, pDst)) {
+        return status;
+    }
+    tarn::move(pSrc, pDst, len);
     return tarnStsNoErr;
 }
 
@@ -71,11 +81,11 @@ TarnStatus runInPlace(void (*kernel)(T*, int), T* pSrcDst, int len)
 #define TARN_BYTE_FRONT_ENDS(TAG)                                               \
     TarnStatus tarnsCopy_##TAG(const Tarn##TAG* pSrc, Tarn##TAG* pDst, int len) \
     {                                                                           \
-        return copyElements(ownsCopy_8u, pSrc, pDst, len);                      \
+        return copyElements(pSrc, pDst, len);                                   \
     }                                                                           \
     TarnStatus tarnsMove_##TAG(const Tarn##TAG* pSrc, Tarn##TAG* pDst, int len) \
     {                                                                           \
-        return copyElements(ownsMove_8u_W7, pSrc, pDst, len);                   \
+        return moveElements(pSrc, pDst, len);                                   \
     }                                                                           \
     TarnStatus tarnsZero_##TAG(Tarn##TAG* pDst, int len) { return zeroElements(pDst, len); }
 

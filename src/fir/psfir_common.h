@@ -1,9 +1,9 @@
 // What FIR states of all kinds share: checks, the delay line as a caller sees it, freeing.
 #pragma once
 
+#include "frame/bytes.h"
 #include "frame/checks.h"
 #include "frame/object.h"
-#include "levels/data/pscopyca.h"
 #include "levels/fir/psfir.h"
 
 namespace tarn {
@@ -63,22 +63,20 @@ inline void reverseConverted(const S* src, D* dst, int len)
 template <typename T>
 inline void zeroElements(T* dst, int len)
 {
-    ownsZero_8u(reinterpret_cast<Tarn8u*>(dst), len * static_cast<int>(sizeof(T)));
+    zeroFill(dst, len);
 }
 
 template <typename T>
 inline void copyElements(const T* src, T* dst, int len)
 {
-    ownsCopy_8u(reinterpret_cast<const Tarn8u*>(src), reinterpret_cast<Tarn8u*>(dst),
-                len * static_cast<int>(sizeof(T)));
+    tarn::copy(src, dst, len);
 }
 
 // Where source and destination may overlap.
 template <typename T>
 inline void moveElements(const T* src, T* dst, int len)
 {
-    ownsMove_8u_W7(reinterpret_cast<const Tarn8u*>(src), reinterpret_cast<Tarn8u*>(dst),
-                   len * static_cast<int>(sizeof(T)));
+    tarn::move(src, dst, len);
 }
 
 // -- The delay line: a caller's is newest first, a state's oldest first

@@ -1,23 +1,11 @@
 // What the front ends of element-wise families share: each is checks, shortcuts, kernel, status.
 #pragma once
 
+#include "frame/bytes.h"
 #include "frame/checks.h"
 #include "frame/scale.h"
-#include "levels/data/pscopyca.h"
 
 namespace tarn {
-
-template <typename T>
-inline void zeroFill(T* pDst, int len)
-{
-    ownsZero_8u(reinterpret_cast<Tarn8u*>(pDst), wrappedProduct(len, sizeof(T)));
-}
-
-template <typename T>
-inline void copy(const T* pSrc, T* pDst, int len)
-{
-    ownsCopy_8u(reinterpret_cast<const Tarn8u*>(pSrc), reinterpret_cast<Tarn8u*>(pDst), wrappedProduct(len, sizeof(T)));
-}
 
 // An ordered test: a NaN counts as equal to the value.
 template <typename T>

@@ -3,6 +3,8 @@
 
 #include "frame/kernels.h"
 
+#include <cstddef>
+
 TARN_KERNEL void ownsCopy_8u(const Tarn8u* pSrc, Tarn8u* pDst, int len);
 TARN_KERNEL void ownsMove_8u_W7(const Tarn8u* pSrc, Tarn8u* pDst, int len);
 TARN_KERNEL void ownsZero_8u(Tarn8u* pDst, int len);
@@ -28,3 +30,13 @@ TARN_KERNEL void ownsSwapBytes_24u(const Tarn8u* pSrc, Tarn8u* pDst, int len);
 TARN_KERNEL void ownsSwapBytes_24u_I(Tarn8u* pSrcDst, int len);
 TARN_KERNEL void ownsSwapBytes_32u(const Tarn32u* pSrc, Tarn32u* pDst, int len);
 TARN_KERNEL void ownsSwapBytes_32u_I(Tarn32u* pSrcDst, int len);
+
+namespace tarn {
+
+// Arrays of any size in bytes, by the byte kernels. Front ends come here: an element's width times a length may be more
+// than a kernel's length holds.
+void copyBytes(const Tarn8u* src, Tarn8u* dst, std::size_t bytes);
+void moveBytes(const Tarn8u* src, Tarn8u* dst, std::size_t bytes);
+void zeroBytes(Tarn8u* dst, std::size_t bytes);
+
+} // namespace tarn

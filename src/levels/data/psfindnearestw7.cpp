@@ -53,7 +53,7 @@ public:
     static constexpr int leastLength = wordsSearched + 1;
 
     IndexedTable(const Tarn16u* pTable, int tblLen)
-        : Table(pTable, tblLen), stride((tblLen + wordsSearched) / (wordsSearched + 1))
+        : Table(pTable, tblLen), stride((tblLen - 1) / (wordsSearched + 1) + 1)
     {
         for (int k = 0; k < wordsSearched; ++k) {
             index[k] = loadElement(p + std::min((k + 1) * stride, last));

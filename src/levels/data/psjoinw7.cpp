@@ -78,7 +78,7 @@ void joinGroup(Channels pSrc, int nChannels, Tarn16s* pDst, int i)
 {
     const auto words = weave(loadWords<step>(pSrc, step, i));
     for (int k = 0; k < step; ++k) {
-        store(pDst + std::ptrdiff_t{i + k} * nChannels, words[static_cast<std::size_t>(k)]);
+        store(pDst + (std::ptrdiff_t{i} + k) * nChannels, words[static_cast<std::size_t>(k)]);
     }
 }
 
@@ -120,8 +120,8 @@ int ownsJoin_32f16s_MoreC7_W7(Channels pSrc, int nChannels, Tarn16s* pDst, int c
     }
     int i = 0;
     for (; i <= chanLen - step; i += step) {
-        for (int c = 0; c < nChannels; c += step) {
-            const int group = std::min(c, nChannels - step);
+        for (std::ptrdiff_t c = 0; c < nChannels; c += step) {
+            const auto group = std::min<std::ptrdiff_t>(c, nChannels - step);
             joinGroup(pSrc + group, nChannels, pDst + group, i);
         }
     }

@@ -93,7 +93,7 @@ void spreadByTwo(const T* pSrc, int srcLen, T* pDst, int phase)
             spreadAll([](auto x) { return spreadOdd(x); });
         }
     }
-    spreadElements(pSrc + i, srcLen - i, pDst + std::ptrdiff_t{2} * i, 2, phase);
+    spread(pSrc + i, srcLen - i, pDst + std::ptrdiff_t{2} * i, 2, phase);
 }
 
 } // namespace

@@ -159,7 +159,9 @@ void siftDown(Elements<T> a, int first, int root, int count, Before before)
 {
     const auto held = hold(a.p + first + root);
     const T x = valueOf<T>(held);
-    for (int child = 2 * root + 1; child < count; child = 2 * root + 1) {
+    // Only a place in the first half has elements below it, and only then does an int hold where they are.
+    while (root < count / 2) {
+        int child = 2 * root + 1;
         if (child + 1 < count && before(a[first + child], a[first + child + 1])) {
             ++child;
         }

@@ -162,8 +162,8 @@ template <typename T, typename S>
 void filterConverted(const Part<T>* table, const S* src, T* dst, int len, int tapsLen)
 {
     alignas(vectorBytes) T samples[convertedOutputs + convertedTaps - 1];
-    for (int i = 0; i < len; i += convertedOutputs) {
-        const int outputs = std::min(convertedOutputs, len - i);
+    for (std::ptrdiff_t i = 0; i < len; i += convertedOutputs) {
+        const int outputs = static_cast<int>(std::min<std::ptrdiff_t>(convertedOutputs, len - i));
         for (int j = 0; j < tapsLen; j += convertedTaps) {
             const int taps = std::min(convertedTaps, tapsLen - j);
             const Part<T>* const lastTaps = table + TapLayout<T>::width * (tapsLen - j - taps);

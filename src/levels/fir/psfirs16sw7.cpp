@@ -1,8 +1,8 @@
 // Kernels of FIR filters with 16-bit taps and samples: sums modulo 2^32, shifted and saturated.
+#include "frame/bytes.h"
 #include "frame/scale_exact.h"
 #include "frame/simd_fir.h"
 #include "frame/simd_round.h"
-#include "levels/data/pscopyca.h"
 #include "levels/fir/psfir.h"
 
 using namespace tarn;
@@ -199,8 +199,7 @@ void filterBlock(const Tarn16sc* src, Tarn16sc* dst, int len, const TarnsFIRStat
 template <typename S>
 void moveSamples(const S* src, S* dst, int len)
 {
-    ownsMove_8u_W7(reinterpret_cast<const Tarn8u*>(src), reinterpret_cast<Tarn8u*>(dst),
-                   len * static_cast<int>(sizeof(S)));
+    tarn::move(src, dst, len);
 }
 
 // The first outputs come from the delay buffer, until the window has left it; the others read the caller's samples.

@@ -101,9 +101,9 @@ void toneAccurate(T* dst, int len, Tone tone)
     const double c = 2 * std::cos(twoPi * tone.freq);
     const auto start = firstSamples<T, group>(tone, 0, c);
     auto y = recurrenceFrom<Pair>(start.data(), c * c - 2);
-    for (int n = 0; n < len; n += group) {
+    for (std::ptrdiff_t n = 0; n < len; n += group) {
         const auto lo = y.advance();
-        storeGroup(dst + n, len - n, join(lo, y.advance()), PutDoubles{});
+        storeGroup(dst + n, static_cast<int>(len - n), join(lo, y.advance()), PutDoubles{});
     }
 }
 
