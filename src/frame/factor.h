@@ -5,6 +5,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <limits>
 
 namespace tarn {
 
@@ -18,6 +19,15 @@ constexpr T twoToMinus(int s)
     } else {
         return std::bit_cast<Tarn64f>(static_cast<std::uint64_t>(1023 - s) << 52);
     }
+}
+
+// The same for any s: 0 beyond the lowest denormal, infinite beyond the highest number.
+constexpr Tarn64f twoToMinusAny(int s)
+{
+    if (s <= 1022) {
+        return s >= -1023 ? twoToMinus<Tarn64f>(s) : std::numeric_limits<Tarn64f>::infinity();
+    }
+    return s <= 1074 ? std::bit_cast<Tarn64f>(std::uint64_t{1} << (1074 - s)) : 0;
 }
 
 } // namespace tarn

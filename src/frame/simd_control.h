@@ -38,6 +38,8 @@ inline void writeX87Control(unsigned value)
 // Fields of the words.
 inline constexpr unsigned mxcsrRoundingField = 0x6000;
 inline constexpr unsigned mxcsrDenormalsAreZero = 0x0040;
+inline constexpr unsigned mxcsrMasks = 0x1f80;                        // of all exceptions
+inline constexpr unsigned mxcsrControls = 0xffc0;                     // all but the sticky flags
 inline constexpr unsigned x87RoundingField = mxcsrRoundingField >> 3; // with the same values
 
 } // namespace tarn

@@ -3,8 +3,8 @@
 
 #include "frame/kernels.h"
 
-// Four sines, four cosines of single-precision arguments; two of double-precision ones. Arguments in radians, up to
-// some 10^5 in magnitude; the error stays below one unit of the element's last place.
+// Four sines, four cosines of single-precision arguments; two of double-precision ones. Arguments in radians, of any
+// size; the error stays below 0.501 units of the element's last place.
 TARN_KERNEL void zplsSin4(const Tarn32f* x, Tarn32f* y);
 TARN_KERNEL void zplsCos4(const Tarn32f* x, Tarn32f* y);
 TARN_KERNEL void zpldSin2(const Tarn64f* x, Tarn64f* y);

@@ -2,6 +2,7 @@
 #include "tarns/windows.h"
 
 #include "frame/checks.h"
+#include "frame/precise.h"
 #include "frame/simd_signal.h"
 #include "levels/generators/pswin.h"
 
@@ -29,7 +30,7 @@ double cosineAt(int stride, int len)
 {
     const double turn = 2 * pi * stride;
     const double intervals = len - 1;
-    return std::cos(std::is_integral_v<Part<T>> ? 1 / intervals * turn : turn / intervals);
+    return preciseCosine(std::is_integral_v<Part<T>> ? 1 / intervals * turn : turn / intervals);
 }
 
 template <typename T>
@@ -120,7 +121,7 @@ TarnStatus blackmanOpt(const T* pSrc, T* pDst, int len)
     if (len <= shortestWindow) {
         return tarnStsSizeErr;
     }
-    const double root = 0.5 / std::cos(pi / (len - 1));
+    const double root = 0.5 / preciseCosine(pi / (len - 1));
     return blackman(pSrc, pDst, len, static_cast<LaneOf<T>>(-(root * root)));
 }
 
@@ -137,7 +138,7 @@ Tarn16s roundedAwayFromZero(double x)
 
 TarnStatus tarnsWinBlackmanQ15_16s_ISfs(Tarn16s* pSrcDst, int len, int alphaQ15, int scaleFactor)
 {
-    const double factor = std::pow(2.0, -static_cast<double>(scaleFactor));
+    const double factor = twoToMinusAny(scaleFactor);
     if (const TarnStatus status = checkWindow(len, pSrcDst)) {
         return status;
     }

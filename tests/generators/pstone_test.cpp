@@ -168,7 +168,7 @@ TEST(Tone, NoFrequencyIsAConstant)
         ASSERT_EQ(tarnStsNoErr, tarnsTone_Direct_32f(tone.data(), 3000, 7, 0, &phase, hint));
         EXPECT_EQ(2.5F, phase);
         for (const Tarn32f x : tone)
-            ASSERT_EQ(static_cast<Tarn32f>(7 * std::cos(2.5)), x);
+            ASSERT_EQ(static_cast<Tarn32f>(7 * model::cosine(2.5)), x);
     }
 }
 
@@ -298,7 +298,7 @@ Tarn16s toneQ15(int index, int magn, int rFreqQ15, int phaseQ15)
 {
     const double freq = std::ldexp(rFreqQ15, -15);
     const double phase = std::ldexp(phaseQ15, -15);
-    return model::halfAway16(magn * std::cos(2 * model::halfTurn * freq * index + phase));
+    return model::halfAway16(magn * model::cosine(2 * model::halfTurn * freq * index + phase));
 }
 
 struct StateRelease {

@@ -26,6 +26,10 @@ using Real = typename PartsOf<T>::Real;
 template <class T>
 using Lane = std::conditional_t<std::is_same_v<Real<T>, double>, double, float>;
 
+/// In extended precision and rounded once, so that no library's last bits show.
+inline double cosine(double x) { return static_cast<double>(std::cos(static_cast<long double>(x))); }
+inline double sine(double x) { return static_cast<double>(std::sin(static_cast<long double>(x))); }
+
 inline constexpr double halfTurn = 3.14159265358979323846;
 
 /// What a call leaves in the phase, before it is rounded to the element's type.
@@ -48,7 +52,7 @@ inline Tarn16s halfAway16(double x)
 /// One part of a tone: `first` and `second` are its first two samples.
 inline std::vector<double> accurateChain(double first, double second, double freq, int len)
 {
-    const double c = 2 * std::cos(2 * halfTurn * freq);
+    const double c = 2 * cosine(2 * halfTurn * freq);
     const double d = c * c - 2;
     std::vector<double> y = {first, second};
     for (int n = 2; n < len; ++n) {
@@ -63,7 +67,7 @@ inline std::vector<double> accurateChain(double first, double second, double fre
 template <class Lane>
 std::vector<double> fastChain(double first, double second, double freq, int len, int stride)
 {
-    const double c = 2 * std::cos(2 * halfTurn * freq);
+    const double c = 2 * cosine(2 * halfTurn * freq);
     const double square = c * c;
     const double four = square * (square - 4) + 2;
     const Lane e = static_cast<Lane>(stride == 4 ? four : four * four - 2);
@@ -91,7 +95,7 @@ std::vector<double> toneSamples(int part, int len, double magn, double freq, dou
 {
     const auto at = [&](double n) {
         const double argument = 2 * halfTurn * freq * n + phase;
-        return magn * (part == 0 ? std::cos(argument) : std::sin(argument));
+        return magn * (part == 0 ? cosine(argument) : sine(argument));
     };
     if (!fast)
         return accurateChain(at(0), at(1), freq, len);

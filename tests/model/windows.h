@@ -50,13 +50,16 @@ Run runOf(Window window)
 
 inline constexpr double pi = 3.14159265358979323846;
 
+/// In extended precision and rounded once, so that no library's last bits show.
+inline double cosine(double x) { return static_cast<double>(std::cos(static_cast<long double>(x))); }
+
 /// cos(multiple 2 pi / (len - 1)), with the angle as the element type forms it.
 template <class T>
 double cosineOf(int multiple, int len)
 {
     if (std::is_integral_v<RealPart<T>>)
-        return std::cos((1.0 / (len - 1)) * (multiple * 2 * pi));
-    return std::cos((multiple * 2 * pi) / (len - 1));
+        return cosine((1.0 / (len - 1)) * (multiple * 2 * pi));
+    return cosine((multiple * 2 * pi) / (len - 1));
 }
 
 /// y[n] = first cos(n t): the first two steps in extended precision, the rest in that of the lanes.
@@ -217,7 +220,7 @@ std::vector<T> window(std::span<const T> src, Window kind, double alpha = 0)
 /// The alpha with the fastest decay of the side lobes.
 inline double optimalAlpha(int len)
 {
-    const double quotient = 0.5 / std::cos(pi / (len - 1));
+    const double quotient = 0.5 / cosine(pi / (len - 1));
     return -(quotient * quotient);
 }
 

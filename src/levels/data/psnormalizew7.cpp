@@ -1,6 +1,7 @@
 // Kernels of normalization: an offset taken away, then one product with the reciprocal of the divisor.
 #include "levels/data/psnormalize.h"
 
+#include "frame/factor.h"
 #include "frame/rounding.h"
 #include "frame/simd_mul.h"
 
@@ -69,7 +70,7 @@ void normalizeWords(const T* pSrc, T* pDst, int len, T vSub, int vDiv, int scale
     // stays 0.
     constexpr int farthest = 100;
     const NearestRounding rounding;
-    const Tarn64f factor = std::pow(2.0, -std::clamp(scaleFactor, -farthest, farthest));
+    const Tarn64f factor = twoToMinus<Tarn64f>(std::clamp(scaleFactor, -farthest, farthest));
     walk(pDst, len, NormalizedWords<T>{vSub, factor / vDiv}, pSrc);
 }
 

@@ -7,7 +7,7 @@
 #include "frame/walk.h"
 #include "levels/fft/psfft_butterflies.h"
 
-#include <cmath>
+#include <algorithm>
 #include <numbers>
 
 namespace tarn::fft {
@@ -33,41 +33,17 @@ private:
     int reversed = 0;
 };
 
-// Sines (or cosines) of two arguments, rounded to the element type: the single-precision tables are made in double
-// precision too, so that no rounding of an argument shows in them.
-template <bool sine, typename T>
-inline void twoValues(Tarn64f first, Tarn64f second, T* to)
-{
-    const Tarn64f arguments[] = {first, second};
-    Tarn64f values[2];
-    (sine ? zpldSin2 : zpldCos2)(arguments, values);
-    to[0] = static_cast<T>(values[0]);
-    to[1] = static_cast<T>(values[1]);
-}
-
-// table[i] = sin(argument(i)) or cos(argument(i)) for i from `first` to `last`. A short run and the two ends of a long
-// one go through the mathematics library.
+// table[i] = sin(argument(i)) or cos(argument(i)) for i from `first` to `last`, rounded to the element type: the
+// single-precision tables are made in double precision too, so that no rounding of an argument shows in them.
 template <bool sine, typename T, typename Argument>
 inline void fillRun(T* table, int first, int last, Argument argument)
 {
-    constexpr int shortRun = 7;
-    int i = first;
-    const auto one = [&] {
-        const Tarn64f x = argument(i);
-        table[i++] = static_cast<T>(sine ? std::sin(x) : std::cos(x));
-    };
-    if (last - first + 1 >= shortRun) {
-        while (!isOnBoundary(table + i)) {
-            one();
-        }
-        for (; i + lanes<T> - 1 <= last; i += lanes<T>) {
-            for (int k = 0; k < lanes<T>; k += 2) {
-                twoValues<sine>(argument(i + k), argument(i + k + 1), table + i + k);
-            }
-        }
-    }
-    while (i <= last) {
-        one();
+    for (int i = first; i <= last; i += 2) {
+        const Tarn64f arguments[] = {argument(i), argument(std::min(i + 1, last))};
+        Tarn64f values[2];
+        (sine ? zpldSin2 : zpldCos2)(arguments, values);
+        table[i] = static_cast<T>(values[0]);
+        table[std::min(i + 1, last)] = static_cast<T>(values[i < last ? 1 : 0]);
     }
 }
 

@@ -2,6 +2,7 @@
 #include "levels/fir/psfirdesign.h"
 
 #include "frame/phase.h"
+#include "frame/precise.h"
 
 namespace tarn {
 
@@ -40,7 +41,7 @@ double gainAt(double freq, const Tarn64f* taps, int half, double centre, double 
 {
     double sum = 0;
     for (int k = 0; k < half; ++k) {
-        sum += loadElement(taps + half - 1 - k) * std::cos(twoPi * freq * (firstDistance + k));
+        sum += loadElement(taps + half - 1 - k) * preciseCosine(twoPi * freq * (firstDistance + k));
     }
     return 2 * sum + centre;
 }

@@ -2,6 +2,7 @@
 #include "levels/generators/pstone.h"
 
 #include "frame/phase.h"
+#include "frame/precise.h"
 #include "frame/recurrence.h"
 
 namespace tarn {
@@ -62,9 +63,9 @@ std::array<Tarn64f, count * parts<T>> firstSamples(const Tone& tone, double firs
     const double angle = twoPi * tone.freq;
     for (std::size_t n = 0; n < 2; ++n) {
         const double argument = angle * (first + static_cast<double>(n)) + tone.phase;
-        y[n * parts<T>] = tone.magn * std::cos(argument);
+        y[n * parts<T>] = tone.magn * preciseCosine(argument);
         if constexpr (isComplex<T>) {
-            y[n * 2 + 1] = tone.magn * std::sin(argument);
+            y[n * 2 + 1] = tone.magn * preciseSine(argument);
         }
     }
     for (std::size_t i = 2 * parts<T>; i < y.size(); ++i) {
@@ -98,7 +99,7 @@ void toneAccurate(T* dst, int len, Tone tone)
 {
     constexpr int group = 4;
     using Pair = Pack<Tarn64f, 2 * parts<T>>;
-    const double c = 2 * std::cos(twoPi * tone.freq);
+    const double c = 2 * preciseCosine(twoPi * tone.freq);
     const auto start = firstSamples<T, group>(tone, 0, c);
     auto y = recurrenceFrom<Pair>(start.data(), c * c - 2);
     for (std::ptrdiff_t n = 0; n < len; n += group) {
@@ -112,7 +113,7 @@ void toneFast(T* dst, int len, Tone tone)
 {
     using Road = FastRoad<T>;
     constexpr int group = Road::stride;
-    const double c = 2 * std::cos(twoPi * tone.freq);
+    const double c = 2 * preciseCosine(twoPi * tone.freq);
     const auto factor = Road::factor(c);
     for (int first = 0; first < len; first += std::min(Road::block, len - first)) {
         T* const block = dst + first;
@@ -144,7 +145,7 @@ void toneQ15(Tarn16s* dst, int len, Tone tone, int firstIndex)
     const double angle = twoPi * tone.freq;
     for (int i = 0; i < len; ++i) {
         const double index = AddInteger::of(firstIndex, i);
-        store(dst + i, roundedHalfAway(tone.magn * std::cos(angle * index + tone.phase)));
+        store(dst + i, roundedHalfAway(tone.magn * preciseCosine(angle * index + tone.phase)));
     }
 }
 
