@@ -4,11 +4,11 @@
 #include "fir/psfir_common.h"
 #include "fir/psfir_memory.h"
 #include "fir/psfir_transform.h"
-#include "frame/simd_control.h"
+#include "frame/threads.h"
 #include "levels/fir/psfir_block.h"
 #include "tarns/convert.h"
 
-#include <omp.h>
+#include <bit>
 
 namespace tarn {
 
@@ -53,40 +53,24 @@ inline void outputsToSamples(const T* src, S* dst, int len, int scaleFactor)
 // -- Threads
 // -----------------------------------------------------------------------------------------------------------
 
-// Calls of more samples than this are shared out.
+// Calls of at most so many samples are never shared out.
 template <typename T>
 inline constexpr int longestOnOneThread = isComplex<T> ? 800 : 1600;
 
-// A region of one thread would still cost the runtime's calls into the kernel.
+// Nanoseconds of one thread for the product of a sample and a tap, and for an element of a transform and each of its
+// stages, both directions taken together.
 template <typename T>
-inline bool isShared(int len)
-{
-    return len > longestOnOneThread<T> && omp_get_max_threads() > 1;
-}
-
-// Lends a thread of a parallel region the control word of the thread that made the call: rounding mode and treatment of
-// denormals are the caller's, whichever thread computes an output.
-class CallersControl {
-public:
-    explicit CallersControl(unsigned callers) : own(readMxcsr()), lent(own != callers)
-    {
-        if (lent) {
-            writeMxcsr(callers);
-        }
-    }
-    ~CallersControl()
-    {
-        if (lent) {
-            writeMxcsr(own);
-        }
-    }
-    CallersControl(const CallersControl&) = delete;
-    CallersControl& operator=(const CallersControl&) = delete;
-
-private:
-    const unsigned own;
-    const bool lent;
-};
+inline constexpr double costOfProduct = isComplex<T> ? 3 * costOfProduct<Part<T>> : 0;
+template <>
+inline constexpr double costOfProduct<Tarn32f> = 0.08;
+template <>
+inline constexpr double costOfProduct<Tarn64f> = 0.16;
+template <typename T>
+inline constexpr double costOfStage = isComplex<T> ? 1.7 * costOfStage<Part<T>> : 0;
+template <>
+inline constexpr double costOfStage<Tarn32f> = 0.3;
+template <>
+inline constexpr double costOfStage<Tarn64f> = 0.5;
 
 // -- The direct road
 // ---------------------------------------------------------------------------------------------------
@@ -131,29 +115,21 @@ inline void filterStretch(const State* state, const X* src, typename State::Samp
 // Each thread gets some of the scratch area, of which there is no more.
 inline constexpr int mostThreadsOfStretch = 64;
 
-// Equal shares for all threads, and the rest for the last one.
+// Outputs that are not cut between threads: some cache lines.
+inline constexpr int outputsTogether = 64;
+
+// Loading samples, converting and storing outputs is taken for so many products more.
+inline constexpr int productsOfTraffic = 4;
+
 template <typename State>
-inline void filterStretchInParallel(const State* state, const typename State::Sample* src, typename State::Sample* dst,
-                                    int len, OutputScratch<typename State::Tap> scratch, int scaleFactor)
+inline void filterStretchInShares(const State* state, const typename State::Sample* src, typename State::Sample* dst,
+                                  int len, OutputScratch<typename State::Tap> scratch, int scaleFactor)
 {
-    const unsigned control = readMxcsr();
-    const int mostThreads = std::min(omp_get_max_threads(), mostThreadsOfStretch);
-    int threads = 1;
-    int share = len;
-#pragma omp parallel num_threads(mostThreads)
-    {
-#pragma omp master
-        {
-            threads = omp_get_num_threads();
-            share = len / threads;
-        }
-#pragma omp barrier
-        const CallersControl lent(control);
-        const int thread = omp_get_thread_num();
-        const int first = share * thread;
-        const int count = thread == threads - 1 ? len - first : share;
-        filterStretch(state, src + first, dst + first, count, scratch.share(thread, threads), scaleFactor);
-    }
+    const double cost = costOfProduct<typename State::Tap> * len * (state->tapsLen + productsOfTraffic);
+    const int threads = threadsWorth(cost, mostThreadsOfStretch);
+    shareOut(len, outputsTogether, cost, threads, [=](int begin, int end, int thread) {
+        filterStretch(state, src + begin, dst + begin, end - begin, scratch.share(thread, threads), scaleFactor);
+    });
 }
 
 // The first outputs come from the delay buffer, until the window has left it; the others read the caller's samples. By
@@ -178,8 +154,8 @@ inline void filterDirect(const typename State::Sample* src, typename State::Samp
     filterStretch(state, window + 1, dst, head, scratch, scaleFactor);
     samplesToTaps(src + len - tapsLen, state->pDlyLine, tapsLen);
     const auto* const bulk = src + head - tapsLen + 1;
-    if (isShared<T>(len)) {
-        filterStretchInParallel(state, bulk, dst + head, len - head, scratch, scaleFactor);
+    if (len > longestOnOneThread<T>) {
+        filterStretchInShares(state, bulk, dst + head, len - head, scratch, scaleFactor);
     } else {
         filterStretch(state, bulk, dst + head, len - head, scratch, scaleFactor);
     }
@@ -254,47 +230,31 @@ private:
         return status;
     }
 
-    // The result is the worst status of any thread.
+    // The result is the worst status of any thread. Every stretch is of neighbouring blocks: where the outputs of two
+    // threads meet they take cache lines from each other, and so do their prefetches.
     TarnStatus filterInShares() const
     {
-        const int mostThreads = std::min(omp_get_max_threads(), state->threads);
-        int threads = 1;
-        if (mostThreads == 1) {
-            filterShare(0, 1);
-        } else {
-            const unsigned control = readMxcsr();
-#pragma omp parallel num_threads(mostThreads)
-            {
-#pragma omp master
-                threads = omp_get_num_threads();
-#pragma omp barrier
-                const CallersControl lent(control);
-                filterShare(omp_get_thread_num(), threads);
-            }
-        }
-        return static_cast<TarnStatus>(*std::min_element(state->pThreadStatus, state->pThreadStatus + threads));
+        const int blocks = blockCount();
+        const double cost = costOfStage<T> * blocks * state->fftLen * std::bit_width(unsigned(state->fftLen));
+        const int threads = threadsWorth(cost, state->threads);
+        Tarn32s* const statuses = state->pThreadStatus;
+        std::fill_n(statuses, threads, tarnStsNoErr);
+        shareOut(blocks, 1, cost, threads, [&](int begin, int end, int thread) {
+            statuses[thread] =
+                std::min<Tarn32s>(statuses[thread], filterBlocks(begin, end, buffersOf<T>(state, thread)));
+        });
+        return static_cast<TarnStatus>(*std::min_element(statuses, statuses + threads));
     }
 
-    // Every thread takes a run of neighbouring blocks: where the outputs of two threads meet they take cache lines from
-    // each other, and so do their prefetches. For the same reason a thread keeps its status to itself until the end.
-    void filterShare(int thread, int threads) const
+    // No failure ends it: the others could not be told.
+    TarnStatus filterBlocks(int begin, int end, BlockBuffers<T> own) const
     {
-        const BlockBuffers<T> own = buffersOf<T>(state, thread);
-        const int blocks = blockCount();
-        const int end = shareBegin(blocks, thread + 1, threads);
         TarnStatus worst = tarnStsNoErr;
-        for (int b = shareBegin(blocks, thread, threads); b < end; ++b) {
+        for (int b = begin; b < end; ++b) {
             worst = std::min(worst, b == 0 ? filterFirst<Failure::isKept>(own)
                                            : filterLater<Failure::isKept>(useful * b, own));
         }
-        state->pThreadStatus[thread] = worst;
-    }
-
-    // The first of a thread's blocks, or the one behind the last of the thread before. The first thread, whose buffer
-    // has the delay line, is never without a block.
-    static int shareBegin(int blocks, int thread, int threads)
-    {
-        return static_cast<int>((static_cast<long long>(blocks) * thread + threads - 1) / threads);
+        return worst;
     }
 
     // All samples fit one block, which is also where the next call's delay line is found.

@@ -5,8 +5,6 @@
 #include "fir/psfir_memory.h"
 #include "fir/psfir_names.h"
 
-#include <omp.h>
-
 #include <cmath>
 
 using namespace tarn;
