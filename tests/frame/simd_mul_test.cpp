@@ -11,6 +11,14 @@
 namespace tarn::test {
 namespace {
 
+TEST(Factor, PowersOfTwoOfEveryExponent)
+{
+    for (int s = -1100; s <= 1200; ++s)
+        ASSERT_EQ(std::ldexp(1.0, -s), twoToMinusAny(s)) << s;
+    EXPECT_EQ(0, twoToMinusAny(std::numeric_limits<int>::max()));
+    EXPECT_EQ(std::numeric_limits<double>::infinity(), twoToMinusAny(std::numeric_limits<int>::min()));
+}
+
 TEST(SimdMul, ExactProducts)
 {
     expectAgreement<Tarn8u, Tarn8u>(mulWidened);

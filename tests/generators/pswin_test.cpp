@@ -6,6 +6,7 @@
 #include "support/fpstate.h"
 #include "support/sweep.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -180,6 +181,27 @@ TEST(Windows, ScaledBlackmanRoundsTheMiddleByLength)
     Tarn16s huge[] = {0, 0, 20000, 0, 0};
     ASSERT_EQ(tarnStsNoErr, tarnsWinBlackmanQ15_16s_ISfs(huge, 5, 0, -100));
     EXPECT_EQ(32767, huge[2]);
+}
+
+// A power of two is exact in every rounding mode: one that is off in its last place would move an element that is whole
+// after scaling to its neighbour.
+TEST(Windows, ScalesByTheSamePowerInEveryRoundingMode)
+{
+    for (const RoundingMode mode : allRoundingModes)
+        for (int s = -15; s <= 15; ++s)
+            for (const int whole : {1, -1, 3, -3}) {
+                const int x = s < 0 ? whole : std::clamp(whole << s, -32768, 32767) >> s << s;
+                const double scaled = std::clamp(std::ldexp(x, -s), -32768.0, 32767.0);
+                Tarn16s three[] = {9, static_cast<Tarn16s>(x), 9};
+                Tarn16s five[] = {0, 0, static_cast<Tarn16s>(x), 0, 0};
+                {
+                    const RoundingModeScope scope(mode);
+                    ASSERT_EQ(tarnStsNoErr, tarnsWinBlackmanQ15_16s_ISfs(three, 3, -5243, s));
+                    ASSERT_EQ(tarnStsNoErr, tarnsWinBlackmanQ15_16s_ISfs(five, 5, -5243, s));
+                }
+                EXPECT_EQ(scaled, three[1]) << x << " by 2^-" << s;
+                EXPECT_EQ(scaled, five[2]) << x << " by 2^-" << s << " in mode " << static_cast<unsigned>(mode);
+            }
 }
 
 template <class T>

@@ -1,11 +1,10 @@
 // Kernels of dot products in floating point: of floats, and of 32-bit integers in double precision.
 #include "levels/statistics/psdotprod.h"
 
+#include "frame/factor.h"
 #include "frame/reduce.h"
 #include "frame/rounding.h"
 #include "frame/simd_mul.h"
-
-#include <cmath>
 
 using namespace tarn;
 
@@ -196,7 +195,7 @@ constexpr int highestFactor = 93;
 
 TARN_INLINE Tarn32s scaled(Tarn64f total, int scaleFactor)
 {
-    const Tarn64f x = total * std::ldexp(1.0, -std::clamp(scaleFactor, lowestFactor, highestFactor));
+    const Tarn64f x = total * twoToMinus<Tarn64f>(std::clamp(scaleFactor, lowestFactor, highestFactor));
     return x > highest<Tarn32s> ? highest<Tarn32s> : x < lowest<Tarn32s> ? lowest<Tarn32s> : roundDouble(x);
 }
 TARN_INLINE Tarn32sc scaled(Tarn64fc total, int scaleFactor)
