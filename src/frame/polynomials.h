@@ -1,5 +1,5 @@
-// Coefficients of the vector approximations, the constant first; made by scripts/polynomials: not to be edited by
-// hand. The largest error of a fit, relative to the function, stands beside it.
+// Coefficients of the vector approximations, the constant first, and what arguments are reduced by: made by
+// scripts/polynomials, not to be edited by hand. A fit's largest error, relative to the function, stands beside it.
 #pragma once
 
 #include "tarncore.h"
@@ -41,25 +41,20 @@ inline constexpr Tarn64f areaTangentCoefficients<Tarn64f>[] = { // within 2^-59.
     0x1.74663c92883dep-3, 0x1.39a1f2100795ep-3, 0x1.2f035cd96cd8fp-3,
 };
 
-// atan(t) = t + t z P(z), z = t^2, |t| <= 1.
+// atan(t) = t + t z P(z), z = t^2, |t| <= 0.64.
 template <typename T>
 inline constexpr T arctangentCoefficients[1] = {};
 template <>
-inline constexpr Tarn32f arctangentCoefficients<Tarn32f>[] = { // within 2^-28.5
-    -0x1.55553ep-2F, 0x1.9991ecp-3F, -0x1.242118p-3F, 0x1.c0944p-4F,
-    -0x1.582534p-4F, 0x1.da98eep-5F, -0x1.fe7578p-6F, 0x1.65489p-7F,
-    -0x1.d58f5ap-10F,
+inline constexpr Tarn32f arctangentCoefficients<Tarn32f>[] = { // within 2^-27.5
+    -0x1.55551ep-2F, 0x1.998462p-3F, -0x1.233242p-3F, 0x1.b1964p-4F,
+    -0x1.1abe62p-4F, 0x1.afa41ep-6F,
 };
-
-// The same for |t| <= 0.66.
-template <typename T>
-inline constexpr T arctangentOfLessCoefficients[1] = {};
 template <>
-inline constexpr Tarn64f arctangentOfLessCoefficients<Tarn64f>[] = { // within 2^-59.4
-    -0x1.5555555555544p-2, 0x1.99999999978d1p-3, -0x1.24924923e4374p-3, 0x1.c71c718c743d1p-4,
-    -0x1.745d115f46ef2p-4, 0x1.3b134deb5e01bp-4, -0x1.110c8d9ea9456p-4, 0x1.e19697dc59ea1p-5,
-    -0x1.ad5b7a6e291a4p-5, 0x1.7de219f1c3582p-5, -0x1.480ad57cab97p-5, 0x1.fe08551fad78p-6,
-    -0x1.42f2176471fe3p-6, 0x1.1b5fcd2a650b5p-7, -0x1.f2a176811fe86p-10,
+inline constexpr Tarn64f arctangentCoefficients<Tarn64f>[] = { // within 2^-60.6
+    -0x1.555555555554dp-2, 0x1.999999999891p-3, -0x1.2492492435a36p-3, 0x1.c71c71a617805p-4,
+    -0x1.745d13c172241p-4, 0x1.3b1372842fbadp-4, -0x1.110e0be9418b3p-4, 0x1.e1ac8210013bep-5,
+    -0x1.adce6266ea9e7p-5, 0x1.7f92a62a8b4d3p-5, -0x1.4c925b6fb0f15p-5, 0x1.0773e8f45dd35p-5,
+    -0x1.57b1aed309c88p-6, 0x1.39a85a7bca5dap-7, -0x1.210a395b9c73bp-9,
 };
 
 // sin(r) = r + r z P(z), z = r^2, |r| <= pi / 4.
@@ -87,6 +82,30 @@ inline constexpr Tarn64f cosineCoefficients<Tarn64f>[] = { // within 2^-64.2
     0x1.555555555554cp-5, -0x1.6c16c16c15223p-10, 0x1.a01a019cbfe6cp-16, -0x1.27e4f81316be8p-22,
     0x1.1ee9f18d291d7p-29, -0x1.8fb149d79874cp-37,
 };
+
+// ln 2: the product of the first part and an exponent is exact.
+template <typename T>
+inline constexpr T logOfTwo[1] = {};
+template <>
+inline constexpr Tarn32f logOfTwo<Tarn32f>[] = {0x1.62e4p-1F, 0x1.7f7d1cp-20F};
+template <>
+inline constexpr Tarn64f logOfTwo<Tarn64f>[] = {0x1.62e42fefa4p-1, -0x1.8432a1b0e2634p-43};
+
+// Pi / 4: the product of the first part and up to 4 is exact.
+template <typename T>
+inline constexpr T eighthTurn[1] = {};
+template <>
+inline constexpr Tarn32f eighthTurn<Tarn32f>[] = {0x1.921fb8p-1F, -0x1.5dde98p-24F};
+template <>
+inline constexpr Tarn64f eighthTurn<Tarn64f>[] = {0x1.921fb54442d18p-1, 0x1.1a62633145c07p-55};
+
+// Pi / 2: products of all parts but the last with up to 11 bits, in double precision 20, are exact.
+template <typename T>
+inline constexpr T quarterTurn[1] = {};
+template <>
+inline constexpr Tarn32f quarterTurn<Tarn32f>[] = {0x1.922p+0F, -0x1.2afp-18F, 0x1.0b4p-34F, 0x1.84698ap-48F};
+template <>
+inline constexpr Tarn64f quarterTurn<Tarn64f>[] = {0x1.921fb544p+0, 0x1.0b4611a6p-34, 0x1.3198a2ep-69, 0x1.b839a252049c1p-104};
 
 // clang-format on
 

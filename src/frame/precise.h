@@ -8,6 +8,7 @@
 #pragma once
 
 #include "frame/factor.h"
+#include "frame/polynomials.h"
 #include "frame/precise_tables.h"
 #include "frame/rounding.h"
 #include "frame/simd_int.h"
@@ -64,9 +65,10 @@ inline constexpr double manyQuarters = 0x1p20;
 inline Angle smallAngle(double x)
 {
     const double quarters = nearInteger(x * quartersPerRadian);
-    const Sum a = sum(x - quarters * quarterTurn[0], -(quarters * quarterTurn[1]));
-    const Sum b = sum(a.hi, -(quarters * quarterTurn[2]));
-    return {static_cast<unsigned>(static_cast<int>(quarters)), sum(b.hi, b.lo + (a.lo - quarters * quarterTurn[3]))};
+    const Sum a = sum(x - quarters * quarterTurn<Tarn64f>[0], -(quarters * quarterTurn<Tarn64f>[1]));
+    const Sum b = sum(a.hi, -(quarters * quarterTurn<Tarn64f>[2]));
+    return {static_cast<unsigned>(static_cast<int>(quarters)),
+            sum(b.hi, b.lo + (a.lo - quarters * quarterTurn<Tarn64f>[3]))};
 }
 
 // A product of doubles to some 100 bits.
@@ -251,9 +253,9 @@ inline double logarithm(double x)
         z.hi *
             (-1.0 / 4 + z.hi * (1.0 / 5 + z.hi * (-1.0 / 6 + z.hi * (1.0 / 7 + z.hi * (-1.0 / 8 + z.hi * (1.0 / 9))))));
     const Sum near = sumOfLarger(z.hi, -0.5 * head * head);
-    const Sum all = sum(exponent * logOfTwo[0] + minusLog.head, near.hi);
+    const Sum all = sum(exponent * logOfTwo<Tarn64f>[0] + minusLog.head, near.hi);
     return all.hi + (all.lo + (near.lo + (z.lo - halfSquareRest + z.hi * z.hi * z.hi * series +
-                                          (minusLog.rest + exponent * logOfTwo[1]))));
+                                          (minusLog.rest + exponent * logOfTwo<Tarn64f>[1]))));
 }
 
 // A function evaluated by the library's own arithmetic, whatever the caller has set: it begins behind the guard and

@@ -331,14 +331,8 @@ inline constexpr ReciprocalEntry reciprocals[] = {
     {0x1p+0, {0, 0}},
 };
 
-// Half of pi, in parts whose products with up to 20 bits are exact.
-inline constexpr double quarterTurn[] = {0x1.921fb54400000p+0, 0x1.0b4611a600000p-34, 0x1.3198a2e000000p-69, 0x1.b839a252049c1p-104};
-
 // ln 2 / 64, in parts whose products with up to 17 bits are exact.
 inline constexpr double powerStep[] = {0x1.62e42fefc0000p-7, -0x1.c610ca86c0000p-43, -0x1.c4c67fc0d0951p-82};
-
-// ln 2: the product of the first part and a binary exponent is exact.
-inline constexpr double logOfTwo[] = {0x1.62e42fefa4000p-1, -0x1.8432a1b0e2634p-43};
 
 // Half of pi as two doubles.
 inline constexpr double halfPi[] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54};

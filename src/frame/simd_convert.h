@@ -131,12 +131,12 @@ struct WidenFloat {
 };
 inline constexpr Word<WidenFloat> widenFloat;
 
-// The same integer bits under a type of the same width.
+// The same bits under a type of the same width.
 template <typename U>
 struct Retype {
-    template <Integer T>
-        requires(sizeof(T) == sizeof(U))
-    static TARN_INLINE U of(T x) { return static_cast<U>(x); }
+    template <typename T>
+        requires(std::is_arithmetic_v<T> && sizeof(T) == sizeof(U))
+    static TARN_INLINE U of(T x) { return std::bit_cast<U>(x); }
     template <typename T>
     static TARN_INLINE Vector<U> of(Vector<T> x)
     {

@@ -119,4 +119,41 @@ struct AnyOf {
 };
 inline constexpr Word<AnyOf> anyOf;
 
+// True if all lanes of the mask are set.
+struct AllOf {
+    static TARN_INLINE bool of(bool mask) { return mask; }
+    template <typename T, int N>
+    static TARN_INLINE bool of(Pack<T, N> mask)
+    {
+        if constexpr (N > lanes<T>) {
+            return of(mask.lo) && of(mask.hi);
+        } else {
+            return _mm_movemask_epi8(reinterpret_cast<__m128i>(mask.v)) == 0xFFFF;
+        }
+    }
+};
+inline constexpr Word<AllOf> allOf;
+
+// True for positive normal numbers: above 0, not denormal, not infinite, no NaN.
+struct IsPositiveNormal {
+    template <Float T>
+    static TARN_INLINE bool of(T x)
+    {
+        return x >= std::numeric_limits<T>::min() && x <= highest<T>;
+    }
+    static TARN_INLINE Vector<Tarn32f> of(Vector<Tarn32f> x)
+    {
+        constexpr auto lowestNormal = std::numeric_limits<Tarn32f>::min();
+        return {
+            _mm_and_ps(_mm_cmpge_ps(x.v, _mm_set1_ps(lowestNormal)), _mm_cmple_ps(x.v, _mm_set1_ps(highest<Tarn32f>)))};
+    }
+    static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> x)
+    {
+        constexpr auto lowestNormal = std::numeric_limits<Tarn64f>::min();
+        return {
+            _mm_and_pd(_mm_cmpge_pd(x.v, _mm_set1_pd(lowestNormal)), _mm_cmple_pd(x.v, _mm_set1_pd(highest<Tarn64f>)))};
+    }
+};
+inline constexpr Word<IsPositiveNormal> isPositiveNormal;
+
 } // namespace tarn

@@ -134,8 +134,8 @@ struct ShiftRight {
         } else if constexpr (std::is_same_v<T, Tarn32s>) {
             return {_mm_sra_epi32(x.v, count)};
         } else {
-            static_assert(std::is_same_v<T, Tarn32u>);
-            return {_mm_srl_epi32(x.v, count)};
+            static_assert(std::is_unsigned_v<T>);
+            return {sizeof(T) == 4 ? _mm_srl_epi32(x.v, count) : _mm_srl_epi64(x.v, count)};
         }
     }
 };

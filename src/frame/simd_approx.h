@@ -1,0 +1,113 @@
+// What the vector approximations are built of: polynomials, bits of floats, and the way out for rare arguments. All of
+// it takes an element or a register of any width.
+#pragma once
+
+#include "frame/polynomials.h"
+#include "frame/simd_mul.h"
+#include "frame/simd_reciprocal.h"
+#include "frame/simd_round.h"
+
+namespace tarn {
+
+// A constant for the places of X.
+template <typename X>
+TARN_INLINE X constant(Element<X> value)
+{
+    return splat<X>(value);
+}
+
+// The integers of a float's width, as many as X has.
+template <typename X>
+using BitsLike = Like<X, std::conditional_t<isSingle<Element<X>>, Tarn32s, Tarn64s>>;
+
+template <typename X>
+TARN_INLINE BitsLike<X> bitsOf(X x)
+{
+    return retype<Element<BitsLike<X>>>(x);
+}
+template <typename X, typename B>
+TARN_INLINE X floatOf(B bits)
+{
+    return retype<Element<X>>(bits);
+}
+
+// The bits of a that a mask of bits selects, elsewhere those of b.
+template <typename B>
+TARN_INLINE B blend(B mask, B a, B b)
+{
+    return bitOr(bitAnd(mask, a), bitAndNot(mask, b));
+}
+
+// x with its sign flipped where the sign bit of `sign` is set.
+template <typename X>
+TARN_INLINE X flippedBy(BitsLike<X> sign, X x)
+{
+    const auto signBit = splat<BitsLike<X>>(lowest<Element<BitsLike<X>>>);
+    return floatOf<X>(bitXor(bitsOf(x), bitAnd(sign, signBit)));
+}
+
+// The sum of coefficients[i] x^i, from the highest power down.
+template <typename X, std::size_t count>
+TARN_INLINE X polynomial(X x, const Element<X> (&coefficients)[count])
+{
+    X sum = constant<X>(coefficients[count - 1]);
+#pragma GCC unroll 32
+    for (std::size_t i = count - 1; i-- > 0;) {
+        sum = add(mul(sum, x), constant<X>(coefficients[i]));
+    }
+    return sum;
+}
+
+// Adding this to a float leaves the nearest integer in its last bits; taking it away again leaves the integer itself.
+template <typename T>
+inline constexpr T noFraction = isSingle<T> ? T{0x1.8p23} : T{0x1.8p52};
+
+template <typename T>
+inline constexpr int mantissaBits = std::numeric_limits<T>::digits - 1;
+template <typename T>
+inline constexpr int exponentBias = std::numeric_limits<T>::max_exponent - 1;
+
+// Lanes that the method is not made for, one after the other.
+template <typename Method, typename T>
+[[gnu::noinline, gnu::cold]] void computeRare(const T* x, T* y, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        if (!Method::isOrdinary(x[i])) {
+            y[i] = Method::rare(x[i]);
+        }
+    }
+}
+
+// Method::ordinary where Method::isOrdinary says so, Method::rare elsewhere: for all arguments one register takes the
+// former, and those that need the latter are looked for only if there are any.
+template <typename Method>
+struct Approximation {
+    template <typename X>
+    TARN_INLINE X operator()(X x) const
+    {
+        return byRegister(x, [](auto r) { return ofRegister(r); });
+    }
+
+private:
+    template <Float T>
+    static TARN_INLINE T ofRegister(T x)
+    {
+        return Method::isOrdinary(x) ? Method::ordinary(x) : Method::rare(x);
+    }
+    template <typename T, int N>
+    static TARN_INLINE Pack<T, N> ofRegister(Pack<T, N> x)
+    {
+        auto y = Method::ordinary(x);
+        if (!allOf(Method::isOrdinary(x))) [[unlikely]] {
+            T arguments[N];
+            T values[N];
+            store(arguments, x);
+            store(values, y);
+            computeRare<Method>(arguments, values, N);
+            y = loadPack<N>(values);
+        }
+        return y;
+    }
+};
+
+} // namespace tarn
