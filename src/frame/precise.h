@@ -302,7 +302,7 @@ inline double preciseLogarithm(double x)
         if (a > 0 && a <= highest<Tarn64f>) {
             return precise::logarithm(a);
         }
-        return a == 0 ? -HUGE_VAL : a < 0 ? (a - a) / (a - a) : a;
+        return a == 0 ? -HUGE_VAL : a < 0 ? tarnConstantOfNAN_64f : a;
     });
 }
 

@@ -122,7 +122,7 @@ struct CircularMethod {
     {
         using B = BitsLike<X>;
         constexpr int signShift = 8 * static_cast<int>(sizeof(Element<X>)) - 2;
-        const auto angle = reduce(x);
+        const auto angle = reduce(absolute(x)); // so that -0 keeps its sign
         const X z = mul(angle.r, angle.r);
         const B sine = bitsOf(sineOf(angle, z));
         const B cosine = bitsOf(cosineOf(angle, z));
@@ -130,8 +130,8 @@ struct CircularMethod {
         const B isOdd = sub(splat<B>(0), bitAnd(angle.quarters, one));
         const X first = floatOf<X>(blend(isOdd, cosine, sine));
         const X second = floatOf<X>(blend(isOdd, sine, cosine));
-        return {flippedBy(shiftLeft(angle.quarters, signShift), first),
-                flippedBy(shiftLeft(add(angle.quarters, one), signShift), second)};
+        const B sign = bitXor(shiftLeft(angle.quarters, signShift), bitsOf(x));
+        return {flippedBy(sign, first), flippedBy(shiftLeft(add(angle.quarters, one), signShift), second)};
     }
 };
 

@@ -51,7 +51,6 @@ template <typename X, std::size_t count>
 TARN_INLINE X polynomial(X x, const Element<X> (&coefficients)[count])
 {
     X sum = constant<X>(coefficients[count - 1]);
-#pragma GCC unroll 32
     for (std::size_t i = count - 1; i-- > 0;) {
         sum = add(mul(sum, x), constant<X>(coefficients[i]));
     }

@@ -136,7 +136,8 @@ TYPED_TEST(Approximations, GiveElementsAndPacksTheSameBits)
 template <class T>
 class ApproximationEnds : public ::testing::Test {
 };
-TYPED_TEST_SUITE(ApproximationEnds, (::testing::Types<Tarn32f, Tarn64f>));
+using Precisions = ::testing::Types<Tarn32f, Tarn64f>;
+TYPED_TEST_SUITE(ApproximationEnds, Precisions);
 
 TYPED_TEST(ApproximationEnds, AreExact)
 {
