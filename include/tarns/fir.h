@@ -20,8 +20,11 @@ extern "C" {
     its own. NaN and infinities spread over the `tapsLen` outputs that they reach, on the transforms' road over those of
     their block.
 
-    Real filters of more than 1600 samples a call, complex ones of more than 800, are shared out to OpenMP's threads on
-    both roads; the caller's rounding mode holds in all of them. Filters with integer taps run on the calling thread.
+    Real filters of more than 1600 samples a call, complex ones of more than 800, are shared out to threads on both
+   roads if the call is worth it, which it is from about a quarter of a millisecond on one thread. There are as many
+   threads as OpenMP's settings allow (`OMP_NUM_THREADS`, `omp_set_num_threads`), one in a forked child of a process
+   that has threads. Outputs are the same on any number of them, and the caller's rounding mode holds in all. Filters
+   with integer taps run on the calling thread.
 
     Results of integer type (`Sfs`) are those of the filter times 2^-scaleFactor. Blocks round them to the nearest
     integer, ties to even, whatever the rounding mode, and saturate; a NaN becomes the lowest integer. Single samples

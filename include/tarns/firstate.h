@@ -100,7 +100,8 @@ TARN_API TarnStatus tarnsFIRInitAlloc32sc_16sc32fc(TarnsFIRState32sc_16sc32fc** 
 
     @param tapsLen     number of taps, at least 1
     @param pBufferSize where the size goes, in bytes; it has room for a buffer at any address
-    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsFIRLenErr for `tapsLen` below 1 */
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsFIRLenErr for `tapsLen` below 1;
+            tarnStsNoMemErr if the size is beyond the largest int */
 ///@{
 TARN_API TarnStatus tarnsFIRGetStateSize_32f(int tapsLen, int* pBufferSize);
 TARN_API TarnStatus tarnsFIRGetStateSize_32fc(int tapsLen, int* pBufferSize);
@@ -130,7 +131,7 @@ TARN_API TarnStatus tarnsFIRGetStateSize32sc_16sc32fc(int tapsLen, int* pBufferS
     @param pDlyLine   the samples before the first one, newest first, `tapsLen` elements; null for silence
     @param pBuffer    memory of the size that `GetStateSize` tells, at any address
     @return tarnStsNoErr; tarnStsNullPtrErr for a null `ppState`, `pTaps` or `pBuffer`; tarnStsFIRLenErr for `tapsLen`
-            below 1 */
+            below 1; tarnStsNoMemErr for so many taps that `GetStateSize` has no size for them */
 ///@{
 TARN_API TarnStatus tarnsFIRInit_32f(TarnsFIRState_32f** ppState, const Tarn32f* pTaps, int tapsLen,
                                      const Tarn32f* pDlyLine, Tarn8u* pBuffer);

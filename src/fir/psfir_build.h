@@ -118,21 +118,25 @@ inline TarnStatus allocateState(State** ppState, const typename State::Tap* pTap
         *ppState = static_cast<State*>(fields);
     }
     if (status == tarnStsNoErr) {
-        fillDelay(*ppState, fields->pDlyLine, pDlyLine);
+        resetDelay(*ppState, fields->pDlyLine, pDlyLine);
     }
     return status;
+}
+
+// What a state takes of a caller's memory.
+template <typename T>
+inline long long bytesInMemory(int tapsLen)
+{
+    return FirRegions<T>::direct(tapsLen).total() + FirSizes<T>::slack(omp_get_max_threads());
 }
 
 template <typename State>
 inline TarnStatus stateSize(int tapsLen, int* pBufferSize)
 {
-    using T = typename State::Tap;
     if (const TarnStatus status = checkTaps(tapsLen, pBufferSize)) {
         return status;
     }
-    const long long bytes = FirRegions<T>::direct(tapsLen).total() + FirSizes<T>::slack(omp_get_max_threads());
-    store(pBufferSize, static_cast<int>(bytes));
-    return tarnStsNoErr;
+    return storeBytes(bytesInMemory<typename State::Tap>(tapsLen), pBufferSize);
 }
 
 template <typename State>
@@ -143,11 +147,14 @@ inline TarnStatus buildInBuffer(State** ppState, const typename State::Tap* pTap
     if (const TarnStatus status = checkTaps(tapsLen, ppState, pTaps, pBuffer)) {
         return status;
     }
+    if (const TarnStatus status = checkBytes(bytesInMemory<T>(tapsLen))) {
+        return status;
+    }
     State* const state = placeInBuffer<State>(pBuffer);
     *ppState = state;
     FirPlan<T>{FirRegions<T>::direct(tapsLen)}.build(state, pTaps, tapsLen, State::singleRateId);
     state->isAllocated = 0;
-    fillDelay(state, state->pDlyLine, pDlyLine);
+    resetDelay(state, state->pDlyLine, pDlyLine);
     return tarnStsNoErr;
 }
 
@@ -190,18 +197,13 @@ inline TarnStatus getTaps(const State* state, typename State::Tap* pTaps)
 }
 
 template <typename State>
-inline TarnStatus freeState(State* state)
+inline TarnStatus freeFilter(State* state)
 {
-    if (const TarnStatus status = checkState(state)) {
-        return status;
-    }
-    if (state->isAllocated == 1) {
-        if (state->pFFTSpec != nullptr) {
-            TransformCalls<typename State::Tap>::free(state->pFFTSpec);
+    return freeState(state, [](State& own) {
+        if (own.pFFTSpec != nullptr) {
+            TransformCalls<typename State::Tap>::free(own.pFFTSpec);
         }
-        tarnsFree(state);
-    }
-    return tarnStsNoErr;
+    });
 }
 
 } // namespace tarn

@@ -1,9 +1,10 @@
-// What FIR states of all kinds share: checks, the delay line as a caller sees it, freeing.
+// What FIR states of all kinds share: checks, and the delay line as a caller sees it.
 #pragma once
 
 #include "frame/bytes.h"
 #include "frame/checks.h"
-#include "frame/object.h"
+#include "frame/delay_line.h"
+#include "frame/state.h"
 #include "levels/fir/psfir.h"
 
 namespace tarn {
@@ -14,22 +15,6 @@ inline bool isSingleRate(const State* state)
     return state->idCtx == State::singleRateId;
 }
 
-template <typename State>
-inline bool isOfFamily(const State* state)
-{
-    return isSingleRate(state) || state->idCtx == State::multiRateId;
-}
-
-// The checks of a state and an array, in the library's order.
-template <typename State, typename... P>
-inline TarnStatus checkState(const State* state, const P*... pointers)
-{
-    if (state == nullptr || ((pointers == nullptr) || ...)) {
-        return tarnStsNullPtrErr;
-    }
-    return isOfFamily(state) ? tarnStsNoErr : tarnStsContextMatchErr;
-}
-
 // The checks of a call that makes something of taps.
 template <typename... P>
 inline TarnStatus checkTaps(int tapsLen, const P*... pointers)
@@ -38,26 +23,6 @@ inline TarnStatus checkTaps(int tapsLen, const P*... pointers)
         return tarnStsNullPtrErr;
     }
     return tapsLen < 1 ? tarnStsFIRLenErr : tarnStsNoErr;
-}
-
-// Elements of one type as elements of another that holds their values exactly, or, on the way back, held them before:
-// then truncation loses nothing.
-template <typename D, typename S>
-inline D convertedTo(S x)
-{
-    if constexpr (isComplex<S>) {
-        return {static_cast<Part<D>>(x.re), static_cast<Part<D>>(x.im)};
-    } else {
-        return static_cast<D>(x);
-    }
-}
-
-template <typename S, typename D>
-inline void reverseConverted(const S* src, D* dst, int len)
-{
-    for (int i = 0; i < len; ++i) {
-        store(dst + i, convertedTo<D>(loadElement(src + len - 1 - i)));
-    }
 }
 
 template <typename T>
@@ -94,15 +59,10 @@ inline int visibleDelay(const State* state)
 }
 
 template <typename State, typename E>
-inline void fillDelay(State* state, E* line, const typename State::Sample* pDlyLine)
+inline void resetDelay(State* state, E* line, const typename State::Sample* pDlyLine)
 {
-    const int len = visibleDelay(state);
     state->dlyLineIdx = 0;
-    if (pDlyLine == nullptr) {
-        zeroElements(line, len);
-    } else {
-        reverseConverted(pDlyLine, line, len);
-    }
+    fillDelay(pDlyLine, line, visibleDelay(state));
 }
 
 // Calls `run` with the delay buffer as what it holds: multi-rate states keep samples as they are.
@@ -123,7 +83,7 @@ inline TarnStatus setDelay(State* state, const typename State::Sample* pDlyLine)
     if (const TarnStatus status = checkState(state)) {
         return status;
     }
-    withDelayLine(state, [=](auto* line) { fillDelay(state, line, pDlyLine); });
+    withDelayLine(state, [=](auto* line) { resetDelay(state, line, pDlyLine); });
     return tarnStsNoErr;
 }
 

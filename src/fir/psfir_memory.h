@@ -6,21 +6,6 @@
 
 namespace tarn {
 
-inline constexpr int regionAlignment = 16;
-
-constexpr long long roundedUp(long long bytes)
-{
-    return (bytes + regionAlignment - 1) & ~static_cast<long long>(regionAlignment - 1);
-}
-
-// The state's address in a caller's memory.
-template <typename State>
-inline State* placeInBuffer(Tarn8u* pBuffer)
-{
-    const auto gap = (0 - reinterpret_cast<std::uintptr_t>(pBuffer)) % regionAlignment;
-    return reinterpret_cast<State*>(pBuffer + gap);
-}
-
 // Samples of one in-place part; a state has room for that many elements of the taps' type.
 inline constexpr int scratchElements = 4096;
 
@@ -95,18 +80,14 @@ struct FirRegions {
     // Tells a state where its regions are; those without bytes are null.
     void place(FirFields<T>* state) const
     {
-        Tarn8u* next = reinterpret_cast<Tarn8u*>(state) + fields();
-        const auto take = [&]<typename P>(P*& p, long long bytes) {
-            p = bytes != 0 ? reinterpret_cast<P*>(next) : nullptr;
-            next += bytes;
-        };
-        take(state->pTaps, taps);
-        take(state->pDlyLine, delay);
-        take(state->pThreadStatus, status);
-        take(state->pTapsX4, table);
-        take(state->pFFTTaps, spectrum);
-        take(state->pFFTWork, buffers);
-        take(state->pTmp, scratch());
+        RegionPlacer placer(state, fields());
+        placer.take(state->pTaps, taps);
+        placer.take(state->pDlyLine, delay);
+        placer.take(state->pThreadStatus, status);
+        placer.take(state->pTapsX4, table);
+        placer.take(state->pFFTTaps, spectrum);
+        placer.take(state->pFFTWork, buffers);
+        placer.take(state->pTmp, scratch());
     }
 };
 
@@ -141,11 +122,11 @@ struct FirIntegerRegions {
     template <typename State>
     void place(State* state) const
     {
-        Tarn8u* const first = reinterpret_cast<Tarn8u*>(state) + fields<State>();
-        state->pTaps = reinterpret_cast<typename State::Tap*>(first);
-        state->pDlyLine = reinterpret_cast<S*>(first + taps);
-        state->pTapsTable = reinterpret_cast<Tarn16s*>(first + taps + delay);
-        state->pTmp = first + taps + delay + table;
+        RegionPlacer placer(state, fields<State>());
+        placer.take(state->pTaps, taps);
+        placer.take(state->pDlyLine, delay);
+        placer.take(state->pTapsTable, table);
+        placer.take(state->pTmp, scratch);
     }
 };
 

@@ -18,7 +18,7 @@
     {                                                                                   \
         return setDelay(pState, pDlyLine);                                              \
     }                                                                                   \
-    TarnStatus tarnsFIRFree##TAIL(TarnsFIRState##TAIL* pState) { return freeState(pState); }
+    TarnStatus tarnsFIRFree##TAIL(TarnsFIRState##TAIL* pState) { return freeFilter(pState); }
 
 #define TARN_DEFINE_FIR_STATE(TAIL, T, S)                                                                             \
     TarnStatus tarnsFIRInitAlloc##TAIL(TarnsFIRState##TAIL** ppState, const T* pTaps, int tapsLen, const S* pDlyLine) \

@@ -53,7 +53,7 @@ void writeTable(TarnsFIRState32sc_16sc* state)
     for (int k = 0; k < state->tapsLen; ++k) {
         const Tarn32sc tap = state->pTaps[k];
         first[2 * k] = static_cast<Tarn16s>(tap.re);
-        first[2 * k + 1] = static_cast<Tarn16s>(-tap.im);
+        first[2 * k + 1] = static_cast<Tarn16s>(sub(0, tap.im)); // the lowest integer, made of a NaN, is its own
         second[2 * k] = static_cast<Tarn16s>(tap.im);
         second[2 * k + 1] = static_cast<Tarn16s>(tap.re);
     }
@@ -70,7 +70,7 @@ void storeTaps(State* state, const typename State::Tap* pTaps, int tapsFactor)
     for (int i = 0; i < parts * state->tapsLen; ++i) {
         components[i] >>= shift;
     }
-    state->tapsFactor = tapsFactor + shift;
+    state->tapsFactor = add(tapsFactor, shift); // modulo 2^32
     writeTable(state);
 }
 
@@ -111,7 +111,7 @@ void build(State* state, int tapsLen, const typename State::Sample* pDlyLine, in
         state->inHeadLen = RegionsOf<State>::stride(tapsLen);
         state->tapsTableStride = RegionsOf<State>::stride(tapsLen);
     }
-    fillDelay(state, state->pDlyLine, pDlyLine);
+    resetDelay(state, state->pDlyLine, pDlyLine);
     keepTaps(state);
 }
 
@@ -131,16 +131,11 @@ TarnStatus allocateState(State** ppState, const P* pTaps, int tapsLen, const typ
     return tarnStsNoErr;
 }
 
-template <typename State, typename P, typename KeepTaps>
-TarnStatus buildInBuffer(State** ppState, const P* pTaps, int tapsLen, const typename State::Sample* pDlyLine,
-                         Tarn8u* pBuffer, KeepTaps keepTaps)
+// What a state takes of a caller's memory.
+template <typename State>
+long long bytesInMemory(int tapsLen)
 {
-    if (const TarnStatus status = checkTaps(tapsLen, ppState, pTaps, pBuffer)) {
-        return status;
-    }
-    *ppState = placeInBuffer<State>(pBuffer);
-    build(*ppState, tapsLen, pDlyLine, 0, keepTaps);
-    return tarnStsNoErr;
+    return RegionsOf<State>::of(tapsLen).template total<State>() + RegionsOf<State>::slack;
 }
 
 template <typename State>
@@ -149,9 +144,28 @@ TarnStatus stateSize(int tapsLen, int* pBufferSize)
     if (const TarnStatus status = checkTaps(tapsLen, pBufferSize)) {
         return status;
     }
-    const long long bytes = RegionsOf<State>::of(tapsLen).template total<State>() + RegionsOf<State>::slack;
-    store(pBufferSize, static_cast<int>(bytes));
+    return storeBytes(bytesInMemory<State>(tapsLen), pBufferSize);
+}
+
+template <typename State, typename P, typename KeepTaps>
+TarnStatus buildInBuffer(State** ppState, const P* pTaps, int tapsLen, const typename State::Sample* pDlyLine,
+                         Tarn8u* pBuffer, KeepTaps keepTaps)
+{
+    if (const TarnStatus status = checkTaps(tapsLen, ppState, pTaps, pBuffer)) {
+        return status;
+    }
+    if (const TarnStatus status = checkBytes(bytesInMemory<State>(tapsLen))) {
+        return status;
+    }
+    *ppState = placeInBuffer<State>(pBuffer);
+    build(*ppState, tapsLen, pDlyLine, 0, keepTaps);
     return tarnStsNoErr;
+}
+
+template <typename State>
+TarnStatus freeFilter(State* state)
+{
+    return freeState(state);
 }
 
 // Multi-rate states compile their taps in ways of their own.
@@ -187,18 +201,6 @@ TarnStatus getFloatTaps(const State* state, F* pTaps)
     }
     for (int k = 0; k < state->tapsLen; ++k) {
         store(pTaps + k, tapToFloat(state->pTaps[state->tapsLen - 1 - k], state->tapsFactor));
-    }
-    return tarnStsNoErr;
-}
-
-template <typename State>
-TarnStatus freeState(State* state)
-{
-    if (const TarnStatus status = checkState(state)) {
-        return status;
-    }
-    if (state->isAllocated == 1) {
-        tarnsFree(state);
     }
     return tarnStsNoErr;
 }

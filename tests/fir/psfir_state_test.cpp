@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 #include <vector>
 
@@ -395,6 +396,44 @@ TEST(FirStateTest, HasTheFieldsOfThe32BitLibrary)
     EXPECT_EQ(15 * 4, offsetof(TarnsFIRState32s_16s, isAllocated));
 }
 #endif
+
+// A state of more bytes than a 32-bit length holds cannot be had, in whose memory it may be: nothing is written.
+TYPED_TEST(FirStateTest, RefusesSizesThatDoNotFit)
+{
+    using F = TypeParam;
+    using T = typename F::Tap;
+    // The sizes grow with the number of taps, so that the first which does not fit is found by halving.
+    const auto sizeOf = [](int taps) {
+        int size = -77;
+        const TarnStatus status = F::getStateSize(taps, &size);
+        EXPECT_EQ(status == tarnStsNoErr ? 0 : tarnStsNoMemErr, status) << taps;
+        EXPECT_EQ(status == tarnStsNoErr, size > 0) << taps << ", " << size;
+        EXPECT_TRUE(status == tarnStsNoErr || size == -77) << taps << ", " << size;
+        return size;
+    };
+    int fits = 1;
+    int doesNot = INT_MAX;
+    EXPECT_EQ(-77, sizeOf(doesNot));
+    while (doesNot - fits > 1) {
+        const int middle = fits + (doesNot - fits) / 2;
+        (sizeOf(middle) > 0 ? fits : doesNot) = middle;
+    }
+    const int bytesATap = sizeOf(1001) - sizeOf(985); // of 16 taps
+    EXPECT_NEAR(sizeOf(fits), INT_MAX, bytesATap);
+    EXPECT_NEAR(2147483647.0 / bytesATap * 16, fits, 70'000); // less what a state of one tap takes
+    for (const int taps : {30'000'000, 134'217'728, 268'435'456, INT_MAX - 4, INT_MAX})
+        EXPECT_EQ(taps > fits, sizeOf(taps) == -77) << taps;
+
+    const T tap{};
+    Tarn8u memory[64] = {};
+    auto* const unset = reinterpret_cast<typename F::State*>(memory);
+    typename F::State* state = unset;
+    for (const int taps : {doesNot, INT_MAX}) {
+        EXPECT_EQ(tarnStsNoMemErr, this->init(&state, &tap, taps, nullptr, memory)) << taps;
+        EXPECT_EQ(unset, state);
+    }
+    EXPECT_EQ(std::string(64, '\0'), std::string(memory, memory + 64));
+}
 
 } // namespace
 } // namespace tarn::test

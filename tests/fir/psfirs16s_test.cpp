@@ -295,6 +295,125 @@ TEST(FirIntegerTapsTest, AreMadeOfFloats)
     expectScaled({0.0F, -0.0F}, {0, 0}, 0);
 }
 
+// Down to the smallest denormal, also where the processor takes denormals for zero and makes zero of them.
+TEST(FirIntegerTapsTest, AreMadeOfTheSmallestFloats)
+{
+    constexpr std::uint32_t flushed = 0x9FC0; // all exceptions masked
+    for (const std::uint32_t control : {std::uint32_t{0x1F80}, flushed}) {
+        const MxcsrScope scope(control);
+        const auto expectScaled = [](const std::vector<Tarn32f>& taps, const std::vector<Tarn32s>& kept, int factor) {
+            std::vector<Tarn32s> out(taps.size());
+            EXPECT_EQ(factor, scale32fTaps32s(taps.data(), out.data(), static_cast<int>(taps.size())));
+            EXPECT_EQ(kept, out);
+        };
+        expectScaled({0x1p-149F}, {16384}, -163);
+        expectScaled({-0x3p-149F, 0x1p-149F, 0}, {-24576, 8192, 0}, -162);
+        expectScaled({0x1p-126F, -0x1p-128F}, {16384, -4096}, -140);
+        expectScaled({0x1p-113F, 0x1p-149F}, {16384, 0}, -127);
+        expectScaled({0x1p-114F, -0x1p-129F}, {16384, -1}, -128); // a half, away from zero
+        expectScaled({0x1p127F, -0x1p-149F}, {16384, 0}, 113);
+    }
+    // Every power of two, whole states; denormals are read back as what they were.
+    for (int e = -149; e <= 127; ++e) {
+        const std::vector<Tarn32f> taps = {std::ldexp(1.0F, e), -std::ldexp(1.0F, std::max(e - 3, -149))};
+        const auto expectKept = [&](const TarnsFIRState32s_16s* state) {
+            std::vector<Tarn32f> back(2);
+            EXPECT_EQ(tarnStsNoErr, tarnsFIRGetTaps32s_16s32f(state, back.data()));
+            EXPECT_EQ(taps, back) << e;
+        };
+        TarnsFIRState32s_16s* state = nullptr;
+        {
+            const MxcsrScope scope(flushed);
+            EXPECT_EQ(tarnStsNoErr, tarnsFIRInitAlloc32s_16s32f(&state, taps.data(), 2, nullptr));
+        }
+        expectKept(state);
+        {
+            const MxcsrScope scope(flushed);
+            EXPECT_EQ(tarnStsNoErr, tarnsFIRSetTaps32s_16s32f(taps.data(), state));
+        }
+        expectKept(state);
+        tarnsFIRFree32s_16s32f(state);
+    }
+    const std::vector<Tarn32f> small = {9e-35F, -4e-39F};
+    TarnsFIRState32s_16s* state = nullptr;
+    ASSERT_EQ(tarnStsNoErr, tarnsFIRInitAlloc32s_16s32f(&state, small.data(), 2, nullptr));
+    std::vector<Tarn32f> back(2);
+    tarnsFIRGetTaps32s_16s32f(state, back.data());
+    EXPECT_NEAR(small[0], back[0], 9e-35F * 0x1p-14F);
+    EXPECT_NEAR(small[1], back[1], 9e-35F * 0x1p-14F);
+    tarnsFIRFree32s_16s32f(state);
+
+    std::vector<Tarn8u> memory;
+    const std::vector<Tarn32fc> pairs = {{0, -0x1p-140F}, {0x1p-141F, 0}};
+    int size = 0;
+    ASSERT_EQ(tarnStsNoErr, tarnsFIRGetStateSize32sc_16sc32fc(2, &size));
+    memory.resize(static_cast<std::size_t>(size));
+    TarnsFIRState32sc_16sc* complex = nullptr;
+    {
+        const MxcsrScope scope(flushed);
+        ASSERT_EQ(tarnStsNoErr, tarnsFIRInit32sc_16sc32fc(&complex, pairs.data(), 2, nullptr, memory.data()));
+    }
+    std::vector<Tarn32fc> pairsBack(2);
+    tarnsFIRGetTaps32sc_16sc32fc(complex, pairsBack.data());
+    EXPECT_TRUE(arraysMatch<Tarn32fc>(pairs.data(), pairsBack.data(), 2));
+}
+
+// No float has a largest magnitude to scale by, and a NaN no integer but the lowest, of which there is no negative.
+TEST(FirIntegerTapsTest, AreMadeOfWhatIsNoNumber)
+{
+    constexpr Tarn32f nan = std::numeric_limits<Tarn32f>::quiet_NaN();
+    constexpr Tarn32f infinity = std::numeric_limits<Tarn32f>::infinity();
+    std::vector<Tarn32s> out(3);
+    EXPECT_EQ(-14, scale32fTaps32s(std::vector<Tarn32f>{nan, 1.0F, -0.5F}.data(), out.data(), 3));
+    EXPECT_EQ((std::vector<Tarn32s>{INT_MIN, 16384, -8192}), out);
+    EXPECT_EQ(0, scale32fTaps32s(std::vector<Tarn32f>{-infinity, 2.5F, 1.0F}.data(), out.data(), 3));
+    EXPECT_EQ((std::vector<Tarn32s>{INT_MIN, 3, 1}), out);
+
+    const std::vector<Tarn32fc> taps = {{1.0F, nan}, {0.5F, -0.5F}};
+    TarnsFIRState32sc_16sc* state = nullptr;
+    ASSERT_EQ(tarnStsNoErr, tarnsFIRInitAlloc32sc_16sc32fc(&state, taps.data(), 2, nullptr));
+    std::vector<Tarn32sc> kept(2);
+    int factor = 0;
+    ASSERT_EQ(tarnStsNoErr, tarnsFIRGetTaps32sc_16sc(state, kept.data(), &factor));
+    EXPECT_EQ(INT_MIN, kept[0].im);
+    EXPECT_EQ(-14, factor);
+    tarnsFIRFree32sc_16sc32fc(state);
+}
+
+TEST(FirIntegerTapsTest, HaveAFactorThatWraps)
+{
+    const Tarn32s tap = INT_MIN; // 17 bits too large
+    TarnsFIRState32s_16s* state = nullptr;
+    for (const int given : {INT_MAX, INT_MAX - 17, INT_MAX - 16, INT_MIN}) {
+        ASSERT_EQ(tarnStsNoErr, tarnsFIRInitAlloc32s_16s(&state, &tap, 1, given, nullptr));
+        Tarn32s kept = 0;
+        int factor = 0;
+        ASSERT_EQ(tarnStsNoErr, tarnsFIRGetTaps32s_16s(state, &kept, &factor));
+        EXPECT_EQ(-16384, kept);
+        EXPECT_EQ(wrapped(std::int64_t{given} + 17), factor) << given;
+        // Filtering shifts by the whole difference, which is no integer of 32 bits.
+        const Tarn16s sample = -3;
+        Tarn16s y = 1;
+        ASSERT_EQ(tarnStsNoErr, tarnsFIR32s_16s_Sfs(&sample, &y, 1, state, factor));
+        EXPECT_EQ(32767, y);
+        ASSERT_EQ(tarnStsNoErr, tarnsFIR32s_16s_Sfs(&sample, &y, 1, state, factor < 0 ? INT_MAX : INT_MIN));
+        EXPECT_EQ(0, y);
+        tarnsFIRFree32s_16s(state);
+    }
+    const Tarn32sc pair = {1, INT_MIN};
+    TarnsFIRState32sc_16sc* complex = nullptr;
+    ASSERT_EQ(tarnStsNoErr, tarnsFIRInitAlloc32sc_16sc(&complex, &pair, 1, INT_MAX, nullptr));
+    Tarn32sc kept{};
+    int factor = 0;
+    tarnsFIRGetTaps32sc_16sc(complex, &kept, &factor);
+    EXPECT_EQ(-16384, kept.im);
+    EXPECT_EQ(wrapped(std::int64_t{INT_MAX} + 17), factor);
+    ASSERT_EQ(tarnStsNoErr, tarnsFIRSetTaps32sc_16sc(&pair, complex, INT_MAX - 16));
+    tarnsFIRGetTaps32sc_16sc(complex, &kept, &factor);
+    EXPECT_EQ(INT_MIN, factor);
+    tarnsFIRFree32sc_16sc(complex);
+}
+
 TEST(FirIntegerTapsTest, OfFloatsFilterLikeFloats)
 {
     const std::vector<Tarn32f> h = {0.3F, -0.2F, 0.05F, 0.7F, 0.11F};

@@ -1,7 +1,7 @@
 // The states of FIR filters. Order and width of the fields are those that callers of the 32-bit library know.
 #pragma once
 
-#include "frame/simd_pack.h"
+#include "frame/state.h"
 #include "tarns/fft.h"
 #include "tarns/firstate.h"
 
@@ -49,6 +49,7 @@ struct FirState : FirFields<T> {
     using Sample = S;
     static constexpr Tarn32u singleRateId = singleRate;
     static constexpr Tarn32u multiRateId = multiRate;
+    static constexpr Tarn32u formIds[] = {singleRate, multiRate};
 };
 
 // A state with integer taps: S is Tarn16s or Tarn16sc, T the same kind of 32-bit element.
@@ -58,6 +59,7 @@ struct FirIntegerState {
     using Sample = S;
     static constexpr Tarn32u singleRateId = singleRate;
     static constexpr Tarn32u multiRateId = multiRate;
+    static constexpr Tarn32u formIds[] = {singleRate, multiRate};
 
     Tarn32u idCtx;
     T* pTaps; // in reversed order, shifted to 16 bits
@@ -78,16 +80,6 @@ struct FirIntegerState {
     int upPhase;   // MR
     int downPhase; // MR
 };
-
-// The identifier of a state as the four characters that it spells.
-constexpr Tarn32u spelled(const char (&text)[5])
-{
-    Tarn32u id = 0;
-    for (int i = 0; i < 4; ++i) {
-        id = id << 8 | static_cast<unsigned char>(text[i]);
-    }
-    return id;
-}
 
 template <>
 struct FirTransform<Tarn32f> {

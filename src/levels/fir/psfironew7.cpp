@@ -1,4 +1,5 @@
 // Single-sample kernels of FIR filters with floating taps, and the conversion of their results.
+#include "frame/delay_line.h"
 #include "levels/data/psconvert_scale.h"
 #include "levels/fir/psfir.h"
 #include "levels/fir/psfir_taps.h"
@@ -85,16 +86,6 @@ Tarn64fc filterWindow(const Tarn64fc* window, const Tarn64fc* taps, const Tarn64
 // -- Conversion of one sample
 // ------------------------------------------------------------------------------------------
 
-template <typename T, typename S>
-TARN_INLINE T sampleToTap(S x)
-{
-    if constexpr (isComplex<T>) {
-        return {static_cast<Part<T>>(x.re), static_cast<Part<T>>(x.im)};
-    } else {
-        return static_cast<T>(x);
-    }
-}
-
 // 2^-scaleFactor from its exponent field alone, whatever becomes of it outside its range.
 template <Float T>
 T powerOfScale(int scaleFactor)
@@ -133,19 +124,12 @@ template <typename S, typename T>
 // -- The kernel
 // --------------------------------------------------------------------------------------------------------
 
-// The sample goes to both places of the doubled line that are its own, so that no window ever wraps.
 template <typename State, typename S>
 TARN_INLINE void filterOne(State* state, S src, S* dst, int scaleFactor)
 {
     using T = typename State::Tap;
-    const int tapsLen = state->tapsLen;
-    const T sample = sampleToTap<T>(src);
-    T* const place = state->pDlyLine + state->dlyLineIdx;
-    place[0] = sample;
-    place[tapsLen] = sample;
-    state->dlyLineIdx = state->dlyLineIdx + 1 == tapsLen ? 0 : state->dlyLineIdx + 1;
-    const T y = filterWindow(state->pDlyLine + state->dlyLineIdx, state->pTaps, state->pTapsX4, tapsLen);
-    store(dst, resultToSample<S>(y, scaleFactor));
+    const T* const window = enterSample(state->pDlyLine, state->dlyLineIdx, state->tapsLen, convertedTo<T>(src));
+    store(dst, resultToSample<S>(filterWindow(window, state->pTaps, state->pTapsX4, state->tapsLen), scaleFactor));
 }
 
 template <typename Scale>

@@ -1,9 +1,11 @@
 // Kernels of FIR filters with 16-bit taps and samples: sums modulo 2^32, shifted and saturated.
-#include "frame/bytes.h"
+#include "frame/delay_line.h"
 #include "frame/scale_exact.h"
 #include "frame/simd_fir.h"
 #include "frame/simd_round.h"
 #include "levels/fir/psfir.h"
+
+#include <bit>
 
 using namespace tarn;
 
@@ -230,12 +232,28 @@ void filter(const S* src, S* dst, int len, State* state, int scaleFactor)
 template <typename State, typename S>
 TARN_INLINE S* enter(State* state, S src)
 {
-    const int tapsLen = state->tapsLen;
-    S* const place = state->pDlyLine + state->dlyLineIdx;
-    place[0] = src;
-    place[tapsLen] = src;
-    state->dlyLineIdx = state->dlyLineIdx + 1 == tapsLen ? 0 : state->dlyLineIdx + 1;
-    return state->pDlyLine + state->dlyLineIdx;
+    return enterSample(state->pDlyLine, state->dlyLineIdx, state->tapsLen, src);
+}
+
+// -- Float taps
+// ---------------------------------------------------------------------------------------------------------
+
+constexpr std::uint32_t signOfSingle = 0x80000000;
+constexpr std::uint32_t infiniteSingle = 0x7F800000;
+
+// The value of a tap, also of a denormal one whose caller has the processor take those for zero. In double precision no
+// power of two that scales taps leaves the range.
+Tarn64f exactDouble(Tarn32f x)
+{
+    constexpr std::uint32_t firstNormal = 0x00800000;
+    constexpr Tarn64f smallest = 0x1p-149;
+    const auto bits = std::bit_cast<std::uint32_t>(x);
+    const std::uint32_t magnitude = bits & ~signOfSingle;
+    if (magnitude >= firstNormal) {
+        return x;
+    }
+    const Tarn64f value = static_cast<Tarn32s>(magnitude) * smallest;
+    return bits == magnitude ? value : -value;
 }
 
 } // namespace
@@ -267,18 +285,21 @@ void ownFIRSROne32sc_16sc_Sfs(TarnsFIRState32sc_16sc* pState, Tarn16sc src, Tarn
 
 int scale32fTaps32s(const Tarn32f* pSrc, Tarn32s* pDst, int len)
 {
-    constexpr Tarn32f limit = 32767.0F;
-    Tarn32f magnitude = 0;
+    constexpr Tarn64f limit = 32767;
+    // Of magnitudes that are numbers, by their bits.
+    std::uint32_t largest = 0;
     for (int i = 0; i < len; ++i) {
-        magnitude = std::max(magnitude, std::fabs(loadElement(pSrc + i)));
+        const std::uint32_t bits = std::bit_cast<std::uint32_t>(loadElement(pSrc + i)) & ~signOfSingle;
+        largest = bits > infiniteSingle ? largest : std::max(largest, bits);
     }
-    Tarn32f scale = 1;
+    Tarn64f scale = 1;
     int exponent = 0;
     // Without a finite magnitude above zero there is nothing to scale, and no end to it.
-    if (magnitude > 0 && magnitude <= std::numeric_limits<Tarn32f>::max()) {
+    if (largest != 0 && largest != infiniteSingle) {
+        Tarn64f magnitude = exactDouble(std::bit_cast<Tarn32f>(largest));
         for (; magnitude > limit; ++exponent) {
-            magnitude *= 0.5F;
-            scale *= 0.5F;
+            magnitude *= 0.5;
+            scale *= 0.5;
         }
         for (; exponent <= 0 && 2 * magnitude < limit; --exponent) {
             magnitude *= 2;
@@ -286,8 +307,8 @@ int scale32fTaps32s(const Tarn32f* pSrc, Tarn32s* pDst, int len)
         }
     }
     for (int i = 0; i < len; ++i) {
-        const Tarn32f scaled = scale * loadElement(pSrc + i);
-        store(pDst + i, truncateDouble(static_cast<Tarn64f>(scaled) + (scaled < 0 ? -0.5 : 0.5)));
+        const Tarn64f scaled = scale * exactDouble(loadElement(pSrc + i));
+        store(pDst + i, truncateDouble(scaled + (scaled < 0 ? -0.5 : 0.5)));
     }
     return exponent;
 }
