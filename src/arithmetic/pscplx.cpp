@@ -34,8 +34,8 @@ using JoinKernel = void (*)(const Part<C>*, C*, int);
 
 // One of the sources may be missing, and stands for zeros then.
 template <typename C>
-TarnStatus joinParts(void (*both)(const Part<C>*, const Part<C>*, C*, int), JoinKernel<C> real, JoinKernel<C> imaginary,
-                     const Part<C>* pSrcRe, const Part<C>* pSrcIm, C* pDst, int len)
+TarnStatus joinedParts(void (*both)(const Part<C>*, const Part<C>*, C*, int), JoinKernel<C> real,
+                       JoinKernel<C> imaginary, const Part<C>* pSrcRe, const Part<C>* pSrcIm, C* pDst, int len)
 {
     if (const TarnStatus status = check(len, pDst)) {
         return status;
@@ -55,35 +55,35 @@ TarnStatus joinParts(void (*both)(const Part<C>*, const Part<C>*, C*, int), Join
 
 } // namespace
 
-#define TARN_CPLX_FRONT_ENDS(C, T, IMAG)                                                                         \
-    TarnStatus tarnsConj_##C(const Tarn##C* pSrc, Tarn##C* pDst, int len)                                        \
-    {                                                                                                            \
-        return runKernel(ownsConj_##C##_T7, pSrc, pDst, len);                                                    \
-    }                                                                                                            \
-    TarnStatus tarnsConj_##C##_I(Tarn##C* pSrcDst, int len)                                                      \
-    {                                                                                                            \
-        if (const TarnStatus status = check(len, pSrcDst)) {                                                     \
-            return status;                                                                                       \
-        }                                                                                                        \
-        ownsConj_##C##_I_T7(pSrcDst, len);                                                                       \
-        return tarnStsNoErr;                                                                                     \
-    }                                                                                                            \
-    TarnStatus tarnsReal_##C(const Tarn##C* pSrc, Tarn##T* pDstRe, int len)                                      \
-    {                                                                                                            \
-        return runKernel(ownsReal_##C##_W7, pSrc, pDstRe, len);                                                  \
-    }                                                                                                            \
-    TarnStatus tarnsImag_##C(const Tarn##C* pSrc, Tarn##T* pDstIm, int len)                                      \
-    {                                                                                                            \
-        return runKernel(IMAG, pSrc, pDstIm, len);                                                               \
-    }                                                                                                            \
-    TarnStatus tarnsCplxToReal_##C(const Tarn##C* pSrc, Tarn##T* pDstRe, Tarn##T* pDstIm, int len)               \
-    {                                                                                                            \
-        return split<Tarn##C>(ownsReal_##C##_W7, IMAG, pSrc, pDstRe, pDstIm, len);                               \
-    }                                                                                                            \
-    TarnStatus tarnsRealToCplx_##T(const Tarn##T* pSrcRe, const Tarn##T* pSrcIm, Tarn##C* pDst, int len)         \
-    {                                                                                                            \
-        return joinParts<Tarn##C>(ownsRealToCplx_##T##_W7, ownsRealToCplxRe_##T##_W7, ownsRealToCplxIm_##T##_W7, \
-                                  pSrcRe, pSrcIm, pDst, len);                                                    \
+#define TARN_CPLX_FRONT_ENDS(C, T, IMAG)                                                                           \
+    TarnStatus tarnsConj_##C(const Tarn##C* pSrc, Tarn##C* pDst, int len)                                          \
+    {                                                                                                              \
+        return runKernel(ownsConj_##C##_T7, pSrc, pDst, len);                                                      \
+    }                                                                                                              \
+    TarnStatus tarnsConj_##C##_I(Tarn##C* pSrcDst, int len)                                                        \
+    {                                                                                                              \
+        if (const TarnStatus status = check(len, pSrcDst)) {                                                       \
+            return status;                                                                                         \
+        }                                                                                                          \
+        ownsConj_##C##_I_T7(pSrcDst, len);                                                                         \
+        return tarnStsNoErr;                                                                                       \
+    }                                                                                                              \
+    TarnStatus tarnsReal_##C(const Tarn##C* pSrc, Tarn##T* pDstRe, int len)                                        \
+    {                                                                                                              \
+        return runKernel(ownsReal_##C##_W7, pSrc, pDstRe, len);                                                    \
+    }                                                                                                              \
+    TarnStatus tarnsImag_##C(const Tarn##C* pSrc, Tarn##T* pDstIm, int len)                                        \
+    {                                                                                                              \
+        return runKernel(IMAG, pSrc, pDstIm, len);                                                                 \
+    }                                                                                                              \
+    TarnStatus tarnsCplxToReal_##C(const Tarn##C* pSrc, Tarn##T* pDstRe, Tarn##T* pDstIm, int len)                 \
+    {                                                                                                              \
+        return split<Tarn##C>(ownsReal_##C##_W7, IMAG, pSrc, pDstRe, pDstIm, len);                                 \
+    }                                                                                                              \
+    TarnStatus tarnsRealToCplx_##T(const Tarn##T* pSrcRe, const Tarn##T* pSrcIm, Tarn##C* pDst, int len)           \
+    {                                                                                                              \
+        return joinedParts<Tarn##C>(ownsRealToCplx_##T##_W7, ownsRealToCplxRe_##T##_W7, ownsRealToCplxIm_##T##_W7, \
+                                    pSrcRe, pSrcIm, pDst, len);                                                    \
     }
 
 TARN_CPLX_FRONT_ENDS(16sc, 16s, ownsImag_16sc_W7)

@@ -1,7 +1,7 @@
 // Walks an array from both ends at once: a symmetric window computes each weight once and applies it twice.
 #pragma once
 
-#include "frame/simd_signal.h"
+#include "frame/simd.h"
 
 namespace tarn {
 

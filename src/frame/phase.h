@@ -43,6 +43,6 @@ inline constexpr int highestAsymmetryQ15 = 102943;
 constexpr double fromQ15(int value) { return value * 0x1p-15; }
 
 // Rounds half away from zero, as adding one half and truncating does.
-inline Tarn16s roundedHalfAway(double x) { return clampTo<Tarn16s>(truncateDouble(x > 0 ? x + 0.5 : x - 0.5)); }
+inline Tarn16s roundedHalfAway(double x) { return clampTo<Tarn16s>(truncateToInteger(x > 0 ? x + 0.5 : x - 0.5)); }
 
 } // namespace tarn

@@ -1,7 +1,7 @@
 // Sinusoids by the second-order recurrence y[n+s] = 2 cos(s w) y[n] - y[n-s].
 #pragma once
 
-#include "frame/simd_signal.h"
+#include "frame/simd.h"
 
 namespace tarn {
 

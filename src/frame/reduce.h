@@ -6,7 +6,7 @@
 // follows from the level.
 #pragma once
 
-#include "frame/simd_reduce.h"
+#include "frame/simd.h"
 #include "frame/walk.h"
 
 #include <array>
@@ -95,12 +95,20 @@ TARN_INLINE Index takeElements(State& state, Index i, Index end, Take take, S...
     return i;
 }
 
+// The lanes of one accumulator. How many partial sums of floats there are is part of their result, as is the boundary
+// on which their vectors lie: 16 bytes at every width. Integers have no order to keep, and take the width of the level.
+inline constexpr int reducedBytes = 16;
+template <typename T>
+inline constexpr int reducedLanes = std::is_integral_v<Part<T>> ? lanes<T> : reducedBytes / static_cast<int>(sizeof(T));
+template <typename T>
+using Reduced = Pack<T, reducedLanes<T>>;
+
 // How many elements one array is walked before its vectors lie on boundaries, if there are as many. Two arrays need not
 // agree, and are taken as they lie.
 template <typename T>
 TARN_INLINE Index headOf(Index len, const T* src)
 {
-    return std::min<Index>(len, elementsToBoundary(src));
+    return std::min<Index>(len, elementsToBoundary<reducedBytes>(src));
 }
 template <typename... S>
 TARN_INLINE Index headOf(Index /*len*/, S... /*src*/)
@@ -113,11 +121,11 @@ TARN_INLINE Index headOf(Index /*len*/, S... /*src*/)
 template <int count, typename T, typename Take, typename Join, typename... S>
 TARN_INLINE T reduce(T start, Index len, Take take, Join join, S... src)
 {
-    constexpr int step = lanes<T>;
+    constexpr int step = reducedLanes<T>;
     T total = start;
     Index i = takeElements(total, 0, headOf(len, src...), take, src...);
     if (len - i >= step) {
-        Accumulators<Vector<T>, count> states(splat<Vector<T>>(start));
+        Accumulators<Reduced<T>, count> states(splat<Reduced<T>>(start));
         i = takeSteps<step>(states, i, len, take, src...);
         auto lanesOfAll = states.joined(join);
         i = takePacks<step>(lanesOfAll, i, len, take, src...);
@@ -179,7 +187,7 @@ TARN_INLINE Extremes<Vector<T>> ordered(Vector<T> x, Vector<T> y)
 }
 
 template <typename T>
-TARN_INLINE Extremes<T> foldExtremes(Extremes<Vector<T>> extremes)
+TARN_INLINE Extremes<T> foldExtremes(Extremes<Reduced<T>> extremes)
 {
     return {foldLanes(extremes.smallest, min), foldLanes(extremes.largest, max)};
 }
@@ -211,12 +219,12 @@ using DifferenceOf = Elementwise<std::conditional_t<isComplex<T>, PerPart<Word<S
 
 // -- Search ----------------------------------------------------------------------------------------------------------
 
-// The index of the first element that `matches(x, value)`, -1 if none of the len elements does.
-template <typename T, typename Matches>
+// The index of the first element that `matches(x, value)`, -1 if none of the len elements does; `step` of them are read
+// at once.
+template <int step, typename T, typename Matches>
 TARN_INLINE int indexOfFirst(const T* p, int len, T value, Matches matches)
 {
-    constexpr int step = lanes<T>;
-    const auto wanted = splat<Vector<T>>(value);
+    const auto wanted = splat<Pack<T, step>>(value);
     int i = 0;
     for (; i <= len - step; i += step) {
         const auto found = matches(loadPack<step>(p + i), wanted);

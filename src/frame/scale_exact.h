@@ -24,8 +24,8 @@ TARN_INLINE Pack<Tarn64s, N> shiftRounded(FullWidth<Pack<Tarn64s, N>> t, int s)
     const auto signs = signsOf64s(t.value);
     const auto magnitude = sub(bitXor(t.value, signs), signs);
     const auto half = splat<X>((Tarn64s{1} << (s - 1)) - 1);
-    const auto oddQuotient = bitAnd(shiftRight64(magnitude, s), splat<X>(1));
-    const auto rounded = shiftRight64(add(add(magnitude, half), oddQuotient), s);
+    const auto oddQuotient = bitAnd(shiftRightLogical(magnitude, s), splat<X>(1));
+    const auto rounded = shiftRightLogical(add(add(magnitude, half), oddQuotient), s);
     return sub(bitXor(rounded, signs), signs);
 }
 
@@ -55,7 +55,7 @@ TARN_INLINE auto limitTo(X t)
 {
     if constexpr (std::is_same_v<Element<X>, Tarn64s>) {
         static_assert(std::is_same_v<D, Tarn32s>);
-        return narrowSaturated64(t);
+        return narrowSaturated<Tarn32s>(t);
     } else {
         return narrowSaturated<D>(t);
     }

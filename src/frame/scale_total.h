@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/scale.h"
-#include "frame/simd_mul.h"
+#include "frame/simd_round.h"
 
 namespace tarn {
 
@@ -53,9 +53,5 @@ inline Tarn64f scaleByHalving(Tarn64f x, int scaleFactor)
     }
     return x;
 }
-
-// As a 32-bit integer in the current rounding mode, saturated. Below the range the conversion itself gives the lowest
-// integer, so that only the upper end needs a test.
-inline Tarn32s roundSaturated(Tarn64f x) { return roundDouble(x > highest<Tarn32s> ? highest<Tarn32s> : x); }
 
 } // namespace tarn

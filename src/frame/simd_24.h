@@ -4,7 +4,8 @@
 // hold two elements each.
 #pragma once
 
-#include "frame/simd.h"
+#include "frame/simd_int.h"
+#include "frame/simd_memory.h"
 
 #include <cstddef>
 
@@ -16,30 +17,31 @@ struct Stored24 {
 };
 static_assert(sizeof(Stored24) == 3);
 
+// As many as a register of bytes has, in three of them.
 template <>
-inline constexpr int lanes<Stored24> = vectorBytes;
+inline constexpr int registerLanes<Stored24> = registerBytes;
 
 template <>
-struct Pack<Stored24, vectorBytes> {
+struct Pack<Stored24, registerBytes> {
     using Element = Stored24;
-    static constexpr int size = vectorBytes;
-    Vector<Tarn8u> first, second, third;
+    static constexpr int size = registerBytes;
+    Register<Tarn8u> first, second, third;
 };
 
-TARN_INLINE void store(Stored24* p, Pack<Stored24, vectorBytes> x)
+TARN_INLINE void store(Stored24* p, Register<Stored24> x)
 {
     Tarn8u* const bytes = p->byte;
     store(bytes, x.first);
-    store(bytes + vectorBytes, x.second);
-    store(bytes + 2 * vectorBytes, x.third);
+    store(bytes + registerBytes, x.second);
+    store(bytes + 2 * registerBytes, x.third);
 }
 
-TARN_INLINE void storeStream(Stored24* p, Pack<Stored24, vectorBytes> x)
+TARN_INLINE void storeStream(Stored24* p, Register<Stored24> x)
 {
     Tarn8u* const bytes = p->byte;
     storeStream(bytes, x.first);
-    storeStream(bytes + vectorBytes, x.second);
-    storeStream(bytes + 2 * vectorBytes, x.third);
+    storeStream(bytes + registerBytes, x.second);
+    storeStream(bytes + 2 * registerBytes, x.third);
 }
 
 // An array of stored elements read as 32-bit ones, signed or not.
@@ -61,22 +63,25 @@ TARN_INLINE W loadElement(Source24<W> source)
 
 // The four elements in the first twelve bytes.
 template <Integer W>
-TARN_INLINE Vector<W> expand24(__m128i twelve)
+TARN_INLINE Register<W> expand24(__m128i twelve)
 {
     const __m128i pairs = _mm_unpacklo_epi64(twelve, _mm_srli_si128(twelve, 6));
     const __m128i even = _mm_and_si128(_mm_slli_epi64(pairs, 8), _mm_set_epi32(0, -0x100, 0, -0x100));
     const __m128i odd = _mm_and_si128(_mm_slli_epi64(pairs, 16), _mm_set_epi32(-0x100, 0, -0x100, 0));
-    return ShiftRight::of(Vector<W>{_mm_or_si128(even, odd)}, 8);
+    return ShiftRight::of(Register<W>{_mm_or_si128(even, odd)}, 8);
 }
 
 template <int N, Integer W>
 TARN_INLINE Pack<W, N> loadPack(Source24<W> source)
 {
-    static_assert(N == vectorBytes);
-    const auto at = [&](int byte) { return loadPack<vectorBytes>(source.bytes + byte).v; };
-    return join(join(expand24<W>(at(0)), expand24<W>(at(12))),
-                // The last four come with the bytes before them, since nothing is known of those behind.
-                join(expand24<W>(at(24)), expand24<W>(_mm_srli_si128(at(32), 4))));
+    if constexpr (N > registerBytes) {
+        return join(loadPack<N / 2>(source), loadPack<N / 2>(source + N / 2));
+    } else {
+        const auto at = [&](int byte) { return loadPack<registerBytes>(source.bytes + byte).v; };
+        return join(join(expand24<W>(at(0)), expand24<W>(at(12))),
+                    // The last four come with the bytes before them, since nothing is known of those behind.
+                    join(expand24<W>(at(24)), expand24<W>(_mm_srli_si128(at(32), 4))));
+    }
 }
 
 // The low 24 bits of each element.
@@ -89,7 +94,7 @@ struct Store24 {
     // Pairs of elements make 48 bits of 64. The first and the third register go together, and so do the others, so that
     // each half of a register holds pairs that are four apart, and four of them fill three words of either half.
     template <Integer W>
-    static TARN_INLINE Pack<Stored24, vectorBytes> of(Pack<W, vectorBytes> x)
+    static TARN_INLINE Register<Stored24> of(Pack<W, registerBytes> x)
     {
         const __m128i a = pairs(x.lo.lo.v);
         const __m128i b = pairs(x.lo.hi.v);

@@ -128,8 +128,8 @@ struct CircularMethod {
         const B cosine = bitsOf(cosineOf(angle, z));
         const B one = splat<B>(1);
         const B isOdd = sub(splat<B>(0), bitAnd(angle.quarters, one));
-        const X first = floatOf<X>(blend(isOdd, cosine, sine));
-        const X second = floatOf<X>(blend(isOdd, sine, cosine));
+        const X first = floatOfBits(blend(isOdd, cosine, sine));
+        const X second = floatOfBits(blend(isOdd, sine, cosine));
         const B sign = bitXor(shiftLeft(angle.quarters, signShift), bitsOf(x));
         return {flippedBy(sign, first), flippedBy(shiftLeft(add(angle.quarters, one), signShift), second)};
     }
@@ -158,7 +158,7 @@ TARN_INLINE SineAndCosine<T> sineAndCosine(T x)
 template <typename T, int N>
 TARN_INLINE SineAndCosine<Pack<T, N>> sineAndCosine(Pack<T, N> x)
 {
-    if constexpr (N > lanes<T>) {
+    if constexpr (N > registerLanes<T>) {
         const auto lo = sineAndCosine(x.lo);
         const auto hi = sineAndCosine(x.hi);
         return {join(lo.sine, hi.sine), join(lo.cosine, hi.cosine)};

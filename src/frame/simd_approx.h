@@ -1,10 +1,9 @@
-// What the vector approximations are built of: polynomials, bits of floats, and the way out for rare arguments. All of
+// What the vector approximations are built of: constants, bits of floats, and the way out for rare arguments. All of
 // it takes an element or a register of any width.
 #pragma once
 
 #include "frame/polynomials.h"
-#include "frame/simd_mul.h"
-#include "frame/simd_reciprocal.h"
+#include "frame/simd_lanes.h"
 #include "frame/simd_round.h"
 
 namespace tarn {
@@ -20,17 +19,6 @@ TARN_INLINE X constant(Element<X> value)
 template <typename X>
 using BitsLike = Like<X, std::conditional_t<isSingle<Element<X>>, Tarn32s, Tarn64s>>;
 
-template <typename X>
-TARN_INLINE BitsLike<X> bitsOf(X x)
-{
-    return retype<Element<BitsLike<X>>>(x);
-}
-template <typename X, typename B>
-TARN_INLINE X floatOf(B bits)
-{
-    return retype<Element<X>>(bits);
-}
-
 // The bits of a that a mask of bits selects, elsewhere those of b.
 template <typename B>
 TARN_INLINE B blend(B mask, B a, B b)
@@ -43,18 +31,7 @@ template <typename X>
 TARN_INLINE X flippedBy(BitsLike<X> sign, X x)
 {
     const auto signBit = splat<BitsLike<X>>(lowest<Element<BitsLike<X>>>);
-    return floatOf<X>(bitXor(bitsOf(x), bitAnd(sign, signBit)));
-}
-
-// The sum of coefficients[i] x^i, from the highest power down.
-template <typename X, std::size_t count>
-TARN_INLINE X polynomial(X x, const Element<X> (&coefficients)[count])
-{
-    X sum = constant<X>(coefficients[count - 1]);
-    for (std::size_t i = count - 1; i-- > 0;) {
-        sum = add(mul(sum, x), constant<X>(coefficients[i]));
-    }
-    return sum;
+    return floatOfBits(bitXor(bitsOf(x), bitAnd(sign, signBit)));
 }
 
 // Adding this to a float leaves the nearest integer in its last bits; taking it away again leaves the integer itself.

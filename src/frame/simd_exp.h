@@ -27,7 +27,7 @@ struct ExponentialMethod {
         const X r = sub(sub(x, mul(k, constant<X>(logOfTwo<T>[0]))), mul(k, constant<X>(logOfTwo<T>[1])));
         const X square = mul(mul(r, r), polynomial(r, exponentialCoefficients<T>));
         const X y = add(add(square, r), constant<X>(1));
-        return mul(y, floatOf<X>(shiftLeft(bitsOf(spaced), mantissaBits<T>)));
+        return mul(y, floatOfBits(shiftLeft(bitsOf(spaced), mantissaBits<T>)));
     }
 
     template <Float T>
@@ -62,8 +62,8 @@ struct LogarithmMethod {
 
         const B moved = add(bitsOf(x), splat<B>(one - rootOfHalf));
         const B exponent = bitOr(shiftRightLogical(moved, mantissaBits<T>), splat<B>(std::bit_cast<I>(spacer)));
-        const X k = sub(floatOf<X>(exponent), constant<X>(spacer + exponentBias<T>));
-        const X m = floatOf<X>(add(bitAnd(moved, splat<B>(mantissa)), splat<B>(rootOfHalf)));
+        const X k = sub(floatOfBits(exponent), constant<X>(spacer + exponentBias<T>));
+        const X m = floatOfBits(add(bitAnd(moved, splat<B>(mantissa)), splat<B>(rootOfHalf)));
         const X f = sub(m, constant<X>(1));
 
         // What the leading sum loses goes in with the small terms.

@@ -35,7 +35,7 @@ struct BitAnd {
         return static_cast<T>(a & b);
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         return {_mm_and_si128(a.v, b.v)};
     }
@@ -49,7 +49,7 @@ struct BitOr {
         return static_cast<T>(a | b);
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         return {_mm_or_si128(a.v, b.v)};
     }
@@ -63,7 +63,7 @@ struct BitXor {
         return static_cast<T>(a ^ b);
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         return {_mm_xor_si128(a.v, b.v)};
     }
@@ -78,7 +78,7 @@ struct BitAndNot {
         return static_cast<T>(~a & b);
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         return {_mm_andnot_si128(a.v, b.v)};
     }
@@ -97,7 +97,7 @@ struct ShiftLeft {
         return n < width ? static_cast<T>(static_cast<Tarn64s>(static_cast<unsigned long long>(x) << n)) : T{0};
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> x, int n)
+    static TARN_INLINE Register<T> of(Register<T> x, int n)
     {
         const __m128i count = _mm_cvtsi32_si128(n);
         if constexpr (sizeof(T) == 2) {
@@ -124,7 +124,7 @@ struct ShiftRight {
         }
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> x, int n)
+    static TARN_INLINE Register<T> of(Register<T> x, int n)
     {
         const __m128i count = _mm_cvtsi32_si128(n);
         if constexpr (std::is_same_v<T, Tarn16s>) {
@@ -149,12 +149,26 @@ struct ShiftRightLogical {
         return static_cast<T>(ShiftRight::of(static_cast<Unsigned<T>>(x), n));
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> x, int n)
+    static TARN_INLINE Register<T> of(Register<T> x, int n)
     {
-        return {ShiftRight::of(Vector<Unsigned<T>>{x.v}, n).v};
+        return {ShiftRight::of(Register<Unsigned<T>>{x.v}, n).v};
+    }
+    static TARN_INLINE Register<Tarn64s> of(Register<Tarn64s> x, int n)
+    {
+        return {_mm_srl_epi64(x.v, _mm_cvtsi32_si128(n))};
     }
 };
 inline constexpr Word<ShiftRightLogical> shiftRightLogical;
+
+// All ones where the element is negative, zeros elsewhere.
+struct SignsOf64s {
+    static TARN_INLINE Tarn64s of(Tarn64s x) { return x >> 63; }
+    static TARN_INLINE Register<Tarn64s> of(Register<Tarn64s> x)
+    {
+        return {_mm_srai_epi32(_mm_shuffle_epi32(x.v, 0xF5), 31)};
+    }
+};
+inline constexpr Word<SignsOf64s> signsOf64s;
 
 // -- Arithmetic modulo the element's width ---------------------------------------------------------------------------
 
@@ -165,7 +179,7 @@ struct AddInteger {
         return static_cast<T>(static_cast<Unsigned<T>>(a) + static_cast<Unsigned<T>>(b));
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         if constexpr (sizeof(T) == 1) {
             return {_mm_add_epi8(a.v, b.v)};
@@ -186,7 +200,7 @@ struct SubInteger {
         return static_cast<T>(static_cast<Unsigned<T>>(a) - static_cast<Unsigned<T>>(b));
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         if constexpr (sizeof(T) == 1) {
             return {_mm_sub_epi8(a.v, b.v)};
@@ -208,18 +222,27 @@ struct GreaterInteger {
     {
         return a > b;
     }
-    static TARN_INLINE Vector<Tarn8s> of(Vector<Tarn8s> a, Vector<Tarn8s> b) { return {_mm_cmpgt_epi8(a.v, b.v)}; }
-    static TARN_INLINE Vector<Tarn16s> of(Vector<Tarn16s> a, Vector<Tarn16s> b) { return {_mm_cmpgt_epi16(a.v, b.v)}; }
-    static TARN_INLINE Vector<Tarn32s> of(Vector<Tarn32s> a, Vector<Tarn32s> b) { return {_mm_cmpgt_epi32(a.v, b.v)}; }
+    static TARN_INLINE Register<Tarn8s> of(Register<Tarn8s> a, Register<Tarn8s> b)
+    {
+        return {_mm_cmpgt_epi8(a.v, b.v)};
+    }
+    static TARN_INLINE Register<Tarn16s> of(Register<Tarn16s> a, Register<Tarn16s> b)
+    {
+        return {_mm_cmpgt_epi16(a.v, b.v)};
+    }
+    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32s> a, Register<Tarn32s> b)
+    {
+        return {_mm_cmpgt_epi32(a.v, b.v)};
+    }
     // The instructions compare signed lanes: moving both operands by half the range keeps the order.
     template <Integer T>
         requires std::is_unsigned_v<T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         using S = std::make_signed_t<T>;
-        const auto middle = splat<Vector<S>>(lowest<S>);
-        const Vector<S> aMoved{_mm_xor_si128(a.v, middle.v)};
-        const Vector<S> bMoved{_mm_xor_si128(b.v, middle.v)};
+        const auto middle = splat<Register<S>>(lowest<S>);
+        const Register<S> aMoved{_mm_xor_si128(a.v, middle.v)};
+        const Register<S> bMoved{_mm_xor_si128(b.v, middle.v)};
         return {of(aMoved, bMoved).v};
     }
 };
@@ -232,7 +255,7 @@ struct EqualInteger {
     }
     template <Integer T>
         requires(sizeof(T) < 8)
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         if constexpr (sizeof(T) == 1) {
             return {_mm_cmpeq_epi8(a.v, b.v)};
@@ -251,7 +274,7 @@ struct SelectInteger {
         return mask ? yes : no;
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> mask, Vector<T> yes, Vector<T> no)
+    static TARN_INLINE Register<T> of(Register<T> mask, Register<T> yes, Register<T> no)
     {
         return {_mm_or_si128(_mm_and_si128(mask.v, yes.v), _mm_andnot_si128(mask.v, no.v))};
     }
@@ -264,7 +287,7 @@ struct MinInteger {
         return a < b ? a : b;
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         if constexpr (std::is_same_v<T, Tarn8u>) {
             return {_mm_min_epu8(a.v, b.v)};
@@ -283,7 +306,7 @@ struct MaxInteger {
         return a > b ? a : b;
     }
     template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
     {
         if constexpr (std::is_same_v<T, Tarn8u>) {
             return {_mm_max_epu8(a.v, b.v)};
@@ -295,6 +318,51 @@ struct MaxInteger {
     }
 };
 
+// x where the mask is set, 0 elsewhere.
+struct KeepWhere {
+    template <Integer T>
+    static TARN_INLINE T of(bool mask, T x)
+    {
+        return mask ? x : T{0};
+    }
+    template <Integer T>
+    static TARN_INLINE Register<T> of(Register<T> mask, Register<T> x)
+    {
+        return {_mm_and_si128(mask.v, x.v)};
+    }
+};
+inline constexpr Word<KeepWhere> keepWhere;
+
+// The elements moved by half their range, as signed for unsigned ones and back, which keeps their order: the
+// instructions compare signed lanes.
+struct MoveOrder {
+    template <Integer T>
+    using Opposite = std::conditional_t<std::is_unsigned_v<T>, std::make_signed_t<T>, std::make_unsigned_t<T>>;
+
+    template <Integer T>
+    static TARN_INLINE Opposite<T> of(T x)
+    {
+        using U = Unsigned<T>;
+        return static_cast<Opposite<T>>(static_cast<U>(x) ^ (U{1} << (8 * sizeof(T) - 1)));
+    }
+    template <Integer T>
+    static TARN_INLINE Register<Opposite<T>> of(Register<T> x)
+    {
+        return {_mm_xor_si128(x.v, splat<Register<std::make_signed_t<T>>>(lowest<std::make_signed_t<T>>).v)};
+    }
+};
+inline constexpr Word<MoveOrder> moveOrder;
+
+// |a - b|.
+struct Distance {
+    static TARN_INLINE Tarn16u of(Tarn16s a, Tarn16s b) { return static_cast<Tarn16u>(a > b ? a - b : b - a); }
+    static TARN_INLINE Register<Tarn16u> of(Register<Tarn16s> a, Register<Tarn16s> b)
+    {
+        return {_mm_sub_epi16(_mm_max_epi16(a.v, b.v), _mm_min_epi16(a.v, b.v))};
+    }
+};
+inline constexpr Word<Distance> distance;
+
 // -- Saturating arithmetic -------------------------------------------------------------------------------------------
 
 struct AddSaturated {
@@ -305,21 +373,27 @@ struct AddSaturated {
         using W = std::conditional_t<sizeof(T) == 4, Tarn64s, Tarn32s>;
         return clampTo<T>(static_cast<W>(W{a} + W{b}));
     }
-    static TARN_INLINE Vector<Tarn8u> of(Vector<Tarn8u> a, Vector<Tarn8u> b) { return {_mm_adds_epu8(a.v, b.v)}; }
-    static TARN_INLINE Vector<Tarn16u> of(Vector<Tarn16u> a, Vector<Tarn16u> b) { return {_mm_adds_epu16(a.v, b.v)}; }
-    static TARN_INLINE Vector<Tarn16s> of(Vector<Tarn16s> a, Vector<Tarn16s> b) { return {_mm_adds_epi16(a.v, b.v)}; }
+    static TARN_INLINE Register<Tarn8u> of(Register<Tarn8u> a, Register<Tarn8u> b) { return {_mm_adds_epu8(a.v, b.v)}; }
+    static TARN_INLINE Register<Tarn16u> of(Register<Tarn16u> a, Register<Tarn16u> b)
+    {
+        return {_mm_adds_epu16(a.v, b.v)};
+    }
+    static TARN_INLINE Register<Tarn16s> of(Register<Tarn16s> a, Register<Tarn16s> b)
+    {
+        return {_mm_adds_epi16(a.v, b.v)};
+    }
     // Carry out of the top: the wrapped sum is below an operand.
-    static TARN_INLINE Vector<Tarn32u> of(Vector<Tarn32u> a, Vector<Tarn32u> b)
+    static TARN_INLINE Register<Tarn32u> of(Register<Tarn32u> a, Register<Tarn32u> b)
     {
         const auto sum = AddInteger::of(a, b);
         return BitOr::of(sum, GreaterInteger::of(a, sum));
     }
     // The sum wrapped where both operands have the sign that it lacks; the bound has their sign.
-    static TARN_INLINE Vector<Tarn32s> of(Vector<Tarn32s> a, Vector<Tarn32s> b)
+    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32s> a, Register<Tarn32s> b)
     {
         const auto sum = AddInteger::of(a, b);
         const auto wrapped = ShiftRight::of(BitAndNot::of(BitXor::of(a, b), BitXor::of(a, sum)), 31);
-        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<Vector<Tarn32s>>(highest<Tarn32s>));
+        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<Register<Tarn32s>>(highest<Tarn32s>));
         return SelectInteger::of(wrapped, bound, sum);
     }
 };
@@ -334,14 +408,20 @@ struct SubSaturated {
         using W = std::conditional_t<sizeof(T) == 4, Tarn64s, Tarn32s>;
         return clampTo<T>(static_cast<W>(W{a} - W{b}));
     }
-    static TARN_INLINE Vector<Tarn8u> of(Vector<Tarn8u> a, Vector<Tarn8u> b) { return {_mm_subs_epu8(a.v, b.v)}; }
-    static TARN_INLINE Vector<Tarn16u> of(Vector<Tarn16u> a, Vector<Tarn16u> b) { return {_mm_subs_epu16(a.v, b.v)}; }
-    static TARN_INLINE Vector<Tarn16s> of(Vector<Tarn16s> a, Vector<Tarn16s> b) { return {_mm_subs_epi16(a.v, b.v)}; }
-    static TARN_INLINE Vector<Tarn32s> of(Vector<Tarn32s> a, Vector<Tarn32s> b)
+    static TARN_INLINE Register<Tarn8u> of(Register<Tarn8u> a, Register<Tarn8u> b) { return {_mm_subs_epu8(a.v, b.v)}; }
+    static TARN_INLINE Register<Tarn16u> of(Register<Tarn16u> a, Register<Tarn16u> b)
+    {
+        return {_mm_subs_epu16(a.v, b.v)};
+    }
+    static TARN_INLINE Register<Tarn16s> of(Register<Tarn16s> a, Register<Tarn16s> b)
+    {
+        return {_mm_subs_epi16(a.v, b.v)};
+    }
+    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32s> a, Register<Tarn32s> b)
     {
         const auto difference = SubInteger::of(a, b);
         const auto wrapped = ShiftRight::of(BitAnd::of(BitXor::of(a, b), BitXor::of(a, difference)), 31);
-        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<Vector<Tarn32s>>(highest<Tarn32s>));
+        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<Register<Tarn32s>>(highest<Tarn32s>));
         return SelectInteger::of(wrapped, bound, difference);
     }
 };

@@ -1,4 +1,5 @@
-// Words that take elements apart by even and odd places, and weave several vectors into one run of elements.
+// Words that take elements apart by even and odd places, weave several vectors into one run of elements, and turn rows
+// into columns.
 #pragma once
 
 #include "frame/simd_pack.h"
@@ -7,97 +8,180 @@
 
 namespace tarn {
 
-// The elements of two vectors in turn, a0 b0 a1 b1 ...: the lower and the upper half of them.
-struct ZipLow {
+// The elements of two packs in turn, a0 b0 a1 b1 ...
+struct Zip {
     template <typename T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Pack<T, 2 * registerLanes<T>> of(Register<T> a, Register<T> b)
+    {
+        return {low(a, b), high(a, b)};
+    }
+    template <typename T>
+    static TARN_INLINE Register<T> low(Register<T> a, Register<T> b)
     {
         if constexpr (isSingle<T>) {
             return {_mm_unpacklo_ps(a.v, b.v)};
         } else if constexpr (isDouble<T>) {
             return {_mm_unpacklo_pd(a.v, b.v)};
+        } else if constexpr (sizeof(T) == 4) {
+            return {_mm_unpacklo_epi32(a.v, b.v)};
         } else {
             static_assert(sizeof(T) == 2);
             return {_mm_unpacklo_epi16(a.v, b.v)};
         }
     }
-};
-struct ZipHigh {
     template <typename T>
-    static TARN_INLINE Vector<T> of(Vector<T> a, Vector<T> b)
+    static TARN_INLINE Register<T> high(Register<T> a, Register<T> b)
     {
         if constexpr (isSingle<T>) {
             return {_mm_unpackhi_ps(a.v, b.v)};
         } else if constexpr (isDouble<T>) {
             return {_mm_unpackhi_pd(a.v, b.v)};
+        } else if constexpr (sizeof(T) == 4) {
+            return {_mm_unpackhi_epi32(a.v, b.v)};
         } else {
             static_assert(sizeof(T) == 2);
             return {_mm_unpackhi_epi16(a.v, b.v)};
         }
     }
 };
+inline constexpr Word<Zip> zip;
 
-// The elements at even places of twice as many.
+// The lower half of what zip gives, and the upper half.
 template <typename T, int N>
-TARN_INLINE Vector<T> evenElements(Pack<T, N> x)
+TARN_INLINE Pack<T, N> zipLow(Pack<T, N> a, Pack<T, N> b)
 {
-    static_assert(N == 2 * lanes<T>);
-    if constexpr (std::is_same_v<T, Tarn32f>) {
-        return {_mm_shuffle_ps(x.lo.v, x.hi.v, 0x88)};
-    } else if constexpr (std::is_same_v<T, Tarn64f>) {
-        return {_mm_unpacklo_pd(x.lo.v, x.hi.v)};
+    if constexpr (N > registerLanes<T>) {
+        return zip(a.lo, b.lo);
     } else {
-        // Each with its sign in the place of its neighbour: nothing is left for the packing to saturate.
-        static_assert(std::is_same_v<T, Tarn16s>);
-        return {_mm_packs_epi32(_mm_srai_epi32(_mm_slli_epi32(x.lo.v, 16), 16),
-                                _mm_srai_epi32(_mm_slli_epi32(x.hi.v, 16), 16))};
+        return Zip::low(a, b);
     }
 }
+template <typename T, int N>
+TARN_INLINE Pack<T, N> zipHigh(Pack<T, N> a, Pack<T, N> b)
+{
+    if constexpr (N > registerLanes<T>) {
+        return zip(a.hi, b.hi);
+    } else {
+        return Zip::high(a, b);
+    }
+}
+
+// Every element twice: one real factor for both parts of a complex element.
+template <typename T, int N>
+TARN_INLINE Pack<T, 2 * N> twice(Pack<T, N> x)
+{
+    return zip(x, x);
+}
+
+// The elements at even places of twice as many, and those at odd ones.
+struct EvenElements {
+    template <typename T>
+    static TARN_INLINE Register<T> of(Pack<T, 2 * registerLanes<T>> x)
+    {
+        if constexpr (std::is_same_v<T, Tarn32f>) {
+            return {_mm_shuffle_ps(x.lo.v, x.hi.v, 0x88)};
+        } else if constexpr (std::is_same_v<T, Tarn64f>) {
+            return {_mm_unpacklo_pd(x.lo.v, x.hi.v)};
+        } else {
+            // Each with its sign in the place of its neighbour: nothing is left for the packing to saturate.
+            static_assert(std::is_same_v<T, Tarn16s>);
+            return {_mm_packs_epi32(_mm_srai_epi32(_mm_slli_epi32(x.lo.v, 16), 16),
+                                    _mm_srai_epi32(_mm_slli_epi32(x.hi.v, 16), 16))};
+        }
+    }
+};
+inline constexpr Word<EvenElements> evenElements;
+struct OddElements {
+    template <typename T>
+    static TARN_INLINE Register<T> of(Pack<T, 2 * registerLanes<T>> x)
+    {
+        if constexpr (std::is_same_v<T, Tarn32f>) {
+            return {_mm_shuffle_ps(x.lo.v, x.hi.v, 0xDD)};
+        } else {
+            static_assert(std::is_same_v<T, Tarn64f>);
+            return {_mm_unpackhi_pd(x.lo.v, x.hi.v)};
+        }
+    }
+};
+inline constexpr Word<OddElements> oddElements;
 
 // The elements of a vector at even places, or at odd ones, of a pack of zeros.
 template <typename T, int N>
 TARN_INLINE Pack<T, 2 * N> spreadEven(Pack<T, N> x)
 {
-    const auto zero = splat<Pack<T, N>>(T{0});
-    return {ZipLow::of(x, zero), ZipHigh::of(x, zero)};
+    return zip(x, splat<Pack<T, N>>(T{0}));
 }
 template <typename T, int N>
 TARN_INLINE Pack<T, 2 * N> spreadOdd(Pack<T, N> x)
 {
-    const auto zero = splat<Pack<T, N>>(T{0});
-    return {ZipLow::of(zero, x), ZipHigh::of(zero, x)};
+    return zip(splat<Pack<T, N>>(T{0}), x);
+}
+
+// The lower halves of two packs, and the upper halves.
+template <typename T, int N>
+TARN_INLINE Pack<T, N> lowHalves(Pack<T, N> a, Pack<T, N> b)
+{
+    if constexpr (N > registerLanes<T>) {
+        return {a.lo, b.lo};
+    } else if constexpr (std::is_same_v<T, Tarn32f>) {
+        return {_mm_movelh_ps(a.v, b.v)};
+    } else {
+        return {_mm_unpacklo_pd(a.v, b.v)};
+    }
+}
+template <typename T, int N>
+TARN_INLINE Pack<T, N> highHalves(Pack<T, N> a, Pack<T, N> b)
+{
+    if constexpr (N > registerLanes<T>) {
+        return {a.hi, b.hi};
+    } else if constexpr (std::is_same_v<T, Tarn32f>) {
+        return {_mm_movehl_ps(b.v, a.v)};
+    } else {
+        return {_mm_unpackhi_pd(a.v, b.v)};
+    }
 }
 
 // Channels woven into frames: the vectors in the order in which their elements lie in memory, one element of each
 // channel, then the next one of each. A weave of the even channels zipped with one of the odd ones.
-template <typename T, std::size_t Channels>
-TARN_INLINE std::array<Vector<T>, Channels> weave(const std::array<Vector<T>, Channels>& channels)
+template <typename T, int N, std::size_t Channels>
+TARN_INLINE std::array<Pack<T, N>, Channels> weave(const std::array<Pack<T, N>, Channels>& channels)
 {
     if constexpr (Channels == 1) {
         return channels;
     } else {
-        std::array<Vector<T>, Channels / 2> even, odd;
+        std::array<Pack<T, N>, Channels / 2> even, odd;
         for (std::size_t i = 0; i < Channels / 2; ++i) {
             even[i] = channels[2 * i];
             odd[i] = channels[2 * i + 1];
         }
         even = weave(even);
         odd = weave(odd);
-        std::array<Vector<T>, Channels> woven;
+        std::array<Pack<T, N>, Channels> woven;
         for (std::size_t i = 0; i < Channels / 2; ++i) {
-            woven[2 * i] = ZipLow::of(even[i], odd[i]);
-            woven[2 * i + 1] = ZipHigh::of(even[i], odd[i]);
+            woven[2 * i] = zipLow(even[i], odd[i]);
+            woven[2 * i + 1] = zipHigh(even[i], odd[i]);
         }
         return woven;
     }
 }
 
-// The lower and the upper half of a vector, each to a place of its own.
+// As many rows as a register has lanes, turned into columns.
 template <typename T>
-TARN_INLINE void storeHalves(T* low, T* high, Vector<T> x)
+using Square = std::array<Register<T>, registerLanes<T>>;
+
+template <typename T>
+TARN_INLINE Square<T> transpose(Square<T> rows)
 {
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(low), reinterpret_cast<__m128i>(x.v));
-    _mm_storeh_pi(reinterpret_cast<__m64*>(high), reinterpret_cast<__m128>(x.v));
+    if constexpr (std::is_same_v<T, Tarn32f>) {
+        const __m128 low01 = _mm_unpacklo_ps(rows[0].v, rows[1].v);
+        const __m128 low23 = _mm_unpacklo_ps(rows[2].v, rows[3].v);
+        const __m128 high01 = _mm_unpackhi_ps(rows[0].v, rows[1].v);
+        const __m128 high23 = _mm_unpackhi_ps(rows[2].v, rows[3].v);
+        return {Register<T>{_mm_movelh_ps(low01, low23)}, Register<T>{_mm_movehl_ps(low23, low01)},
+                Register<T>{_mm_movelh_ps(high01, high23)}, Register<T>{_mm_movehl_ps(high23, high01)}};
+    } else {
+        return {Register<T>{_mm_unpacklo_pd(rows[0].v, rows[1].v)}, Register<T>{_mm_unpackhi_pd(rows[0].v, rows[1].v)}};
+    }
 }
 
 } // namespace tarn

@@ -5,10 +5,6 @@
 
 namespace tarn {
 
-// Asks for the cache line that holds p: to stay, or to be read once. Any address may be asked for.
-TARN_INLINE void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
-TARN_INLINE void prefetchOnce(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_NTA); }
-
 // Leaves everything where it is.
 struct Identity {
     template <typename X>
@@ -26,7 +22,7 @@ struct Reverse {
     template <typename T, int N>
     static TARN_INLINE Pack<T, N> of(Pack<T, N> x)
     {
-        if constexpr (N > lanes<T>) {
+        if constexpr (N > registerLanes<T>) {
             return {of(x.hi), of(x.lo)};
         } else if constexpr (N == 1) {
             return x;
@@ -41,37 +37,53 @@ struct Reverse {
         } else {
             static_assert(sizeof(T) == 1);
             // Of the two shifts one is done as a product: they would wait for the same ports as the three shuffles.
-            const __m128i pairs = of(Vector<Tarn16u>{x.v}).v;
+            const __m128i pairs = of(Register<Tarn16u>{x.v}).v;
             return {_mm_or_si128(_mm_slli_epi16(pairs, 8), _mm_mulhi_epu16(pairs, _mm_set1_epi16(256)))};
         }
     }
 };
 inline constexpr Word<Reverse> reverse;
 
+// Elements of so many parts in opposite order; each keeps its parts as they are.
+template <int parts, Float T, int N>
+TARN_INLINE Pack<T, N> reverseElements(Pack<T, N> x)
+{
+    if constexpr (parts == 1) {
+        return reverse(x);
+    } else if constexpr (N > registerLanes<T>) {
+        return {reverseElements<parts>(x.hi), reverseElements<parts>(x.lo)};
+    } else if constexpr (registerLanes<T> == parts) {
+        return x;
+    } else {
+        static_assert(isSingle<T> && parts == 2);
+        return reinterpretPack<T>(reverse(reinterpretPack<Tarn32fc>(x)));
+    }
+}
+
 // The bytes within each element in opposite order.
 struct SwapBytes {
     static TARN_INLINE Tarn16u of(Tarn16u x) { return __builtin_bswap16(x); }
     static TARN_INLINE Tarn32u of(Tarn32u x) { return __builtin_bswap32(x); }
-    static TARN_INLINE Vector<Tarn16u> of(Vector<Tarn16u> x)
+    static TARN_INLINE Register<Tarn16u> of(Register<Tarn16u> x)
     {
         return {_mm_or_si128(_mm_slli_epi16(x.v, 8), _mm_srli_epi16(x.v, 8))};
     }
-    static TARN_INLINE Vector<Tarn32u> of(Vector<Tarn32u> x)
+    static TARN_INLINE Register<Tarn32u> of(Register<Tarn32u> x)
     {
         const __m128i halves = _mm_shufflehi_epi16(_mm_shufflelo_epi16(x.v, 0xB1), 0xB1);
-        return {of(Vector<Tarn16u>{halves}).v};
+        return {of(Register<Tarn16u>{halves}).v};
     }
 };
 inline constexpr Word<SwapBytes> swapBytes;
 
 // Vectors only: every byte n places up or down the register, zeros behind it.
 template <int n, typename T>
-TARN_INLINE Vector<T> shiftBytesUp(Vector<T> x)
+TARN_INLINE Register<T> shiftBytesUp(Register<T> x)
 {
     return {_mm_slli_si128(x.v, n)};
 }
 template <int n, typename T>
-TARN_INLINE Vector<T> shiftBytesDown(Vector<T> x)
+TARN_INLINE Register<T> shiftBytesDown(Register<T> x)
 {
     return {_mm_srli_si128(x.v, n)};
 }

@@ -15,11 +15,21 @@
 
 namespace tarn {
 
-// The width of this level's registers: the only place that knows it.
-inline constexpr int vectorBytes = 16;
+// The width of this level's registers, and that of its widest vector, which is made of so many of them: one, or more to
+// prove that no result depends on the width. The only place that knows.
+#ifndef TARNS_VECTOR_REGISTERS
+#define TARNS_VECTOR_REGISTERS 1
+#endif
+inline constexpr int registerBytes = 16;
+inline constexpr int vectorBytes = TARNS_VECTOR_REGISTERS * registerBytes;
+static_assert(vectorBytes == 16 || vectorBytes == 32 || vectorBytes == 64);
 
+// The elements of one register, and those of the widest vector. Only what shows in no result and in no layout may
+// follow the latter; a family that fixes a number of lanes writes that number.
 template <typename T>
-inline constexpr int lanes = vectorBytes / static_cast<int>(sizeof(T));
+inline constexpr int registerLanes = registerBytes / static_cast<int>(sizeof(T));
+template <typename T>
+inline constexpr int lanes = TARNS_VECTOR_REGISTERS* registerLanes<T>;
 
 // What a complex element is made of; a real element is its own part.
 template <typename T>
@@ -73,24 +83,26 @@ struct NativeOf<false, true> {
 template <typename T>
 using Native = typename NativeOf<isSingle<T>, isDouble<T>>::type;
 
-// N consecutive elements. One register when N is lanes<T>, two halves above that: the element counts of all operands of
-// an operation agree, however many registers each type needs for them.
+// N consecutive elements, in whatever registers they need: one when they fill it, two halves above that. The element
+// counts of all operands of an operation agree, however many registers each type needs for them.
 template <typename T, int N>
 struct Pack {
-    static_assert(N > lanes<T> && N % 2 == 0, "a pack fills whole registers");
+    static_assert(N > registerLanes<T> && N % 2 == 0, "a pack fills whole registers");
     using Element = T;
     static constexpr int size = N;
     Pack<T, N / 2> lo, hi;
 };
 
 template <typename T, int N>
-    requires(N == lanes<T>)
+    requires(N == registerLanes<T>)
 struct Pack<T, N> {
     using Element = T;
     static constexpr int size = N;
     Native<T> v;
 };
 
+template <typename T>
+using Register = Pack<T, registerLanes<T>>;
 template <typename T>
 using Vector = Pack<T, lanes<T>>;
 
@@ -183,7 +195,7 @@ TARN_INLINE void store(T* p, std::type_identity_t<T> x)
 template <int N, typename T>
 TARN_INLINE Pack<T, N> loadPack(const T* p)
 {
-    if constexpr (N > lanes<T>) {
+    if constexpr (N > registerLanes<T>) {
         return {loadPack<N / 2>(p), loadPack<N / 2>(p + N / 2)};
     } else if constexpr (isSingle<T>) {
         return {_mm_loadu_ps(reinterpret_cast<const float*>(p))};
@@ -197,7 +209,7 @@ TARN_INLINE Pack<T, N> loadPack(const T* p)
 template <typename T, int N>
 TARN_INLINE void store(T* p, Pack<T, N> x)
 {
-    if constexpr (N > lanes<T>) {
+    if constexpr (N > registerLanes<T>) {
         store(p, x.lo);
         store(p + N / 2, x.hi);
     } else if constexpr (isSingle<T>) {
@@ -209,24 +221,6 @@ TARN_INLINE void store(T* p, Pack<T, N> x)
     }
 }
 
-// Stores past the caches; `p` lies on a vector boundary. A run of them ends with streamFence.
-template <typename T, int N>
-TARN_INLINE void storeStream(T* p, Pack<T, N> x)
-{
-    if constexpr (N > lanes<T>) {
-        storeStream(p, x.lo);
-        storeStream(p + N / 2, x.hi);
-    } else if constexpr (isSingle<T>) {
-        _mm_stream_ps(reinterpret_cast<float*>(p), x.v);
-    } else if constexpr (isDouble<T>) {
-        _mm_stream_pd(reinterpret_cast<double*>(p), x.v);
-    } else {
-        _mm_stream_si128(reinterpret_cast<__m128i*>(p), x.v);
-    }
-}
-
-TARN_INLINE void streamFence() { _mm_sfence(); }
-
 // A value in every place of X, which is an element type or a pack.
 template <typename X>
 TARN_INLINE X splat(Element<X> value)
@@ -234,7 +228,7 @@ TARN_INLINE X splat(Element<X> value)
     using T = Element<X>;
     if constexpr (!isPack<X>) {
         return value;
-    } else if constexpr (X::size > lanes<T>) {
+    } else if constexpr (X::size > registerLanes<T>) {
         const auto half = splat<decltype(X::lo)>(value);
         return {half, half};
     } else if constexpr (std::is_same_v<T, Tarn32f>) {
@@ -267,7 +261,7 @@ template <typename U, typename T, int N>
 TARN_INLINE auto reinterpretPack(Pack<T, N> x)
 {
     constexpr int M = N * static_cast<int>(sizeof(T)) / static_cast<int>(sizeof(U));
-    if constexpr (N > lanes<T>) {
+    if constexpr (N > registerLanes<T>) {
         return join(reinterpretPack<U>(x.lo), reinterpretPack<U>(x.hi));
     } else {
         return Pack<U, M>{reinterpret_cast<Native<U>>(x.v)};

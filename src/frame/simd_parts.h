@@ -2,9 +2,9 @@
 // precision. One element is a register of its own, so that elements and packs go through the same instructions.
 #pragma once
 
-#include "frame/simd_convert.h"
-#include "frame/simd_mul.h"
-#include "frame/simd_reciprocal.h"
+#include "frame/simd_complex.h"
+#include "frame/simd_interleave.h"
+#include "frame/simd_round.h"
 
 namespace tarn {
 
@@ -15,19 +15,19 @@ TARN_INLINE auto asDoubles(X z)
     using T = Element<X>;
     if constexpr (!isPack<X>) {
         if constexpr (std::is_same_v<T, Tarn64fc>) {
-            return loadPack<lanes<Tarn64f>>(&z.re);
+            return loadPack<registerLanes<Tarn64f>>(&z.re);
         } else {
-            return Vector<Tarn64f>{_mm_set_pd(z.im, z.re)};
+            return Register<Tarn64f>{_mm_set_pd(z.im, z.re)};
         }
     } else if constexpr (std::is_same_v<T, Tarn64fc>) {
         return reinterpretPack<Tarn64f>(z);
     } else if constexpr (std::is_same_v<T, Tarn16sc>) {
         return convert<Tarn64f>(widen(reinterpretPack<Tarn16s>(z)));
-    } else if constexpr (X::size > lanes<T>) {
+    } else if constexpr (X::size > registerLanes<T>) {
         return join(asDoubles(z.lo), asDoubles(z.hi));
     } else {
         static_assert(std::is_same_v<T, Tarn32fc>);
-        return Pack<Tarn64f, 2 * lanes<Tarn64f>>{{_mm_cvtps_pd(z.v)}, {_mm_cvtps_pd(_mm_movehl_ps(z.v, z.v))}};
+        return Pack<Tarn64f, 2 * registerLanes<Tarn64f>>{{_mm_cvtps_pd(z.v)}, {_mm_cvtps_pd(_mm_movehl_ps(z.v, z.v))}};
     }
 }
 
@@ -41,36 +41,19 @@ TARN_INLINE X fromDoubles(Pack<Tarn64f, N> parts)
         Tarn64fc z;
         store(&z.re, parts);
         if constexpr (std::is_same_v<T, Tarn16sc>) {
-            return {clampTo<Tarn16s>(roundDouble(z.re)), clampTo<Tarn16s>(roundDouble(z.im))};
+            return {clampTo<Tarn16s>(roundToInteger(z.re)), clampTo<Tarn16s>(roundToInteger(z.im))};
         } else {
             return {static_cast<Part<T>>(z.re), static_cast<Part<T>>(z.im)};
         }
     } else if constexpr (std::is_same_v<T, Tarn64fc>) {
         return reinterpretPack<T>(parts);
     } else if constexpr (std::is_same_v<T, Tarn16sc>) {
-        return reinterpretPack<T>(narrowSaturated<Tarn16s>(roundDouble(parts)));
-    } else if constexpr (X::size > lanes<T>) {
+        return reinterpretPack<T>(narrowSaturated<Tarn16s>(roundToInteger(parts)));
+    } else if constexpr (X::size > registerLanes<T>) {
         return {fromDoubles<decltype(X::lo)>(parts.lo), fromDoubles<decltype(X::hi)>(parts.hi)};
     } else {
         static_assert(std::is_same_v<T, Tarn32fc>);
         return {_mm_movelh_ps(_mm_cvtpd_ps(parts.lo.v), _mm_cvtpd_ps(parts.hi.v))};
-    }
-}
-
-// re^2 + im^2 of each pair of parts, three operations and three roundings. Of one pair alone in both lanes.
-template <int N>
-TARN_INLINE auto squaredMagnitudes(Pack<Tarn64f, N> parts)
-{
-    constexpr int whole = lanes<Tarn64f>;
-    if constexpr (N > 2 * whole) {
-        return join(squaredMagnitudes(parts.lo), squaredMagnitudes(parts.hi));
-    } else {
-        const auto squares = mul(parts, parts);
-        if constexpr (N == whole) {
-            return Vector<Tarn64f>{_mm_hadd_pd(squares.v, squares.v)};
-        } else {
-            return Vector<Tarn64f>{_mm_hadd_pd(squares.lo.v, squares.hi.v)};
-        }
     }
 }
 
@@ -80,7 +63,7 @@ TARN_INLINE D inBothParts(Pack<Tarn64f, N> perElement)
 {
     if constexpr (D::size == N) {
         return perElement;
-    } else if constexpr (N > lanes<Tarn64f>) {
+    } else if constexpr (N > registerLanes<Tarn64f>) {
         return {inBothParts<decltype(D::lo)>(perElement.lo), inBothParts<decltype(D::lo)>(perElement.hi)};
     } else {
         const __m128d x = perElement.v;
@@ -90,7 +73,7 @@ TARN_INLINE D inBothParts(Pack<Tarn64f, N> perElement)
 
 // The larger of |re| and |im| in the places of both.
 struct LargerParts {
-    static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> parts)
+    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> parts)
     {
         const auto sizes = Absolute::of(parts);
         return {_mm_max_pd(sizes.v, _mm_shuffle_pd(sizes.v, sizes.v, 1))};
@@ -100,7 +83,7 @@ inline constexpr Word<LargerParts> largerParts;
 
 // The conjugates.
 struct ConjugateParts {
-    static TARN_INLINE Vector<Tarn64f> of(Vector<Tarn64f> parts)
+    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> parts)
     {
         return {_mm_xor_pd(parts.v, _mm_set_pd(-0.0, 0.0))};
     }
@@ -111,7 +94,7 @@ inline constexpr Word<ConjugateParts> conjugateParts;
 template <typename D>
 TARN_INLINE D realParts(Tarn64f re)
 {
-    if constexpr (D::size > lanes<Tarn64f>) {
+    if constexpr (D::size > registerLanes<Tarn64f>) {
         const auto half = realParts<decltype(D::lo)>(re);
         return {half, half};
     } else {
@@ -129,17 +112,6 @@ TARN_INLINE auto elementMask(Pack<Tarn64f, N> mask)
     } else {
         return mask;
     }
-}
-
-// `yes` where the mask over elements is set, `no` elsewhere; the bits of either, unchanged.
-template <typename T>
-    requires isComplex<T> TARN_INLINE T chooseElements(bool mask, T yes, T no) { return mask ? yes : no; }
-
-template <typename M, int K, typename T, int N>
-TARN_INLINE Pack<T, N> chooseElements(Pack<M, K> mask, Pack<T, N> yes, Pack<T, N> no)
-{
-    using P = Part<T>;
-    return reinterpretPack<T>(select(reinterpretPack<P>(mask), reinterpretPack<P>(yes), reinterpretPack<P>(no)));
 }
 
 } // namespace tarn

@@ -1,119 +1,182 @@
-// Words of conversion: single precision to integers and to double, floats as their bits.
+// Words of conversion between integers and floating point, floats as their bits, and samples as the lanes that they are
+// computed in.
 #pragma once
 
-#include "frame/simd_mul.h"
+#include "frame/simd_control.h"
+#include "frame/simd_convert.h"
+
+#include <bit>
 
 namespace tarn {
 
-// An operation carried through one register after the other: its intermediate results then are few enough at a time for
-// the eight registers of 32-bit code.
-template <typename X, typename Operation>
-TARN_INLINE auto byRegister(X x, Operation operation)
-{
-    if constexpr (isPack<X>) {
-        if constexpr (X::size > lanes<Element<X>>) {
-            return join(byRegister(x.lo, operation), byRegister(x.hi, operation));
-        } else {
-            return operation(x);
-        }
-    } else {
-        return operation(x);
-    }
-}
+// -- Integers as floats, in the current rounding mode -----------------------------------------------------------------
 
-// -- Widening --------------------------------------------------------------------------------------------------------
+template <typename D>
+struct Convert;
 
-// What `widen` gives for signed elements, the upper halves made by a comparison: one for both, and it leaves the units
-// that shift to the conversion that follows.
-struct WidenBySign {
-    static TARN_INLINE Tarn16s of(Tarn8s x) { return x; }
-    static TARN_INLINE Tarn32s of(Tarn16s x) { return x; }
-    static TARN_INLINE Pack<Tarn16s, 2 * lanes<Tarn16s>> of(Vector<Tarn8s> x)
+template <>
+struct Convert<Tarn32f> {
+    static TARN_INLINE Tarn32f of(Tarn32s x) { return static_cast<Tarn32f>(x); }
+    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32s> x) { return {_mm_cvtepi32_ps(x.v)}; }
+};
+template <typename D>
+inline constexpr Word<Convert<D>> convert;
+
+// Exact.
+template <>
+struct Convert<Tarn64f> {
+    static TARN_INLINE Tarn64f of(Tarn32s x) { return x; }
+    static TARN_INLINE Pack<Tarn64f, 2 * registerLanes<Tarn64f>> of(Register<Tarn32s> x)
     {
-        const __m128i signs = _mm_cmpgt_epi8(_mm_setzero_si128(), x.v);
-        return {{_mm_unpacklo_epi8(x.v, signs)}, {_mm_unpackhi_epi8(x.v, signs)}};
-    }
-    static TARN_INLINE Pack<Tarn32s, 2 * lanes<Tarn32s>> of(Vector<Tarn16s> x)
-    {
-        const __m128i signs = _mm_cmpgt_epi16(_mm_setzero_si128(), x.v);
-        return {{_mm_unpacklo_epi16(x.v, signs)}, {_mm_unpackhi_epi16(x.v, signs)}};
+        return {{_mm_cvtepi32_pd(x.v)}, {_mm_cvtepi32_pd(_mm_shuffle_epi32(x.v, 0x4E))}};
     }
 };
-inline constexpr Word<WidenBySign> widenBySign;
 
-// -- Floats as integers ----------------------------------------------------------------------------------------------
+// -- Floats as integers -----------------------------------------------------------------------------------------------
 
 // In the current rounding mode; what does not fit, NaN included, becomes the lowest integer.
-struct RoundSingle {
+struct RoundToInteger {
     static TARN_INLINE Tarn32s of(Tarn32f x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
-    static TARN_INLINE Vector<Tarn32s> of(Vector<Tarn32f> x) { return {_mm_cvtps_epi32(x.v)}; }
+    static TARN_INLINE Tarn32s of(Tarn64f x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
+    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32f> x) { return {_mm_cvtps_epi32(x.v)}; }
+    static TARN_INLINE Register<Tarn32s> of(Pack<Tarn64f, 2 * registerLanes<Tarn64f>> x)
+    {
+        return {_mm_unpacklo_epi64(_mm_cvtpd_epi32(x.lo.v), _mm_cvtpd_epi32(x.hi.v))};
+    }
 };
-inline constexpr Word<RoundSingle> roundSingle;
+inline constexpr Word<RoundToInteger> roundToInteger;
 
 // Towards zero; what does not fit, NaN included, becomes the lowest integer.
-struct TruncateSingle {
+struct TruncateToInteger {
     static TARN_INLINE Tarn32s of(Tarn32f x) { return _mm_cvttss_si32(_mm_set_ss(x)); }
-    static TARN_INLINE Vector<Tarn32s> of(Vector<Tarn32f> x) { return {_mm_cvttps_epi32(x.v)}; }
+    static TARN_INLINE Tarn32s of(Tarn64f x) { return _mm_cvttsd_si32(_mm_set_sd(x)); }
+    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32f> x) { return {_mm_cvttps_epi32(x.v)}; }
+    static TARN_INLINE Register<Tarn32s> of(Pack<Tarn64f, 2 * registerLanes<Tarn64f>> x)
+    {
+        return {_mm_unpacklo_epi64(_mm_cvttpd_epi32(x.lo.v), _mm_cvttpd_epi32(x.hi.v))};
+    }
 };
-inline constexpr Word<TruncateSingle> truncateSingle;
+inline constexpr Word<TruncateToInteger> truncateToInteger;
 
-// The conversion of another word, saturated at both ends. No float lies between the highest integer and 2^31, so that
-// a limit from above cannot be a float: the lowest integer, which the conversion gives from 2^31 on, is inverted.
+// The conversion of another word, saturated at both ends. No single-precision number lies between the highest integer
+// and 2^31, so that a limit from above cannot be one: the lowest integer, which the conversion gives from 2^31 on, is
+// inverted. Doubles have that limit.
 template <typename Conversion>
-struct SaturateSingle {
+struct SaturatedConversion {
     static constexpr Tarn32f beyond = 2147483648.0F;
 
     static TARN_INLINE Tarn32s of(Tarn32f x) { return x >= beyond ? highest<Tarn32s> : Conversion::of(x); }
-    static TARN_INLINE Vector<Tarn32s> of(Vector<Tarn32f> x)
+    static TARN_INLINE Tarn32s of(Tarn64f x)
+    {
+        return Conversion::of(x > highest<Tarn32s> ? Tarn64f{highest<Tarn32s>} : x);
+    }
+    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32f> x)
     {
         const __m128i tooHigh = _mm_castps_si128(_mm_cmpge_ps(x.v, _mm_set1_ps(beyond)));
         return {_mm_xor_si128(Conversion::of(x).v, tooHigh)};
     }
 };
-inline constexpr Word<SaturateSingle<RoundSingle>> roundSaturated;
-inline constexpr Word<SaturateSingle<TruncateSingle>> truncateSaturated;
+inline constexpr Word<SaturatedConversion<RoundToInteger>> roundSaturated;
+inline constexpr Word<SaturatedConversion<TruncateToInteger>> truncateSaturated;
 
-// -- Between the precisions ------------------------------------------------------------------------------------------
+// Rounded in the current mode and saturated to the bounds of D, which are limits as floats, so that nothing leaves 32
+// bits in the conversion. A NaN becomes the lowest value.
+template <Integer D, typename X>
+TARN_INLINE auto roundLimited(X x)
+{
+    return narrowSaturated<D>(roundToInteger(min(max(x, splat<X>(lowest<D>)), splat<X>(highest<D>))));
+}
 
-// In the current rounding mode.
-struct NarrowFloat {
-    static TARN_INLINE Tarn32f of(Tarn64f x) { return static_cast<Tarn32f>(x); }
-    static TARN_INLINE Vector<Tarn32f> of(Pack<Tarn64f, 2 * lanes<Tarn64f>> x)
-    {
-        return {_mm_movelh_ps(_mm_cvtpd_ps(x.lo.v), _mm_cvtpd_ps(x.hi.v))};
-    }
-};
-inline constexpr Word<NarrowFloat> narrowFloat;
+// -- The bits of floats -----------------------------------------------------------------------------------------------
 
-// -- Masks -----------------------------------------------------------------------------------------------------------
-
-// x where the mask is set, 0 elsewhere.
-struct KeepWhere {
-    template <Integer T>
-    static TARN_INLINE T of(bool mask, T x)
-    {
-        return mask ? x : T{0};
-    }
-    template <Integer T>
-    static TARN_INLINE Vector<T> of(Vector<T> mask, Vector<T> x)
-    {
-        return {_mm_and_si128(mask.v, x.v)};
-    }
-};
-inline constexpr Word<KeepWhere> keepWhere;
-
-// -- The bits of single precision ------------------------------------------------------------------------------------
-
-struct BitsOfSingle {
+struct BitsOf {
     static TARN_INLINE Tarn32s of(Tarn32f x) { return std::bit_cast<Tarn32s>(x); }
-    static TARN_INLINE Vector<Tarn32s> of(Vector<Tarn32f> x) { return {_mm_castps_si128(x.v)}; }
+    static TARN_INLINE Tarn64s of(Tarn64f x) { return std::bit_cast<Tarn64s>(x); }
+    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32f> x) { return {_mm_castps_si128(x.v)}; }
+    static TARN_INLINE Register<Tarn64s> of(Register<Tarn64f> x) { return {_mm_castpd_si128(x.v)}; }
 };
-inline constexpr Word<BitsOfSingle> bitsOfSingle;
+inline constexpr Word<BitsOf> bitsOf;
 
-struct SingleOfBits {
+struct FloatOfBits {
     static TARN_INLINE Tarn32f of(Tarn32s x) { return std::bit_cast<Tarn32f>(x); }
-    static TARN_INLINE Vector<Tarn32f> of(Vector<Tarn32s> x) { return {_mm_castsi128_ps(x.v)}; }
+    static TARN_INLINE Tarn64f of(Tarn64s x) { return std::bit_cast<Tarn64f>(x); }
+    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32s> x) { return {_mm_castsi128_ps(x.v)}; }
+    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64s> x) { return {_mm_castsi128_pd(x.v)}; }
 };
-inline constexpr Word<SingleOfBits> singleOfBits;
+inline constexpr Word<FloatOfBits> floatOfBits;
+
+// -- Samples as the lanes that they are computed in, and lanes as samples ---------------------------------------------
+
+// The type in which samples of a kind are multiplied: 16-bit ones as single-precision floats.
+template <typename T>
+using LaneOf = std::conditional_t<isDouble<T>, Tarn64f, Tarn32f>;
+
+template <int N, Float T>
+TARN_INLINE Pack<T, N> loadSamples(const T* p)
+{
+    return loadPack<N>(p);
+}
+template <int N>
+TARN_INLINE Pack<Tarn32f, N> loadSamples(const Tarn16s* p)
+{
+    if constexpr (N > registerLanes<Tarn32f>) {
+        return {loadSamples<N / 2>(p), loadSamples<N / 2>(p + N / 2)};
+    } else {
+        const __m128i x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+        return {_mm_cvtepi32_ps(_mm_srai_epi32(_mm_unpacklo_epi16(x, x), 16))};
+    }
+}
+
+// Integers saturated to 16 bits.
+template <int N>
+TARN_INLINE void storeNarrowed(Tarn16s* p, Pack<Tarn32s, N> x)
+{
+    if constexpr (N > registerLanes<Tarn32s>) {
+        storeNarrowed(p, x.lo);
+        storeNarrowed(p + N / 2, x.hi);
+    } else {
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_packs_epi32(x.v, x.v));
+    }
+}
+
+// 16-bit samples are rounded by the conversion instruction and saturated: beyond 32 bits, and from a NaN, they become
+// the lowest value.
+template <Float T, int N>
+TARN_INLINE void storeSamples(T* p, Pack<T, N> x)
+{
+    store(p, x);
+}
+template <int N>
+TARN_INLINE void storeSamples(Tarn16s* p, Pack<Tarn32f, N> x)
+{
+    storeNarrowed(p, roundToInteger(x));
+}
+
+// To an integer in the rounding mode of the vector unit, whose conversions the other elements of an array go through:
+// callers may have set the two units differently. The compiler's own rint() rounds magnitudes where it sees no more
+// than single or double precision, which is wrong for negative values in a directed mode.
+inline long double roundExtended(long double x)
+{
+    const unsigned short own = readX87Control();
+    const auto lent =
+        static_cast<unsigned short>((own & ~x87RoundingField) | ((readMxcsr() & mxcsrRoundingField) >> 3));
+    asm("fldcw %1\n\tfrndint\n\tfldcw %2" : "+t"(x) : "m"(lent), "m"(own));
+    return x;
+}
+
+// One sample of a value in any precision, with the same rounding and the same bounds.
+template <typename T, Float X>
+TARN_INLINE T toSample(X x)
+{
+    if constexpr (std::is_floating_point_v<T>) {
+        return static_cast<T>(x);
+    } else if constexpr (std::is_same_v<X, Tarn32f>) {
+        return narrowSaturated<T>(roundToInteger(x));
+    } else {
+        const long double rounded = roundExtended(x);
+        const bool fits = rounded >= lowest<Tarn32s> && rounded <= highest<Tarn32s>;
+        return narrowSaturated<T>(fits ? static_cast<Tarn32s>(rounded) : lowest<Tarn32s>);
+    }
+}
 
 } // namespace tarn

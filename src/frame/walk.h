@@ -45,11 +45,12 @@ TARN_INLINE std::uintptr_t addressOf(const T* p)
     return reinterpret_cast<std::uintptr_t>(p);
 }
 
-// How many elements lie before the next vector boundary; 0 if no element starts on one.
-template <typename T>
+// How many elements lie before the next boundary of so many bytes, of a vector if nothing is said; 0 if no element
+// starts on one.
+template <int boundary = vectorBytes, typename T>
 TARN_INLINE int elementsToBoundary(const T* p)
 {
-    const auto gap = (0 - addressOf(p)) % vectorBytes;
+    const auto gap = (0 - addressOf(p)) % boundary;
     return gap % sizeof(T) == 0 ? static_cast<int>(gap / sizeof(T)) : 0;
 }
 

@@ -10,7 +10,7 @@ namespace tarn {
 
 // Bytes that a reported size holds above what is needed, so that a caller's buffer may begin anywhere.
 inline constexpr int workAlignment = 16;
-static_assert(workAlignment % vectorBytes == 0);
+static_assert(workAlignment % registerBytes == 0);
 
 class WorkBuffer {
 public:

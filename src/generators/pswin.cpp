@@ -3,7 +3,7 @@
 
 #include "frame/checks.h"
 #include "frame/precise.h"
-#include "frame/simd_signal.h"
+#include "frame/simd.h"
 #include "levels/generators/pswin.h"
 
 #include <cmath>

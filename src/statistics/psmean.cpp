@@ -4,7 +4,7 @@
 #include "frame/checks.h"
 #include "frame/rounding.h"
 #include "frame/scale_total.h"
-#include "frame/simd_reduce.h"
+#include "frame/simd.h"
 #include "levels/statistics/pssum.h"
 
 using namespace tarn;
@@ -16,7 +16,7 @@ Tarn32s roundNearest(Tarn64f x)
 {
     const NearestRounding guard;
     settle(x);
-    Tarn32s rounded = roundDouble(x);
+    Tarn32s rounded = roundToInteger(x);
     settle(rounded);
     return rounded;
 }

@@ -3,7 +3,7 @@
 
 #include "frame/checks.h"
 #include "frame/scale_total.h"
-#include "frame/simd_reciprocal.h"
+#include "frame/simd.h"
 #include "levels/statistics/psnorm.h"
 
 using namespace tarn;
@@ -41,7 +41,7 @@ Tarn32s scaleRoot(Tarn64f root, int scaleFactor)
 {
     const Tarn64f power = powerOfFactor(scaleFactor);
     const Tarn64f scaled = scaleFactor > 0 ? root / power : root * power;
-    return scaled > highest<Tarn32s> ? highest<Tarn32s> : truncateDouble(scaled);
+    return scaled > highest<Tarn32s> ? highest<Tarn32s> : truncateToInteger(scaled);
 }
 
 // A 64-bit integer as a float, rounded once.

@@ -12,16 +12,16 @@ namespace tarn::test {
 namespace {
 
 template <class T>
-std::vector<T> lanesOfVector(Vector<T> x)
+std::vector<T> lanesOfVector(Register<T> x)
 {
-    std::vector<T> values(lanes<T>);
+    std::vector<T> values(registerLanes<T>);
     store(values.data(), x);
     return values;
 }
 
 TEST(ReduceWords, AgreeForElementAndVector)
 {
-    expectAgreement<Tarn32f>(widenFloat);
+    expectAgreement<Tarn32f>(widen);
     expectAgreement<Tarn32fc>(bothRe);
     expectAgreement<Tarn64fc>(bothRe);
     expectAgreement<Tarn32fc>(bothIm);
@@ -54,7 +54,7 @@ TEST(ReduceWords, PairsOf16Bits)
     for (std::size_t i = 0; i + 8 <= values.size(); i += 8) {
         const auto x = loadPack<8>(&values[i]);
         const auto y = loadPack<8>(&others[i]);
-        const auto products = lanesOfVector(pairProducts(x, y));
+        const auto products = lanesOfVector(mulAddPairs(x, y));
         const auto sums = lanesOfVector(pairSums(x));
         const auto magnitudes = lanesOfVector(pairMagnitudes(x));
         const auto distances = lanesOfVector(pairMagnitudes(distance(x, y)));
@@ -79,8 +79,8 @@ TEST(ReduceWords, LanesOf64Bits)
 {
     const Tarn32u values[] = {0xFFFFFFFF, 1, 0x80000000, 0xFFFFFFFE};
     const auto x = loadPack<4>(values);
-    EXPECT_EQ((std::vector<Tarn64s>{0xFFFFFFFF, 0x80000000}), lanesOfVector(evenLanes(x)));
-    EXPECT_EQ((std::vector<Tarn64s>{1, 0xFFFFFFFE}), lanesOfVector(oddLanes(x)));
+    EXPECT_EQ((std::vector<Tarn64s>{0xFFFFFFFF, 0x80000000}), lanesOfVector(widenEven(x)));
+    EXPECT_EQ((std::vector<Tarn64s>{1, 0xFFFFFFFE}), lanesOfVector(widenOdd(x)));
     EXPECT_EQ((std::vector<Tarn64s>{0x100000000, 0x17FFFFFFE}), lanesOfVector(pairSums(x)));
 }
 
@@ -93,10 +93,10 @@ TEST(ReduceWords, LanesFoldUpperOntoLower)
     EXPECT_EQ(4321.0F, foldLanes(x, add));
     const Tarn8u bytes[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 250};
     EXPECT_EQ(250, foldLanes(loadPack<16>(bytes), max));
-    EXPECT_EQ((std::vector<Tarn32f>{7, 0, 0, 0}), lanesOfVector(inFirstLane<Vector<Tarn32f>>(7)));
-    EXPECT_EQ((std::vector<Tarn64f>{7, 0}), lanesOfVector(inFirstLane<Vector<Tarn64f>>(7)));
+    EXPECT_EQ((std::vector<Tarn32f>{7, 0, 0, 0}), lanesOfVector(inFirstLane<Register<Tarn32f>>(7)));
+    EXPECT_EQ((std::vector<Tarn64f>{7, 0}), lanesOfVector(inFirstLane<Register<Tarn64f>>(7)));
     EXPECT_EQ((std::vector<Tarn32f>{7, 20, 300, 4000}), lanesOfVector(withFirstLane(x, 7.0F)));
-    EXPECT_EQ((std::vector<Tarn32f>{1, 20, 0, 0}), lanesOfVector(loadTwo(values)));
+    EXPECT_EQ((std::vector<Tarn32f>{1, 20, 0, 0}), lanesOfVector(loadHalf<4>(values)));
 }
 
 TEST(ReduceWords, FirstSetLane)
@@ -134,7 +134,7 @@ TEST(Reducer, TakesEveryElementOnce)
                                            static_cast<const Tarn32s*>(atEnd.data()))));
             const auto wide = [](Vector<Tarn32s> x) { return pairSums(retype<Tarn32u>(x)); };
             const auto one = [](Tarn32s x) { return Tarn64s{x}; };
-            ASSERT_EQ(expected, (sumExact<4>(len, wide, one, static_cast<const Tarn32s*>(atEnd.data()))));
+            ASSERT_EQ(expected, (sumExact<lanes<Tarn32s>>(len, wide, one, static_cast<const Tarn32s*>(atEnd.data()))));
             const DifferenceOf<Tarn32s> none{array.data(), atEnd.data()};
             ASSERT_EQ(0, (reduce<4>(Tarn32s{0}, len, add, add, none)));
         }
@@ -149,8 +149,8 @@ TEST(Reducer, FindsTheFirst)
             values.back() = 7;
             const GuardedArray<Tarn16s> array(std::span<const Tarn16s>(values), Placement::atEnd());
             const auto* p = static_cast<const Tarn16s*>(array.data());
-            ASSERT_EQ(at, (indexOfFirst(p, len, Tarn16s{7}, equal)));
-            ASSERT_EQ(-1, (indexOfFirst(p, len, Tarn16s{9}, equal)));
+            ASSERT_EQ(at, (indexOfFirst<lanes<Tarn16s>>(p, len, Tarn16s{7}, equal)));
+            ASSERT_EQ(-1, (indexOfFirst<lanes<Tarn16s>>(p, len, Tarn16s{9}, equal)));
         }
 }
 

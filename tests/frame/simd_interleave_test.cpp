@@ -1,8 +1,6 @@
 // The words that interleave, hold and search elements.
-#include "frame/simd_interleave.h"
 
-#include "frame/simd_held.h"
-#include "frame/simd_search.h"
+#include "frame/simd.h"
 #include "support/compare.h"
 #include "support/hard_values.h"
 
@@ -17,8 +15,8 @@ namespace {
 template <std::size_t Channels>
 void testWeave()
 {
-    constexpr std::size_t step = lanes<Tarn16s>;
-    std::array<Vector<Tarn16s>, Channels> channels;
+    constexpr std::size_t step = registerLanes<Tarn16s>;
+    std::array<Register<Tarn16s>, Channels> channels;
     std::vector<Tarn16s> expected(Channels * step);
     for (std::size_t c = 0; c < Channels; ++c) {
         Tarn16s samples[step];
@@ -44,7 +42,7 @@ TEST(SimdInterleave, WeavesChannels)
 template <class T>
 void testEvenAndSpread()
 {
-    constexpr int step = lanes<T>;
+    constexpr int step = registerLanes<T>;
     const std::vector<T> values = randomValues<T>(2 * step, 3);
     T even[step];
     store(even, evenElements(loadPack<2 * step>(values.data())));

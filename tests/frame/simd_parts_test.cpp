@@ -12,7 +12,7 @@ namespace {
 template <class T>
 void testParts()
 {
-    constexpr int step = lanes<T>;
+    constexpr int step = registerLanes<T>;
     const std::vector<T> values = randomValues<T>(400, 7);
     for (std::size_t first = 0; first + step <= values.size(); first += step) {
         const auto pack = loadPack<step>(values.data() + first);
@@ -29,11 +29,11 @@ void testParts()
         T chosen[step];
         // The masks of integers are of integers.
         if constexpr (std::is_same_v<T, Tarn16sc>) {
-            const auto large = greater(dotParts(pack, pack), splat<Vector<Tarn32s>>(100));
-            store(chosen, chooseElements(large, pack, splat<P>(T{1, 2})));
+            const auto large = greater(mulAddPairs(pack, pack), splat<Register<Tarn32s>>(100));
+            store(chosen, tarn::select(large, pack, splat<P>(T{1, 2})));
         } else {
             const auto large = greater(squares, splat<std::remove_const_t<decltype(squares)>>(100.0));
-            store(chosen, chooseElements(elementMask<P>(large), pack, splat<P>(T{1, 2})));
+            store(chosen, tarn::select(elementMask<P>(large), pack, splat<P>(T{1, 2})));
         }
         for (std::size_t k = 0; k < step; ++k) {
             const T z = values[first + k];
@@ -45,7 +45,7 @@ void testParts()
             const Tarn64f square = re * re + im * im;
             EXPECT_TRUE(valuesMatch<Tarn64f>(square, sums[2 * k]));
             EXPECT_TRUE(valuesMatch<Tarn64f>(square, sums[2 * k + 1]));
-            const bool wraps = square == 0x1p31; // of the lowest word twice, which dotParts holds modulo 2^32
+            const bool wraps = square == 0x1p31; // of the lowest word twice, which mulAddPairs holds modulo 2^32
             if (!std::is_same_v<T, Tarn16sc> || !wraps) {
                 EXPECT_TRUE(valuesMatch<T>(square > 100.0 ? z : T{1, 2}, chosen[k]));
             }
@@ -72,13 +72,13 @@ TEST(SimdParts, ElementsAgreeWithVectors)
 TEST(SimdParts, RoundsAndSaturatesWords)
 {
     const Tarn64f parts[] = {0.5, 1.5, -2.5, 40000.0, -40000.0, 32767.4, 7.0, -0.5};
-    using Words = Pack<Tarn16sc, lanes<Tarn16sc>>;
-    Tarn16sc words[lanes<Tarn16sc>];
-    store(words, fromDoubles<Words>(loadPack<2 * lanes<Tarn16sc>>(parts)));
+    using Words = Pack<Tarn16sc, registerLanes<Tarn16sc>>;
+    Tarn16sc words[registerLanes<Tarn16sc>];
+    store(words, fromDoubles<Words>(loadPack<2 * registerLanes<Tarn16sc>>(parts)));
     const Tarn16sc expected[] = {{0, 2}, {-2, 32767}, {-32768, 32767}, {7, 0}};
-    EXPECT_TRUE(arraysMatch<Tarn16sc>(expected, words, lanes<Tarn16sc>));
-    for (std::size_t k = 0; k < lanes<Tarn16sc>; ++k) {
-        const auto pair = loadPack<lanes<Tarn64f>>(parts + 2 * k);
+    EXPECT_TRUE(arraysMatch<Tarn16sc>(expected, words, registerLanes<Tarn16sc>));
+    for (std::size_t k = 0; k < registerLanes<Tarn16sc>; ++k) {
+        const auto pair = loadPack<registerLanes<Tarn64f>>(parts + 2 * k);
         EXPECT_TRUE(valuesMatch<Tarn16sc>(expected[k], fromDoubles<Tarn16sc>(pair)));
     }
 }

@@ -1,5 +1,5 @@
 // The words around division give an element and a vector the same bits.
-#include "frame/simd_reciprocal.h"
+#include "frame/simd.h"
 
 #include "support/words.h"
 

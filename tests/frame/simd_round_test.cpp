@@ -13,12 +13,12 @@ TEST(SimdRound, FloatsAsIntegersInEveryRoundingMode)
 {
     for (const RoundingMode mode : allRoundingModes) {
         const RoundingModeScope scope(mode);
-        expectAgreement<Tarn32f>(roundSingle);
-        expectAgreement<Tarn32f>(truncateSingle);
+        expectAgreement<Tarn32f>(roundToInteger);
+        expectAgreement<Tarn32f>(truncateToInteger);
         expectAgreement<Tarn32f>(roundSaturated);
         expectAgreement<Tarn32f>(truncateSaturated);
         // The second operand only makes the packs as long as those of single precision.
-        expectAgreement<Tarn64f, Tarn32f>([](auto x, auto) { return roundDouble(x); });
+        expectAgreement<Tarn64f, Tarn32f>([](auto x, auto) { return roundToInteger(x); });
     }
 }
 
@@ -35,7 +35,7 @@ TEST(SimdRound, BetweenThePrecisions)
 {
     for (const RoundingMode mode : allRoundingModes) {
         const RoundingModeScope scope(mode);
-        expectAgreement<Tarn32f>(widenFloat);
+        expectAgreement<Tarn32f>(widen);
         expectAgreement<Tarn64f, Tarn32f>([](auto x, auto) { return narrowFloat(x); });
     }
 }
@@ -44,8 +44,8 @@ TEST(SimdRound, WideningBitsAndMasks)
 {
     expectAgreement<Tarn8s>(widenBySign);
     expectAgreement<Tarn16s>(widenBySign);
-    expectAgreement<Tarn32f>(bitsOfSingle);
-    expectAgreement<Tarn32s>(singleOfBits);
+    expectAgreement<Tarn32f>(bitsOf);
+    expectAgreement<Tarn32s>(floatOfBits);
     expectAgreement<Tarn32s, Tarn32s>([](auto a, auto b) { return keepWhere(greater(a, b), a); });
 }
 

@@ -1,5 +1,5 @@
 // The words of windows and generators, lane by lane.
-#include "frame/simd_signal.h"
+#include "frame/simd.h"
 
 #include "support/compare.h"
 #include "support/fpstate.h"

@@ -4,9 +4,9 @@
 //     expectAgreement<Tarn32s>([](auto x) { return shiftLeft(x, 5); });
 //     expectAgreement<Tarn32f, Tarn32f>(greater);                                    // bool against mask
 //
-// The word is called with elements, with packs of as many elements as the registers of the narrowest operand hold, and
-// with packs twice as long. NaNs count as equal whatever their payload: which of two operands hands its payload on is
-// up to the order in which the compiler names them.
+// The word is called with elements, with packs of as many elements as one register, the widest vector and two of them
+// hold of the narrowest operand. NaNs count as equal whatever their payload: which of two operands hands its payload on
+// is up to the order in which the compiler names them.
 #pragma once
 
 #include "frame/simd.h"
@@ -63,6 +63,8 @@ void expectAgreement(const WordType& word)
     auto columns = makeColumns<T...>(Values::mixed, 2 * step);
     const std::size_t count = std::get<0>(columns).size();
     for (std::size_t first = 0; first + 2 * step <= count; first += step) {
+        detail::expectAgreementAt<std::max({registerLanes<T>...}), T...>(word, columns, first,
+                                                                         std::index_sequence_for<T...>{});
         detail::expectAgreementAt<step, T...>(word, columns, first, std::index_sequence_for<T...>{});
         detail::expectAgreementAt<2 * step, T...>(word, columns, first, std::index_sequence_for<T...>{});
         if (::testing::Test::HasFailure())

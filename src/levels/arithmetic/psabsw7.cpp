@@ -2,7 +2,7 @@
 #include "levels/arithmetic/psabs.h"
 
 #include "frame/scale_choice.h"
-#include "frame/simd_reciprocal.h"
+#include "frame/simd.h"
 
 namespace tarn {
 namespace {

@@ -1,9 +1,7 @@
 // Kernels of conjugates, and of complex vectors taken apart and put together.
 #include "levels/arithmetic/pscplx.h"
 
-#include "frame/simd_signal.h"
-#include "frame/simd_spectrum.h"
-#include "frame/simd_split.h"
+#include "frame/simd.h"
 
 namespace tarn {
 namespace {

@@ -15,7 +15,7 @@ struct ComplexProductByConstant {
     template <typename X>
     TARN_INLINE auto operator()(X x, X val) const
     {
-        return FullWidth{joinParts(dotParts(x, conjugateWrapped(val)), dotParts(x, swapParts(val)))};
+        return FullWidth{complexFrom<Tarn32sc>(mulAddPairs(x, conjugateWrapped(val)), mulAddPairs(x, swapParts(val)))};
     }
 };
 
@@ -25,7 +25,7 @@ struct LimitedProductTo16s {
     template <typename X>
     TARN_INLINE auto operator()(X x, X val) const
     {
-        return narrowSaturated<Tarn16s>(roundSingle(min(splat<X>(Tarn32f{highest<Tarn16s>}), mul(x, val))));
+        return narrowSaturated<Tarn16s>(roundToInteger(min(splat<X>(Tarn32f{highest<Tarn16s>}), mul(x, val))));
     }
 };
 
@@ -33,7 +33,7 @@ struct ProductTo16s {
     template <typename X>
     TARN_INLINE auto operator()(X x, X val) const
     {
-        return narrowSaturated<Tarn16s>(roundSingle(mul(x, val)));
+        return narrowSaturated<Tarn16s>(roundToInteger(mul(x, val)));
     }
 };
 

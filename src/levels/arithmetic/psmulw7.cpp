@@ -25,7 +25,7 @@ struct MixedProduct {
     template <int N>
     TARN_INLINE auto operator()(Pack<Tarn32s, N> a, Pack<Tarn32sc, N> b) const
     {
-        const auto twice = joinParts(a, a);
+        const auto twice = complexFrom<Tarn32sc>(a, a);
         return FullWidth{
             reinterpretPack<Tarn64sc>(mulWidened(reinterpretPack<Tarn32s>(twice), reinterpretPack<Tarn32s>(b)))};
     }

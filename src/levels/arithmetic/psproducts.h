@@ -56,7 +56,7 @@ struct WholeOf {
     template <typename... X>
     TARN_INLINE auto operator()(X... x) const
     {
-        return truncateDouble(limitTo32s(Operation::plain(convert<Tarn64f>(x)...)));
+        return truncateToInteger(limitTo32s(Operation::plain(convert<Tarn64f>(x)...)));
     }
 };
 
@@ -68,7 +68,7 @@ struct ScaledWholeOf {
     template <typename... X>
     TARN_INLINE auto operator()(X... x) const
     {
-        return roundDouble(limitTo32s(Operation::scaled(factor, convert<Tarn64f>(x)...)));
+        return roundToInteger(limitTo32s(Operation::scaled(factor, convert<Tarn64f>(x)...)));
     }
 };
 

@@ -61,7 +61,7 @@ TARN_INLINE auto isBeyond(Comparison comparison, X z, Part<T> level)
 {
     if constexpr (std::is_same_v<T, Tarn16sc>) {
         // As unsigned numbers: the largest square is 2^31.
-        const auto squares = retype<Tarn32u>(dotParts(z, z));
+        const auto squares = retype<Tarn32u>(mulAddPairs(z, z));
         return comparison(squares, splat<Like<X, Tarn32u>>(static_cast<Tarn32u>(level * level)));
     } else {
         return elementMask<X>(compareMagnitudes(comparison, measure(z), level));

@@ -46,7 +46,7 @@ struct MagnitudeLimited {
         if (!anyOf(beyond)) {
             return z;
         }
-        return chooseElements(beyond, fromDoubles<X>(scaledTo<T>(level, measure(z))), z);
+        return tarn::select(beyond, fromDoubles<X>(scaledTo<T>(level, measure(z))), z);
     }
 };
 

@@ -42,7 +42,7 @@ struct ReplacedByMagnitude {
     template <typename X>
     TARN_INLINE X operator()(X z) const
     {
-        return chooseElements(isBeyond<T>(comparison, z, level), splat<X>(value), z);
+        return tarn::select(isBeyond<T>(comparison, z, level), splat<X>(value), z);
     }
 };
 

@@ -104,7 +104,7 @@ struct ToInteger24 {
     {
         const auto limited = [this](auto t) {
             using F = decltype(t);
-            return roundSingle(min(max(scale(t), splat<F>(lower)), splat<F>(upper)));
+            return roundToInteger(min(max(scale(t), splat<F>(lower)), splat<F>(upper)));
         };
         return store24(byRegister(x, limited));
     }

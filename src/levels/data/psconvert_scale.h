@@ -52,16 +52,16 @@ TARN_INLINE void withPower(int s, Run run)
 struct ToNearest {
     // The conversion instruction follows the control word.
     using Control = NearestRoundingOfDenormals;
-    static constexpr const auto& single = roundSingle;
+    static constexpr const auto& single = roundToInteger;
     static constexpr const auto& saturated = roundSaturated;
-    static constexpr const auto& twice = roundDouble;
+    static constexpr const auto& twice = roundToInteger;
 };
 
 struct TowardsZero {
     using Control = KeptControl;
-    static constexpr const auto& single = truncateSingle;
+    static constexpr const auto& single = truncateToInteger;
     static constexpr const auto& saturated = truncateSaturated;
-    static constexpr const auto& twice = truncateDouble;
+    static constexpr const auto& twice = truncateToInteger;
 };
 
 // -- The scale rule on 32-bit integers. Bounds limits them, where narrowing does not, and narrows. --------------------

@@ -44,10 +44,10 @@ TARN_INLINE auto roundToHalf(X magnitude)
     // The smallest normal half has the exponent 1 and no fraction, but the sum counts its leading bit as well.
     constexpr Tarn32s base = (biasDifference + dropped + 1) << halfFraction;
     using I = Like<X, Tarn32s>;
-    const auto power = bitAnd(bitsOfSingle(magnitude), splat<I>(singleInfinity));
-    const auto atLeast = bitsOfSingle(max(singleOfBits(power), splat<X>(std::bit_cast<Tarn32f>(smallestNormal))));
+    const auto power = bitAnd(bitsOf(magnitude), splat<I>(singleInfinity));
+    const auto atLeast = bitsOf(max(floatOfBits(power), splat<X>(std::bit_cast<Tarn32f>(smallestNormal))));
     const auto shifter = add(atLeast, splat<I>(dropped << singleFraction));
-    const auto significand = sub(bitsOfSingle(add(magnitude, singleOfBits(shifter))), shifter);
+    const auto significand = sub(bitsOf(add(magnitude, floatOfBits(shifter))), shifter);
     return add(significand, sub(shiftRightLogical(shifter, dropped), splat<I>(base)));
 }
 
@@ -72,10 +72,10 @@ template <typename X>
 TARN_INLINE auto toHalf(X x, Tarn32f largest)
 {
     using I = Like<X, Tarn32s>;
-    const auto bits = bitsOfSingle(x);
+    const auto bits = bitsOf(x);
     const auto magnitude = bitAnd(bits, splat<I>(highest<Tarn32s>));
     const auto isSpecial = greater(magnitude, splat<I>(singleInfinity - 1));
-    auto half = roundToHalf(min(singleOfBits(magnitude), splat<X>(largest)));
+    auto half = roundToHalf(min(floatOfBits(magnitude), splat<X>(largest)));
     // Signals have none of them as a rule, and then nobody waits for the selection.
     if (anyOf(isSpecial)) [[unlikely]] {
         half = select(isSpecial, specialToHalf(magnitude), half);
@@ -87,8 +87,8 @@ TARN_INLINE auto toHalf(X x, Tarn32f largest)
 template <typename I>
 TARN_INLINE I integerToHalf(I x)
 {
-    const auto bits = bitsOfSingle(convert<Tarn32f>(x));
-    return withSignOf(bits, roundToHalf(singleOfBits(bitAnd(bits, splat<I>(highest<Tarn32s>)))));
+    const auto bits = bitsOf(convert<Tarn32f>(x));
+    return withSignOf(bits, roundToHalf(floatOfBits(bitAnd(bits, splat<I>(highest<Tarn32s>)))));
 }
 
 // Exact in any rounding mode. Denormal halves are small integers in a unit of 2^-24, and normal floats.
@@ -100,11 +100,11 @@ TARN_INLINE auto fromHalf(I half)
     const auto magnitude = bitAnd(half, splat<I>(halfMagnitude));
     const auto sign = shiftLeft(bitAnd(half, splat<I>(halfSign)), 16);
     const auto normal = add(shiftLeft(magnitude, dropped), splat<I>(rebias));
-    const auto denormal = bitsOfSingle(mul(convert<Tarn32f>(magnitude), splat<F>(0x1p-24F)));
+    const auto denormal = bitsOf(mul(convert<Tarn32f>(magnitude), splat<F>(0x1p-24F)));
     const auto finite = select(greater(splat<I>(smallestNormalHalf), magnitude), denormal, normal);
     // The largest exponent of one format becomes that of the other by as much again.
     const auto special = keepWhere(greater(magnitude, splat<I>(halfInfinity - 1)), splat<I>(rebias));
-    return singleOfBits(bitOr(add(finite, special), sign));
+    return floatOfBits(bitOr(add(finite, special), sign));
 }
 
 struct SingleToHalf {
@@ -142,7 +142,7 @@ struct HalfToInteger {
     {
         const auto integer = [this](auto t) {
             const auto scaled = ByFactor<Tarn32f>{factor}(fromHalf(t));
-            return roundSingle(min(splat<std::remove_const_t<decltype(scaled)>>(highest<Tarn16s>), scaled));
+            return roundToInteger(min(splat<std::remove_const_t<decltype(scaled)>>(highest<Tarn16s>), scaled));
         };
         return narrowSaturated<Tarn16s>(byRegister(widen(retype<Tarn16u>(x)), integer));
     }

@@ -187,7 +187,7 @@ TARN_DEFINE_CONVERSION(ownsConvert_16s32f_W7, Tarn16s, Tarn32f, ToFloat<Tarn32f>
 TARN_DEFINE_CONVERSION(ownsConvert_16u32f_W7, Tarn16u, Tarn32f, ToFloat<Tarn32f>{})
 TARN_DEFINE_CONVERSION(ownsConvert_16s64f_Sfs0_W7, Tarn16s, Tarn64f, ToFloat<Tarn64f>{})
 TARN_DEFINE_CONVERSION(owntarnsCnvrt_32s64f, Tarn32s, Tarn64f, ToFloat<Tarn64f>{})
-TARN_DEFINE_CONVERSION(ownsConvert_32f64f_W7, Tarn32f, Tarn64f, widenFloat)
+TARN_DEFINE_CONVERSION(ownsConvert_32f64f_W7, Tarn32f, Tarn64f, widen)
 TARN_DEFINE_CONVERSION(ownsConvert_64f32f_W7, Tarn64f, Tarn32f, narrowFloat)
 TARN_DEFINE_SCALED_CONVERSION(ownsConvert_16s32f_SfsPosNeg_W7, Tarn16s, Tarn32f, toScaledFloat<Tarn32f>(scaleFactor))
 TARN_DEFINE_SCALED_CONVERSION(ownsConvert_16s64f_SfsPosNeg_W7, Tarn16s, Tarn64f, toScaledFloat<Tarn64f>(scaleFactor))

@@ -1,7 +1,7 @@
 // Kernels of the search for the nearest entry of a table.
 #include "levels/data/psfindnearest.h"
 
-#include "frame/simd_search.h"
+#include "frame/simd.h"
 
 namespace {
 

@@ -13,13 +13,12 @@ struct ToWord {
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        const auto limited = min(max(x, splat<X>(lowest<Tarn16s>)), splat<X>(highest<Tarn16s>));
-        return narrowSaturated<Tarn16s>(roundSingle(limited));
+        return roundLimited<Tarn16s>(x);
     }
 };
 
 // Samples of a channel that one step takes.
-constexpr int step = lanes<Tarn16s>;
+constexpr int step = 8;
 
 using Channels = const Tarn32f* const*;
 
@@ -35,9 +34,9 @@ void joinSamples(Channels pSrc, int nChannels, Tarn16s* pDst, int first, int cha
 
 // `count` channels from the given one on, the last of them taken again for the rest.
 template <std::size_t N>
-TARN_INLINE std::array<Vector<Tarn16s>, N> loadWords(Channels pSrc, int count, int i)
+TARN_INLINE std::array<Pack<Tarn16s, step>, N> loadWords(Channels pSrc, int count, int i)
 {
-    std::array<Vector<Tarn16s>, N> words;
+    std::array<Pack<Tarn16s, step>, N> words;
     for (int c = 0; c < static_cast<int>(N); ++c) {
         words[static_cast<std::size_t>(c)] = ToWord{}(loadPack<step>(pSrc[std::min(c, count - 1)] + i));
     }

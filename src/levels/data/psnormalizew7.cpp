@@ -39,9 +39,7 @@ TARN_INLINE X normalizedWord(X x, X offset, Tarn64f reciprocal)
 {
     const auto difference = convert<Tarn64f>(sub(widen(x), widen(offset)));
     using D = std::remove_const_t<decltype(difference)>;
-    const auto scaled = mul(difference, splat<D>(reciprocal));
-    const auto limited = min(max(scaled, splat<D>(lowest<Tarn16s>)), splat<D>(highest<Tarn16s>));
-    return narrowSaturated<Tarn16s>(roundDouble(limited));
+    return roundLimited<Tarn16s>(mul(difference, splat<D>(reciprocal)));
 }
 
 template <typename T>

@@ -1,8 +1,7 @@
 // Kernels of sampling down and up.
 #include "levels/data/pssample.h"
 
-#include "frame/simd_held.h"
-#include "frame/simd_interleave.h"
+#include "frame/simd.h"
 
 namespace {
 

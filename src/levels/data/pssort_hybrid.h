@@ -1,7 +1,7 @@
 // The hybrid sort: quicksort around the median of three down to short ranges, insertion sort for those.
 #pragma once
 
-#include "frame/simd_held.h"
+#include "frame/simd.h"
 
 #include <algorithm>
 #include <bit>

@@ -6,31 +6,33 @@ using namespace tarn;
 namespace {
 
 // Three-byte elements: the outer bytes of each change places, so every byte comes from two places ahead, from its own
-// place or from two places behind, in a pattern that returns after three registers, which hold whole elements.
-constexpr int elementsPerTurn = vectorBytes;
+// place or from two places behind, in a pattern that returns after three blocks, which hold whole elements.
+constexpr int blockBytes = 16;
+using Block = Pack<Tarn8u, blockBytes>;
+constexpr int elementsPerTurn = blockBytes;
 constexpr int bytesPerElement = 3;
 constexpr int elementsWorthAligning = 4 * elementsPerTurn;
 
-// All ones at the bytes of a register whose index leaves `remainder` modulo 3.
-alignas(vectorBytes) constexpr auto everyThird = [] {
+// All ones at the bytes of a block whose index leaves `remainder` modulo 3.
+alignas(blockBytes) constexpr auto everyThird = [] {
     struct {
-        Tarn8u byte[3][vectorBytes];
+        Tarn8u byte[3][blockBytes];
     } masks{};
     for (int remainder = 0; remainder < 3; ++remainder) {
-        for (int i = remainder; i < vectorBytes; i += 3) {
+        for (int i = remainder; i < blockBytes; i += 3) {
             masks.byte[remainder][i] = 0xFF;
         }
     }
     return masks;
 }();
 
-// A register of a turn from what lies two bytes ahead, at its place and two bytes behind. Its first byte is byte
+// A block of a turn from what lies two bytes ahead, at its place and two bytes behind. Its first byte is byte
 // `phase` of an element.
 template <int phase>
-TARN_INLINE Vector<Tarn8u> mergeRegister24(Vector<Tarn8u> ahead, Vector<Tarn8u> here, Vector<Tarn8u> behind)
+TARN_INLINE Block mergeRegister24(Block ahead, Block here, Block behind)
 {
-    const auto takenAt = [](Vector<Tarn8u> x, int byte) {
-        return bitAnd(x, loadPack<vectorBytes>(everyThird.byte[(byte - phase + 3) % 3]));
+    const auto takenAt = [](Block x, int byte) {
+        return bitAnd(x, loadPack<blockBytes>(everyThird.byte[(byte - phase + 3) % 3]));
     };
     return bitOr(bitOr(takenAt(ahead, 0), takenAt(here, 1)), takenAt(behind, 2));
 }
@@ -49,24 +51,23 @@ void swap24(const Tarn8u* src, Tarn8u* dst, int len)
 {
     constexpr int turnBytes = bytesPerElement * elementsPerTurn;
     if (len >= elementsWorthAligning) {
-        // 3 * 5 is -1 modulo the vector's 16 bytes.
-        static_assert(vectorBytes == 16);
-        const int head = static_cast<int>(addressOf(dst) * 5 % vectorBytes);
+        // 3 * 5 is -1 modulo 16.
+        const int head = static_cast<int>(addressOf(dst) * 5 % blockBytes);
         swapElements24(src, dst, head);
         src += bytesPerElement * head;
         dst += bytesPerElement * head;
         len -= head;
     }
     for (; len >= elementsPerTurn; len -= elementsPerTurn, src += turnBytes, dst += turnBytes) {
-        const auto at = [src](int byte) { return loadPack<vectorBytes>(src + byte); };
+        const auto at = [src](int byte) { return loadPack<blockBytes>(src + byte); };
         const auto start = at(0);
-        const auto end = at(2 * vectorBytes);
+        const auto end = at(2 * blockBytes);
         const auto first = mergeRegister24<0>(at(2), start, shiftBytesUp<2>(start));
-        const auto second = mergeRegister24<1>(at(vectorBytes + 2), at(vectorBytes), at(vectorBytes - 2));
-        const auto third = mergeRegister24<2>(shiftBytesDown<2>(end), end, at(2 * vectorBytes - 2));
+        const auto second = mergeRegister24<1>(at(blockBytes + 2), at(blockBytes), at(blockBytes - 2));
+        const auto third = mergeRegister24<2>(shiftBytesDown<2>(end), end, at(2 * blockBytes - 2));
         store(dst, first);
-        store(dst + vectorBytes, second);
-        store(dst + 2 * vectorBytes, third);
+        store(dst + blockBytes, second);
+        store(dst + 2 * blockBytes, third);
     }
     swapElements24(src, dst, len);
 }

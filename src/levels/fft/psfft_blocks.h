@@ -54,9 +54,9 @@ inline Owned<T[]> gridTable(int order, int block, const T* base, int baseOrder)
         for (int row = 0; row < rows; ++row, reversed.advance()) {
             for (int j = 0; j < gridColumns; ++j) {
                 const Complex<T> w = circle.factor(reversed.value() * (column + j));
-                T* p = to + j / lanes<T> * (2 * lanes<T>)+j % lanes<T>;
+                T* p = to + j / blockLanes<T> * (2 * blockLanes<T>)+j % blockLanes<T>;
                 p[0] = w.re;
-                p[lanes<T>] = w.im;
+                p[blockLanes<T>] = w.im;
             }
             to += 2 * gridColumns;
         }

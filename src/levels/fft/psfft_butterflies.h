@@ -1,10 +1,17 @@
 // The butterflies of the power-of-two transforms, for single elements and for vectors of them.
 #pragma once
 
-#include "frame/simd.h"
-#include "frame/simd_complex.h"
+#include "frame/simd_apart.h"
 
 namespace tarn::fft {
+
+// The working arrangement and all tables are in blocks of complex elements: 16 bytes of real parts, then as many of
+// imaginary parts, whatever the width of the vectors.
+inline constexpr int blockBytes = 16;
+template <typename T>
+inline constexpr int blockLanes = blockBytes / static_cast<int>(sizeof(T));
+template <typename T>
+using BlockPart = Pack<T, blockLanes<T>>;
 
 template <typename X>
 using Quad = std::array<Complex<X>, 4>;
@@ -49,14 +56,14 @@ TARN_INLINE Quad<X> fourPoint(Quad<X> x)
 
 // The same of elements that are registers of interleaved pairs.
 template <bool forward, typename T>
-TARN_INLINE std::array<Vector<T>, 4> fourPointPairs(const std::array<Vector<T>, 4>& x)
+TARN_INLINE std::array<BlockPart<T>, 4> fourPointPairs(const std::array<BlockPart<T>, 4>& x)
 {
-    const Vector<T> s0 = add(x[0], x[1]);
-    const Vector<T> s1 = sub(x[0], x[1]);
-    const Vector<T> t0 = add(x[2], x[3]);
-    const Vector<T> t1 = swapParts(sub(x[2], x[3]));
-    const Vector<T> minus = subAdd(s1, invertSigns(t1));
-    const Vector<T> plus = subAdd(s1, t1);
+    const BlockPart<T> s0 = add(x[0], x[1]);
+    const BlockPart<T> s1 = sub(x[0], x[1]);
+    const BlockPart<T> t0 = add(x[2], x[3]);
+    const BlockPart<T> t1 = swapParts(sub(x[2], x[3]));
+    const BlockPart<T> minus = subAdd(s1, invertSigns(t1));
+    const BlockPart<T> plus = subAdd(s1, t1);
     return {add(s0, t0), forward ? minus : plus, sub(s0, t0), forward ? plus : minus};
 }
 
@@ -64,10 +71,13 @@ TARN_INLINE std::array<Vector<T>, 4> fourPointPairs(const std::array<Vector<T>, 
 // parts.
 template <typename T>
 struct EighthRoots {
-    alignas(vectorBytes) T re[4];
-    alignas(vectorBytes) T im[4];
+    alignas(blockBytes) T re[4];
+    alignas(blockBytes) T im[4];
 
-    TARN_INLINE Complex<Vector<T>> block(int first) const { return {loadAligned(re + first), loadAligned(im + first)}; }
+    TARN_INLINE Complex<BlockPart<T>> block(int first) const
+    {
+        return {loadAligned<blockLanes<T>>(re + first), loadAligned<blockLanes<T>>(im + first)};
+    }
 };
 
 // The single-precision root is one unit above the float nearest to sqrt(1/2), bits 0x3F3504F4: the transforms' results

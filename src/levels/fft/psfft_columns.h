@@ -6,7 +6,8 @@
 
 namespace tarn::fft {
 
-// -- Access to rows of C elements, in blocks of lanes<T> columns -----------------------------------------------------
+// -- Access to rows of C elements, in blocks of blockLanes<T> columns
+// -----------------------------------------------------
 
 // T may be constant where rows are only read.
 
@@ -21,7 +22,7 @@ struct RowsOfPairs {
     TARN_INLINE Block<Value> load(std::ptrdiff_t row, std::ptrdiff_t column) const
     {
         const Value* p = at(row, column);
-        return {loadPack<lanes<T>>(p), loadPack<lanes<T>>(p + lanes<T>)};
+        return {loadPack<blockLanes<T>>(p), loadPack<blockLanes<T>>(p + blockLanes<T>)};
     }
     TARN_INLINE void put(std::ptrdiff_t row, std::ptrdiff_t column, Block<T> x) const
     {
@@ -30,7 +31,7 @@ struct RowsOfPairs {
             storePairs(p, x);
         } else {
             store(p, x.re);
-            store(p + lanes<T>, x.im);
+            store(p + blockLanes<T>, x.im);
         }
     }
 
@@ -52,7 +53,7 @@ struct RowsOfParts {
         const std::ptrdiff_t at = row * rowLength + column;
         const Value* partsRe = re + at;
         const Value* partsIm = im + at;
-        return {loadPack<lanes<T>>(partsRe), loadPack<lanes<T>>(partsIm)};
+        return {loadPack<blockLanes<T>>(partsRe), loadPack<blockLanes<T>>(partsIm)};
     }
     TARN_INLINE void put(std::ptrdiff_t row, std::ptrdiff_t column, Block<T> x) const
     {
@@ -86,7 +87,7 @@ template <bool forward, typename T, typename Rows>
 class ShortColumns {
 public:
     static constexpr int blocks = 8;
-    static constexpr int columns = blocks * lanes<T>;
+    static constexpr int columns = blocks * blockLanes<T>;
 
     // `work` holds R rows of `columns` elements, `twd` is the stage table of R points.
     ShortColumns(Rows rows, T* work, const T* grid, int R, const T* twd)
@@ -99,7 +100,7 @@ public:
     {
         const auto toWork = [this](int row, int block, Block<T> x) { storeBlock(place(row, block), x); };
         const auto toRows = [this, column](int row, int block, Block<T> x) {
-            rows.put(row, column + block * lanes<T>, x);
+            rows.put(row, column + block * blockLanes<T>, x);
         };
         quads(column);
         if (R == 8) {
@@ -122,14 +123,14 @@ private:
     static constexpr int cacheLine = 64;
     static constexpr int gridBytes = gridColumns * static_cast<int>(sizeof(Complex<T>));
 
-    TARN_INLINE T* place(int row, int block) const { return work + (row * blocks + block) * (2 * lanes<T>); }
+    TARN_INLINE T* place(int row, int block) const { return work + (row * blocks + block) * (2 * blockLanes<T>); }
 
     // The first pass: rows of the matrix to transforms of four in the work area.
     TARN_INLINE void quads(int column) const
     {
         for (int row = 0; row < R; row += 4) {
             for (int block = 0; block < blocks; ++block) {
-                const int at = column + block * lanes<T>;
+                const int at = column + block * blockLanes<T>;
                 // The factors of the next columns, which come in steps too wide for the processor to foresee.
                 for (int i = 0; i < 4; i += cacheLine / gridBytes) {
                     prefetch(gridBlock(grid, R, row + i, at + columns));
@@ -137,7 +138,7 @@ private:
                 const auto element = [&](int i) {
                     return rotate<forward>(rows.load(row + i, at), loadBlock(gridBlock(grid, R, row + i, at)));
                 };
-                const auto x = fourPoint<forward>(Quad<Vector<T>>{element(0), element(1), element(2), element(3)});
+                const auto x = fourPoint<forward>(Quad<BlockPart<T>>{element(0), element(1), element(2), element(3)});
                 for (int i = 0; i < 4; ++i) {
                     storeBlock(place(row + i, block), x[i]);
                 }
@@ -149,7 +150,7 @@ private:
     TARN_INLINE void joinEights(int row, Put put) const
     {
         for (int k = 0; k < 4; ++k) {
-            const Block<T> root = {splat<Vector<T>>(TwdTbl_03<T>.re[k]), splat<Vector<T>>(TwdTbl_03<T>.im[k])};
+            const Block<T> root = {splat<BlockPart<T>>(TwdTbl_03<T>.re[k]), splat<BlockPart<T>>(TwdTbl_03<T>.im[k])};
             for (int block = 0; block < blocks; ++block) {
                 const auto even = loadBlock(place(row + k, block));
                 const auto odd = rotate<forward>(loadBlock(place(row + k + 4, block)), root);
@@ -162,14 +163,14 @@ private:
     template <typename Put>
     TARN_INLINE void stageOfRows(int L, Put put) const
     {
-        constexpr int width = 2 * lanes<T>;
+        constexpr int width = 2 * blockLanes<T>;
         const int quarter = L / 4;
         const T* factors = stageTwiddles(twd, firstStage(R), L);
         for (int k = 0; k < quarter; ++k) {
-            const T* from = factors + k / lanes<T> * (3 * width) + k % lanes<T>;
-            alignas(vectorBytes) T w[3 * width];
+            const T* from = factors + k / blockLanes<T> * (3 * width) + k % blockLanes<T>;
+            alignas(blockBytes) T w[3 * width];
             for (int i = 0; i < 6; ++i) {
-                storeAligned(w + i * lanes<T>, splat<Vector<T>>(from[i * lanes<T>]));
+                storeAligned(w + i * blockLanes<T>, splat<BlockPart<T>>(from[i * blockLanes<T>]));
             }
             for (int row = k; row < R; row += L) {
                 for (int block = 0; block < blocks; ++block) {
@@ -194,7 +195,7 @@ private:
 template <bool forward, typename T, typename Rows>
 inline void mergeLongColumns(Rows rows, T* work, const T* grid, int R)
 {
-    for (int column = 0; column < gridColumns; column += lanes<T>) {
+    for (int column = 0; column < gridColumns; column += blockLanes<T>) {
         T* area = work + std::ptrdiff_t{2} * column * R;
         const auto value = [&](int row) {
             return rotate<forward>(rows.load(row, column), loadBlock(gridBlock(grid, R, row, column)));
@@ -202,18 +203,18 @@ inline void mergeLongColumns(Rows rows, T* work, const T* grid, int R)
         for (int row = 0; row < R; row += 2, area += 4) {
             const auto first = value(row);
             const auto second = value(row + 1);
-            if constexpr (lanes<T> == 4) {
+            if constexpr (blockLanes<T> == 4) {
                 const std::ptrdiff_t next = std::ptrdiff_t{2} * R;
-                store(area, lowHalves(interleaveLow(first), interleaveLow(second)));
-                store(area + next, highHalves(interleaveLow(first), interleaveLow(second)));
-                store(area + 2 * next, lowHalves(interleaveHigh(first), interleaveHigh(second)));
-                store(area + 3 * next, highHalves(interleaveHigh(first), interleaveHigh(second)));
+                store(area, lowHalves(zipLow(first.re, first.im), zipLow(second.re, second.im)));
+                store(area + next, highHalves(zipLow(first.re, first.im), zipLow(second.re, second.im)));
+                store(area + 2 * next, lowHalves(zipHigh(first.re, first.im), zipHigh(second.re, second.im)));
+                store(area + 3 * next, highHalves(zipHigh(first.re, first.im), zipHigh(second.re, second.im)));
             } else {
                 const std::ptrdiff_t next = std::ptrdiff_t{2} * R;
-                store(area, interleaveLow(first));
-                store(area + 2, interleaveLow(second));
-                store(area + next, interleaveHigh(first));
-                store(area + next + 2, interleaveHigh(second));
+                store(area, zipLow(first.re, first.im));
+                store(area + 2, zipLow(second.re, second.im));
+                store(area + next, zipHigh(first.re, first.im));
+                store(area + next + 2, zipHigh(second.re, second.im));
             }
         }
     }
@@ -222,20 +223,20 @@ inline void mergeLongColumns(Rows rows, T* work, const T* grid, int R)
 template <typename T, typename Rows>
 inline void splitLongColumns(Rows rows, const T* work, int R)
 {
-    constexpr int width = 2 * lanes<T>;
-    for (int column = 0; column < gridColumns; column += lanes<T>) {
+    constexpr int width = 2 * blockLanes<T>;
+    for (int column = 0; column < gridColumns; column += blockLanes<T>) {
         const T* area = work + std::ptrdiff_t{2} * column * R;
-        for (int row = 0; row < R; row += lanes<T>, area += width) {
+        for (int row = 0; row < R; row += blockLanes<T>, area += width) {
             Square<T> re;
             Square<T> im;
-            for (int lane = 0; lane < lanes<T>; ++lane) {
+            for (int lane = 0; lane < blockLanes<T>; ++lane) {
                 const T* p = area + std::ptrdiff_t{2} * lane * R;
-                re[lane] = loadPack<lanes<T>>(p);
-                im[lane] = loadPack<lanes<T>>(p + lanes<T>);
+                re[lane] = loadPack<blockLanes<T>>(p);
+                im[lane] = loadPack<blockLanes<T>>(p + blockLanes<T>);
             }
             re = transpose<T>(re);
             im = transpose<T>(im);
-            for (int lane = 0; lane < lanes<T>; ++lane) {
+            for (int lane = 0; lane < blockLanes<T>; ++lane) {
                 rows.put(row + lane, column, {re[lane], im[lane]});
             }
         }

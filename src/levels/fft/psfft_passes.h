@@ -1,8 +1,8 @@
 // The passes of the radix-4 core: a first pass that reads the data from wherever it lies, stages of radix 4 in the
 // working arrangement, and a last stage that writes to the destination.
 //
-// Working arrangement: blocks of lanes<T> complex elements, the real parts in one register's width and the imaginary
-// parts in the next. A butterfly is then arithmetic on whole registers, with no shuffle in it.
+// Working arrangement: blocks of blockLanes<T> complex elements, the real parts in one register's width and the
+// imaginary parts in the next. A butterfly is then arithmetic on whole registers, with no shuffle in it.
 #pragma once
 
 #include "levels/fft/psfft_butterflies.h"
@@ -12,35 +12,35 @@
 namespace tarn::fft {
 
 template <typename T>
-using Block = Complex<Vector<T>>;
+using Block = Complex<BlockPart<T>>;
 
 template <typename T>
 TARN_INLINE Block<T> loadBlock(const T* p)
 {
-    return {loadAligned(p), loadAligned(p + lanes<T>)};
+    return {loadAligned<blockLanes<T>>(p), loadAligned<blockLanes<T>>(p + blockLanes<T>)};
 }
 template <typename T>
 TARN_INLINE void storeBlock(T* p, Block<T> x)
 {
     storeAligned(p, x.re);
-    storeAligned(p + lanes<T>, x.im);
+    storeAligned(p + blockLanes<T>, x.im);
 }
 
 // -- Where the first pass reads --------------------------------------------------------------------------------------
 //
-// A source transforms lanes<T> bit-reversed quadruples of its data at a time and hands the results on in blocks:
-// emit(lane, block, value) for each lane's 4 / lanes<T> blocks. The lanes are `streams` stretches of the work area that
-// are filled side by side, or neighbouring groups of 4 or 8 elements of one stretch.
+// A source transforms blockLanes<T> bit-reversed quadruples of its data at a time and hands the results on in blocks:
+// emit(lane, block, value) for each lane's 4 / blockLanes<T> blocks. The lanes are `streams` stretches of the work area
+// that are filled side by side, or neighbouring groups of 4 or 8 elements of one stretch.
 
 template <typename T>
-inline constexpr int blocksPerQuad = 4 / lanes<T>;
+inline constexpr int blocksPerQuad = 4 / blockLanes<T>;
 
 // Results of quadruples in interleaved pairs, of which a register holds one or two.
 template <bool forward, typename T, typename Emit>
-TARN_INLINE void emitPairs(int lane, const std::array<Vector<T>, 4>& quad, Emit emit)
+TARN_INLINE void emitPairs(int lane, const std::array<BlockPart<T>, 4>& quad, Emit emit)
 {
     const auto x = fourPointPairs<forward, T>(quad);
-    if constexpr (lanes<T> == 4) {
+    if constexpr (blockLanes<T> == 4) {
         const auto columns = transpose<T>(x);
         emit(lane, 0, Block<T>{columns[0], columns[1]});
         emit(lane + 1, 0, Block<T>{columns[2], columns[3]});
@@ -53,7 +53,7 @@ TARN_INLINE void emitPairs(int lane, const std::array<Vector<T>, 4>& quad, Emit 
 // What the real or the imaginary parts of a quadruple in bit-reversed order contribute to its transform.
 template <typename T>
 struct QuadPart {
-    Vector<T> sum, alternating, first, second; // of all; of both pairs; the pairs' differences
+    BlockPart<T> sum, alternating, first, second; // of all; of both pairs; the pairs' differences
 
     template <typename Load>
     explicit TARN_INLINE QuadPart(Load load)
@@ -80,9 +80,9 @@ TARN_INLINE void emitParts(LoadRe loadRe, LoadIm loadIm, Emit emit)
     const QuadPart<T> partIm(loadIm);
     const auto plus = plusQuarterTurn<forward>(Block<T>{partRe.first, partIm.first}, {partRe.second, partIm.second});
     const auto minus = minusQuarterTurn<forward>(Block<T>{partRe.first, partIm.first}, {partRe.second, partIm.second});
-    const Quad<Vector<T>> x = {Block<T>{partRe.sum, partIm.sum}, plus, Block<T>{partRe.alternating, partIm.alternating},
-                               minus};
-    if constexpr (lanes<T> == 4) {
+    const Quad<BlockPart<T>> x = {Block<T>{partRe.sum, partIm.sum}, plus,
+                                  Block<T>{partRe.alternating, partIm.alternating}, minus};
+    if constexpr (blockLanes<T> == 4) {
         const auto re = transpose<T>({x[0].re, x[1].re, x[2].re, x[3].re});
         const auto im = transpose<T>({x[0].im, x[1].im, x[2].im, x[3].im});
         emit(0, 0, Block<T>{re[0], im[0]});
@@ -102,12 +102,12 @@ TARN_INLINE void emitParts(LoadRe loadRe, LoadIm loadIm, Emit emit)
 }
 
 template <typename T>
-inline constexpr int pairsPerVector = lanes<T> / 2;
+inline constexpr int pairsPerVector = blockLanes<T> / 2;
 
 // Natural order, through the reading table: consecutive elements belong to stretches in bit-reversed order.
 template <typename T>
 struct ReadingSource {
-    static constexpr int streams = lanes<T>;
+    static constexpr int streams = blockLanes<T>;
     static constexpr int reversedOfEight[] = {0, 4, 2, 6, 1, 5, 3, 7};
 
     const Tarn32s* table;
@@ -127,7 +127,7 @@ struct ReadPairs : ReadingSource<T> {
     template <bool forward, typename Emit>
     TARN_INLINE void transformQuads(int at, int /*group*/, Emit emit) const
     {
-        constexpr int width = lanes<T>;
+        constexpr int width = blockLanes<T>;
         const T* p = src + this->table[at / 4];
         const std::ptrdiff_t quarter = this->size / 2;
         const T* p3 = p + 3 * quarter;
@@ -158,7 +158,7 @@ struct ReadParts : ReadingSource<T> {
         const auto from = [=](const T* part) {
             return [p = part + first, quarter](int i) {
                 constexpr int reversedOfFour[] = {0, 2, 1, 3};
-                return loadPack<lanes<T>>(p + reversedOfFour[i] * quarter);
+                return loadPack<blockLanes<T>>(p + reversedOfFour[i] * quarter);
             };
         };
         emitParts<forward, T>(from(srcRe), from(srcIm), emit);
@@ -175,7 +175,7 @@ template <typename T>
 struct SequentialSource {
     static constexpr int streams = 1;
 
-    TARN_INLINE int step(int group) const { return group * lanes<T>; }
+    TARN_INLINE int step(int group) const { return group * blockLanes<T>; }
     TARN_INLINE std::ptrdiff_t laneOffset(int lane, int group) const { return lane * group; }
 };
 
@@ -188,7 +188,7 @@ struct SequentialPairs : SequentialSource<T> {
     {
         const T* p = src + 2 * at;
         const std::ptrdiff_t row = 2 * group;
-        if constexpr (lanes<T> == 4) {
+        if constexpr (blockLanes<T> == 4) {
             emitPairs<forward, T>(0, quad(p, p + row), emit);
             emitPairs<forward, T>(2, quad(p + 2 * row, p + 3 * row), emit);
         } else {
@@ -203,7 +203,7 @@ struct SequentialPairs : SequentialSource<T> {
 
 private:
     // Two quadruples side by side.
-    static TARN_INLINE std::array<Vector<T>, 4> quad(const T* a, const T* b)
+    static TARN_INLINE std::array<BlockPart<T>, 4> quad(const T* a, const T* b)
     {
         const auto lowA = loadPack<4>(a);
         const auto lowB = loadPack<4>(b);
@@ -228,9 +228,9 @@ struct SequentialParts : SequentialSource<T> {
     TARN_INLINE Complex<T> element(int i) const { return {loadElement(srcRe + i), loadElement(srcIm + i)}; }
 
 private:
-    static TARN_INLINE std::array<Vector<T>, 4> columns(const T* p, std::ptrdiff_t row)
+    static TARN_INLINE std::array<BlockPart<T>, 4> columns(const T* p, std::ptrdiff_t row)
     {
-        if constexpr (lanes<T> == 4) {
+        if constexpr (blockLanes<T> == 4) {
             return transpose<T>(
                 {loadPack<4>(p), loadPack<4>(p + row), loadPack<4>(p + 2 * row), loadPack<4>(p + 3 * row)});
         } else {
@@ -288,7 +288,7 @@ TARN_INLINE const T* stageTwiddles(const T* twd, int first, int L)
 template <bool forward, typename T, typename Load, typename Put>
 TARN_INLINE void butterflyOf(Load load, const T* w, Put put)
 {
-    constexpr int width = 2 * lanes<T>;
+    constexpr int width = 2 * blockLanes<T>;
     const auto c = rotate<forward>(load(2), loadBlock(w));
     const auto d = rotate<forward>(load(3), loadBlock(w + 2 * width));
     const auto t0 = c + d;
@@ -315,7 +315,7 @@ TARN_INLINE void butterfly(const T* p, std::ptrdiff_t quarter, const T* w, Put p
 template <bool forward, typename T, typename Sink>
 inline void stage(const T* work, std::ptrdiff_t first, std::ptrdiff_t count, std::ptrdiff_t L, const T* twd, Sink sink)
 {
-    constexpr int width = 2 * lanes<T>;
+    constexpr int width = 2 * blockLanes<T>;
     const std::ptrdiff_t quarter = L / 2;
     const std::ptrdiff_t end = 2 * (first + count);
     for (std::ptrdiff_t block = 2 * first; block < end; block += 4 * quarter) {
@@ -399,7 +399,7 @@ private:
         const Source from = source;
         T* const to = work;
         const auto place = [=](int at, int group, int lane, int block) {
-            return to + 2 * (at + from.laneOffset(lane, group) + lanes<T> * block);
+            return to + 2 * (at + from.laneOffset(lane, group) + blockLanes<T> * block);
         };
         const int end = first + count;
         if (shortest == 16) {
@@ -415,7 +415,7 @@ private:
             // The second four points of each group of eight join the first four.
             from.template transformQuads<forward>(at + 4, 8, [&](int lane, int block, Block<T> x) {
                 T* p = place(at, 8, lane, block);
-                const auto odd = rotate<forward>(x, TwdTbl_03<T>.block(block * lanes<T>));
+                const auto odd = rotate<forward>(x, TwdTbl_03<T>.block(block * blockLanes<T>));
                 const auto even = loadBlock(p);
                 storeBlock(p, even + odd);
                 storeBlock(p + 8, even - odd);
@@ -431,11 +431,11 @@ private:
         if constexpr (requires { from.size; }) {
             from.size = 16;
         }
-        constexpr int width = 2 * lanes<T>;
+        constexpr int width = 2 * blockLanes<T>;
         Block<T> x[4 * blocksPerQuad<T>];
         for (int at = 0; at < 16 / Source::streams; at += from.step(4)) {
             from.template transformQuads<forward>(at, 4, [&](int lane, int block, Block<T> value) {
-                x[(at + from.laneOffset(lane, 4)) / lanes<T> + block] = value;
+                x[(at + from.laneOffset(lane, 4)) / blockLanes<T> + block] = value;
             });
         }
         for (int k = 0; k < blocksPerQuad<T>; ++k) {
@@ -456,16 +456,16 @@ private:
             setElement(k, even[k] + rotated);
             setElement(k + 4, even[k] - rotated);
         }
-        for (int at = 0; at < 16; at += 2 * lanes<T>) {
+        for (int at = 0; at < 16; at += 2 * blockLanes<T>) {
             sink.put(at, loadBlock(work + at));
         }
     }
 
     TARN_INLINE void setElement(int k, Complex<T> x) const
     {
-        T* p = work + k / lanes<T> * 2 * lanes<T> + k % lanes<T>;
+        T* p = work + k / blockLanes<T> * 2 * blockLanes<T> + k % blockLanes<T>;
         p[0] = x.re;
-        p[lanes<T>] = x.im;
+        p[blockLanes<T>] = x.im;
     }
 
     Source source;

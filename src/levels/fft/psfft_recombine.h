@@ -3,19 +3,19 @@
 #pragma once
 
 #include "frame/object.h"
-#include "frame/simd.h"
+#include "frame/simd_apart.h"
 #include "levels/fft/psfft_butterflies.h"
 
 namespace tarn::fft {
 
 template <typename T>
-using Slots = Complex<Vector<T>>;
+using Slots = Complex<BlockPart<T>>;
 
-// A table of values (A[k], B[k]) for k from 1 to a quarter of the real length, in blocks of lanes<T>: A, then B.
+// A table of values (A[k], B[k]) for k from 1 to a quarter of the real length, in blocks of blockLanes<T>: A, then B.
 template <typename T, typename Value>
 inline Owned<T[]> recombinationTable(int order, Value value)
 {
-    constexpr int group = lanes<T>;
+    constexpr int group = blockLanes<T>;
     const long long slots = order <= 3 ? 2 : (1LL << order) / 4;
     Owned<T[]> table = allocate<T>(2 * slots);
     if (!table) {
@@ -106,14 +106,15 @@ inline void recombine(const T* src, T* dst, int M, const T* table)
     }
     const Complex<T> middle = Rule::middle(Complex<T>{loadElement(src + M), loadElement(src + M + 1)});
     if (M > 2) {
-        constexpr int width = lanes<T>;
+        constexpr int width = blockLanes<T>;
         const T* srcLow = src + 2;
         T* dstLow = dst + 2;
         const T* srcHigh = src + 2 * (M - width);
         T* dstHigh = dst + 2 * (M - width);
         for (int k = 1; k < M / 2; k += width) {
-            const auto x = Rule::join(loadPairs(srcLow), loadPairsReversed(srcHigh),
-                                      Slots<T>{loadAligned(table), loadAligned(table + width)});
+            const auto x =
+                Rule::join(loadPairs<blockLanes<T>>(srcLow), loadPairsReversed<blockLanes<T>>(srcHigh),
+                           Slots<T>{loadAligned<blockLanes<T>>(table), loadAligned<blockLanes<T>>(table + width)});
             storePairs(dstLow, x.low);
             storePairsReversed(dstHigh, x.high);
             srcLow += 2 * width;

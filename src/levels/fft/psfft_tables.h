@@ -97,7 +97,7 @@ struct Circle {
 template <typename T>
 inline Owned<T[]> stageTable(int order, const T* base, int baseOrder)
 {
-    constexpr int group = lanes<T>;
+    constexpr int group = blockLanes<T>;
     const long long size = 1LL << order;
     Owned<T[]> table = allocate<T>(2 * (size < 9 ? 1 : size));
     if (!table) {

@@ -1,7 +1,6 @@
 // Bit reversal: the tables that tell what goes where, and the routines that move the elements.
 #include "frame/object.h"
 #include "frame/simd.h"
-#include "frame/simd_complex.h"
 #include "levels/fft/psfft.h"
 #include "levels/fft/psfft_tables.h"
 
@@ -32,13 +31,13 @@ struct Pair<4> {
 
 template <>
 struct Pair<8> {
-    Vector<Tarn64f> both;
+    Pack<Tarn64f, 2> both;
 
     static TARN_INLINE Pair load(const Tarn8u* p) { return {loadPack<2>(reinterpret_cast<const Tarn64f*>(p))}; }
     TARN_INLINE void storeTo(Tarn8u* p) const { store(reinterpret_cast<Tarn64f*>(p), both); }
     static TARN_INLINE void zip(Pair& a, Pair& b)
     {
-        const Complex<Vector<Tarn64f>> halves = deinterleave(a.both, b.both);
+        const Complex<Pack<Tarn64f, 2>> halves = deinterleave(a.both, b.both);
         a.both = halves.re;
         b.both = halves.im;
     }
@@ -46,7 +45,7 @@ struct Pair<8> {
 
 template <>
 struct Pair<16> {
-    Vector<Tarn64f> first, second;
+    Pack<Tarn64f, 2> first, second;
 
     static TARN_INLINE Pair load(const Tarn8u* p)
     {
@@ -109,14 +108,15 @@ class Tile {
 public:
     using Mover = std::conditional_t<bytes == 4, Tarn32f, Tarn64f>;
     static constexpr int movers = bytes / static_cast<int>(sizeof(Mover));
-    static constexpr int perVector = 16 / bytes;
+    static constexpr int perVector = tarn::fft::blockBytes / bytes;
+    using Row = Pack<Mover, perVector * movers>;
 
     // Writes the tile at `from`, reversed in both directions, to the tile at `to`; the strides are between rows.
     static TARN_INLINE void move(const Tarn8u* from, std::ptrdiff_t fromStride, Tarn8u* to, std::ptrdiff_t toStride)
     {
         for (int column = 0; column < tileSide; column += perVector) {
             for (int place = 0; place < tileSide; place += perVector) {
-                std::array<Vector<Mover>, perVector> block;
+                std::array<Row, perVector> block;
                 for (int i = 0; i < perVector; ++i) {
                     block[i] = load(from + reversedOfEight[place + i] * fromStride + column * bytes);
                 }
@@ -134,18 +134,18 @@ public:
     static TARN_INLINE void copy(const Tarn8u* from, Tarn8u* to, std::ptrdiff_t toStride)
     {
         for (int row = 0; row < tileSide; ++row) {
-            for (int at = 0; at < tileSide * bytes; at += vectorBytes) {
+            for (int at = 0; at < tileSide * bytes; at += tarn::fft::blockBytes) {
                 put(to + row * toStride + at, load(from + row * tileSide * bytes + at));
             }
         }
     }
 
 private:
-    static TARN_INLINE Vector<Mover> load(const Tarn8u* p)
+    static TARN_INLINE Row load(const Tarn8u* p)
     {
-        return loadPack<lanes<Mover>>(reinterpret_cast<const Mover*>(p));
+        return loadPack<perVector * movers>(reinterpret_cast<const Mover*>(p));
     }
-    static TARN_INLINE void put(Tarn8u* p, Vector<Mover> x) { store(reinterpret_cast<Mover*>(p), x); }
+    static TARN_INLINE void put(Tarn8u* p, Row x) { store(reinterpret_cast<Mover*>(p), x); }
 };
 
 // A tile is named by the middle bits of its elements' numbers, and its place is the reverse of its name. Tiles are

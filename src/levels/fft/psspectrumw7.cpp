@@ -2,7 +2,7 @@
 #include "levels/fft/psspectrum.h"
 
 #include "frame/backwards.h"
-#include "frame/simd_spectrum.h"
+#include "frame/simd.h"
 
 #include <algorithm>
 #include <array>
@@ -67,7 +67,7 @@ struct ProductShifted {
     TARN_INLINE auto operator()(auto a, auto b) const
     {
         const auto re = Shift::word(differenceOfParts(a, b), count);
-        const auto im = Shift::word(dotParts(a, swapParts(b)), count);
+        const auto im = Shift::word(mulAddPairs(a, swapParts(b)), count);
         return joinNarrowed(re, im);
     }
 };

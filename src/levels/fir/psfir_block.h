@@ -12,6 +12,10 @@ namespace tarn {
 
 inline constexpr int tapsOfPass = 4;
 
+// Outputs side by side: the 16 bytes in which the table of the taps has its multiples.
+template <typename T>
+inline constexpr int blockLanes = 16 / static_cast<int>(sizeof(T));
+
 // x times the tap, x being an element or a register of them.
 template <typename X, typename T>
 TARN_INLINE X tapProduct(const T* src, const Part<T>* tap)
@@ -31,12 +35,12 @@ TARN_INLINE X passSum(const T* src, const Part<T>* tap)
     if constexpr (taps == 1) {
         return tapProduct<X>(src, tap);
     } else if constexpr (taps == 2) {
-        return addElements(tapProduct<X>(src, tap), tapProduct<X>(src + 1, tap - width));
+        return add(tapProduct<X>(src, tap), tapProduct<X>(src + 1, tap - width));
     } else if constexpr (taps == 3) {
-        return addElements(passSum<2, X>(src, tap), tapProduct<X>(src + 2, tap - 2 * width));
+        return add(passSum<2, X>(src, tap), tapProduct<X>(src + 2, tap - 2 * width));
     } else {
         static_assert(taps == tapsOfPass);
-        return addElements(passSum<2, X>(src, tap), passSum<2, X>(src + 2, tap - 2 * width));
+        return add(passSum<2, X>(src, tap), passSum<2, X>(src + 2, tap - 2 * width));
     }
 }
 
@@ -44,7 +48,7 @@ TARN_INLINE X passSum(const T* src, const Part<T>* tap)
 // changes no bit.
 template <typename X, int count, typename T>
 struct Outputs {
-    static constexpr int step = isPack<X> ? lanes<T> : 1;
+    static constexpr int step = isPack<X> ? blockLanes<T> : 1;
 
     const T* src;
     const Part<T>* tap;
@@ -55,7 +59,7 @@ struct Outputs {
     {
         for (int i = 0; i < count; ++i) {
             const X sum = passSum<taps, X>(src + step * i, tap);
-            sums[i] = first ? sum : addElements(sums[i], sum);
+            sums[i] = first ? sum : add(sums[i], sum);
         }
         src += taps;
         tap -= TapLayout<T>::width * taps;
@@ -123,8 +127,8 @@ inline constexpr int outputRegisters = 2;
 template <bool more = false, typename T>
 void filterBlock(const Part<T>* table, const T* src, T* dst, int len, int tapsLen)
 {
-    using X = Vector<T>;
-    constexpr int step = lanes<T>;
+    constexpr int step = blockLanes<T>;
+    using X = Pack<T, step>;
     constexpr int block = outputRegisters * step;
     int i = 0;
     for (; i <= len - block; i += block) {

@@ -1,7 +1,7 @@
 // Layouts of taps: as the block kernels multiply by them, and as the single-sample kernels do.
 #pragma once
 
-#include "frame/simd_fir.h"
+#include "frame/simd.h"
 
 namespace tarn {
 
@@ -10,16 +10,18 @@ namespace tarn {
 template <typename T>
 struct TapLayout;
 
-// As often as a register has lanes.
+// As often as 16 bytes hold it.
 template <Float T>
 struct TapLayout<T> {
     static constexpr int width = 16 / static_cast<int>(sizeof(T));
-    static_assert(width == lanes<T>, "a tap fills one register of this level");
 
     static constexpr int tableLen(int tapsLen) { return width * tapsLen; }
-    static void write(T tap, T* table) { store(table, splat<Vector<T>>(tap)); }
+    static void write(T tap, T* table) { store(table, splat<Pack<T, width>>(tap)); }
     static TARN_INLINE T multiply(T x, const T* table) { return mul(x, *table); }
-    static TARN_INLINE Vector<T> multiply(Vector<T> x, const T* table) { return mul(x, loadOperand(table)); }
+    static TARN_INLINE Pack<T, width> multiply(Pack<T, width> x, const T* table)
+    {
+        return mul(x, loadAligned<width>(table));
+    }
 };
 
 // The real part in all lanes, then the imaginary part with the sign that it has for each part of the product. Two lists
@@ -27,7 +29,6 @@ struct TapLayout<T> {
 template <>
 struct TapLayout<Tarn32fc> {
     static constexpr int width = 8;
-    static_assert(width == 2 * lanes<Tarn32f>, "a tap fills two registers of this level");
 
     static constexpr int pairLists = 2;
     static constexpr int listLen(int tapsLen) { return 8 * ((2 * tapsLen + 7) >> 3); }
@@ -47,10 +48,10 @@ struct TapLayout<Tarn32fc> {
         return {add(mul(x.re, table[0]), mul(x.im, table[width / 2])),
                 add(mul(x.im, table[1]), mul(x.re, table[width / 2 + 1]))};
     }
-    static TARN_INLINE Vector<Tarn32fc> multiply(Vector<Tarn32fc> x, const Tarn32f* table)
+    static TARN_INLINE Pack<Tarn32fc, 2> multiply(Pack<Tarn32fc, 2> x, const Tarn32f* table)
     {
-        const auto byRe = mul(reinterpretPack<Tarn32f>(x), loadOperand(table));
-        const auto byIm = mul(reinterpretPack<Tarn32f>(swapParts(x)), loadOperand(table + width / 2));
+        const auto byRe = mul(reinterpretPack<Tarn32f>(x), loadAligned<width / 2>(table));
+        const auto byIm = mul(reinterpretPack<Tarn32f>(swapParts(x)), loadAligned<width / 2>(table + width / 2));
         return reinterpretPack<Tarn32fc>(add(byRe, byIm));
     }
 };
@@ -59,7 +60,6 @@ struct TapLayout<Tarn32fc> {
 template <>
 struct TapLayout<Tarn64fc> {
     static constexpr int width = 4;
-    static_assert(width == 2 * lanes<Tarn64f>, "a tap fills two registers of this level");
 
     static constexpr int tableLen(int tapsLen) { return width * tapsLen; }
     static void write(Tarn64fc tap, Tarn64f* table)
@@ -71,9 +71,9 @@ struct TapLayout<Tarn64fc> {
     {
         return mulComplex(Tarn64fc{table[0], table[1]}, x);
     }
-    static TARN_INLINE Vector<Tarn64fc> multiply(Vector<Tarn64fc> x, const Tarn64f* table)
+    static TARN_INLINE Pack<Tarn64fc, 1> multiply(Pack<Tarn64fc, 1> x, const Tarn64f* table)
     {
-        return mulSpread(x, loadOperand(table), loadOperand(table + width / 2));
+        return mulSpread(x, loadAligned<width / 2>(table), loadAligned<width / 2>(table + width / 2));
     }
 };
 

@@ -14,27 +14,28 @@ namespace {
 // Below this many taps the products are added in their order; above it two registers of sums are worth their joining.
 constexpr int tapsInOrder = 12;
 
-// Sums of x[i] w[i]; len is a multiple of the part count of x for complex data. The taps lie on a vector boundary.
+// Sums of x[i] w[i]; len is a multiple of the part count of x for complex data. The taps lie on a boundary of 16 bytes,
+// which is what a step takes: the partial sums are part of the result.
 template <Float T>
 TARN_INLINE T dotProduct(const T* x, const T* w, int len)
 {
-    constexpr int step = lanes<T>;
-    Vector<T> first = splat<Vector<T>>(0);
-    Vector<T> second = first;
+    constexpr int step = 16 / static_cast<int>(sizeof(T));
+    auto first = splat<Pack<T, step>>(0);
+    auto second = first;
     int i = 0;
     for (; i <= len - 2 * step; i += 2 * step) {
-        first = add(first, mul(loadPack<step>(x + i), loadOperand(w + i)));
-        second = add(second, mul(loadPack<step>(x + i + step), loadOperand(w + i + step)));
+        first = add(first, mul(loadPack<step>(x + i), loadAligned<step>(w + i)));
+        second = add(second, mul(loadPack<step>(x + i + step), loadAligned<step>(w + i + step)));
     }
     if (i <= len - step) {
-        first = add(first, mul(loadPack<step>(x + i), loadOperand(w + i)));
+        first = add(first, mul(loadPack<step>(x + i), loadAligned<step>(w + i)));
         i += step;
     }
     if (i <= len - step / 2) {
-        second = add(second, mul(loadHalf(x + i), loadHalf(w + i)));
+        second = add(second, mul(loadHalf<step>(x + i), loadHalf<step>(w + i)));
         i += step / 2;
     }
-    T sum = sumOfLanes(add(first, second));
+    T sum = foldLanes(add(first, second), add);
     for (; i < len; ++i) {
         sum = add(sum, mul(loadElement(x + i), w[i]));
     }
@@ -66,20 +67,20 @@ Tarn32fc filterWindow(const Tarn32fc* window, const Tarn32fc* /*taps*/, const Ta
 // Two sums, since each waits for the one before.
 Tarn64fc filterWindow(const Tarn64fc* window, const Tarn64fc* taps, const Tarn64f* /*table*/, int tapsLen)
 {
-    using X = Vector<Tarn64fc>;
+    using X = Pack<Tarn64fc, 1>;
     const auto product = [=](int i) { return mulComplex(loadPack<1>(taps + i), loadPack<1>(window + i)); };
     X even = splat<X>({0, 0});
     X odd = even;
     int i = 0;
     for (; i <= tapsLen - 2; i += 2) {
-        even = addElements(even, product(i));
-        odd = addElements(odd, product(i + 1));
+        even = add(even, product(i));
+        odd = add(odd, product(i + 1));
     }
     if (i < tapsLen) {
-        even = addElements(even, product(i));
+        even = add(even, product(i));
     }
     Tarn64fc sum;
-    store(&sum, addElements(even, odd));
+    store(&sum, add(even, odd));
     return sum;
 }
 
@@ -108,9 +109,9 @@ S resultToSample(T y, int scaleFactor)
         const T scaled = y * powerOfScale<T>(scaleFactor);
         Tarn32s integer = 0;
         if constexpr (std::is_same_v<T, Tarn32f>) {
-            integer = roundSingle(scaled);
+            integer = roundToInteger(scaled);
         } else {
-            integer = roundDouble(min(2147483648.0, scaled));
+            integer = roundToInteger(min(2147483648.0, scaled));
         }
         return narrowSaturated<S>(integer);
     }
@@ -139,7 +140,7 @@ struct RoundTo16s {
     TARN_INLINE auto operator()(X x) const
     {
         // The order of the operands lets a NaN pass, of which the conversion makes the lowest integer.
-        return narrowSaturated<Tarn16s>(roundDouble(min(splat<X>(highest<Tarn16s>), scale(x))));
+        return narrowSaturated<Tarn16s>(roundToInteger(min(splat<X>(highest<Tarn16s>), scale(x))));
     }
 };
 

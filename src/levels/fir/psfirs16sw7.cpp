@@ -1,8 +1,7 @@
 // Kernels of FIR filters with 16-bit taps and samples: sums modulo 2^32, shifted and saturated.
 #include "frame/delay_line.h"
 #include "frame/scale_exact.h"
-#include "frame/simd_fir.h"
-#include "frame/simd_round.h"
+#include "frame/simd.h"
 #include "levels/fir/psfir.h"
 
 #include <bit>
@@ -69,7 +68,8 @@ TARN_INLINE void withShift(int tapsFactor, int scaleFactor, Run run)
 
 // Outputs that are computed together, from the same registers of taps.
 constexpr int outputsTogether = 4;
-constexpr int samplesAtOnce = lanes<Tarn16s>;
+constexpr int samplesAtOnce = 8;
+constexpr int sumsAtOnce = 4;
 
 // The taps of a state as they lie in memory: copy c of the reversed taps, with zeros behind it.
 const Tarn16s* tapsCopy(const TarnsFIRState32s_16s* state, int c)
@@ -80,12 +80,12 @@ const Tarn16s* tapsCopy(const TarnsFIRState32s_16s* state, int c)
 // One output, reading nothing but its window.
 TARN_INLINE Tarn32s filterWindow(const Tarn16s* x, const Tarn16s* taps, int tapsLen)
 {
-    auto sums = splat<Vector<Tarn32s>>(0);
+    auto sums = splat<Pack<Tarn32s, sumsAtOnce>>(0);
     int i = 0;
     for (; i <= tapsLen - samplesAtOnce; i += samplesAtOnce) {
         sums = add(sums, mulAddPairs(loadPack<samplesAtOnce>(x + i), loadPack<samplesAtOnce>(taps + i)));
     }
-    Tarn32s sum = sumOfLanes(sums);
+    Tarn32s sum = foldLanes(sums, add);
     for (; i < tapsLen; ++i) {
         sum = add(sum, Tarn32s{loadElement(x + i)} * loadElement(taps + i));
     }
@@ -93,10 +93,10 @@ TARN_INLINE Tarn32s filterWindow(const Tarn16s* x, const Tarn16s* taps, int taps
 }
 
 // Four outputs. It reads whole registers of samples and taps: what is behind the last tap is multiplied by zero.
-TARN_INLINE Vector<Tarn32s> filterFour(const Tarn16s* x, const Tarn16s* taps, int tapsLen)
+TARN_INLINE Pack<Tarn32s, sumsAtOnce> filterFour(const Tarn16s* x, const Tarn16s* taps, int tapsLen)
 {
-    const auto zero = splat<Vector<Tarn32s>>(0);
-    Vector<Tarn32s> sums[outputsTogether] = {zero, zero, zero, zero};
+    const auto zero = splat<Pack<Tarn32s, sumsAtOnce>>(0);
+    Pack<Tarn32s, sumsAtOnce> sums[outputsTogether] = {zero, zero, zero, zero};
     for (int i = 0; i < tapsLen; i += samplesAtOnce) {
         const auto w = loadPack<samplesAtOnce>(taps + i);
         for (int k = 0; k < outputsTogether; ++k) {
@@ -145,8 +145,8 @@ TARN_INLINE Tarn32sc filterWindow(const Tarn16sc* x, PairLists taps, int tapsLen
     Tarn32sc sum{0, 0};
     for (int i = 0; i < tapsLen; ++i) {
         const Tarn16sc sample = loadElement(x + i);
-        sum.re = add(sum.re, dotParts(sample, taps.re[i]));
-        sum.im = add(sum.im, dotParts(sample, taps.im[i]));
+        sum.re = add(sum.re, mulAddPairs(sample, taps.re[i]));
+        sum.im = add(sum.im, mulAddPairs(sample, taps.im[i]));
     }
     return sum;
 }
@@ -161,21 +161,21 @@ TARN_INLINE Tarn16sc toSample(Tarn32sc sum, Shift shift)
 template <typename Shift>
 TARN_INLINE void filterRegisters(const Tarn16sc* src, Tarn16sc* dst, PairLists taps, int tapsLen, Shift shift)
 {
-    constexpr int step = lanes<Tarn16sc>;
-    const auto zero = splat<Vector<Tarn32s>>(0);
-    Vector<Tarn32s> re[2] = {zero, zero};
-    Vector<Tarn32s> im[2] = {zero, zero};
+    constexpr int step = sumsAtOnce;
+    const auto zero = splat<Pack<Tarn32s, sumsAtOnce>>(0);
+    Pack<Tarn32s, sumsAtOnce> re[2] = {zero, zero};
+    Pack<Tarn32s, sumsAtOnce> im[2] = {zero, zero};
     for (int i = 0; i < tapsLen; ++i) {
-        const auto reTap = splat<Vector<Tarn16sc>>(taps.re[i]);
-        const auto imTap = splat<Vector<Tarn16sc>>(taps.im[i]);
+        const auto reTap = splat<Pack<Tarn16sc, step>>(taps.re[i]);
+        const auto imTap = splat<Pack<Tarn16sc, step>>(taps.im[i]);
         for (int k = 0; k < 2; ++k) {
             const auto x = loadPack<step>(src + i + k * step);
-            re[k] = add(re[k], dotParts(x, reTap));
-            im[k] = add(im[k], dotParts(x, imTap));
+            re[k] = add(re[k], mulAddPairs(x, reTap));
+            im[k] = add(im[k], mulAddPairs(x, imTap));
         }
     }
     for (int k = 0; k < 2; ++k) {
-        const auto sums = reinterpretPack<Tarn32s>(joinParts(re[k], im[k]));
+        const auto sums = reinterpretPack<Tarn32s>(complexFrom<Tarn32sc>(re[k], im[k]));
         store(dst + k * step, reinterpretPack<Tarn16sc>(narrowSaturated<Tarn16s>(shift(sums))));
     }
 }
@@ -183,7 +183,7 @@ TARN_INLINE void filterRegisters(const Tarn16sc* src, Tarn16sc* dst, PairLists t
 template <typename Shift>
 void filterBlock(const Tarn16sc* src, Tarn16sc* dst, int len, const TarnsFIRState32sc_16sc* state, Shift shift)
 {
-    constexpr int block = 2 * lanes<Tarn16sc>;
+    constexpr int block = 2 * sumsAtOnce;
     const int tapsLen = state->tapsLen;
     const PairLists taps = pairLists(state);
     int i = 0;
@@ -308,7 +308,7 @@ int scale32fTaps32s(const Tarn32f* pSrc, Tarn32s* pDst, int len)
     }
     for (int i = 0; i < len; ++i) {
         const Tarn64f scaled = scale * exactDouble(loadElement(pSrc + i));
-        store(pDst + i, truncateDouble(scaled + (scaled < 0 ? -0.5 : 0.5)));
+        store(pDst + i, truncateToInteger(scaled + (scaled < 0 ? -0.5 : 0.5)));
     }
     return exponent;
 }

@@ -28,7 +28,7 @@ struct PutDoubles {
     template <int N>
     TARN_INLINE void operator()(Tarn16s* dst, Pack<Tarn64f, N> x) const
     {
-        storeNarrowed(dst, truncateDouble(x));
+        storeNarrowed(dst, truncateToInteger(x));
     }
     template <int N>
     TARN_INLINE void operator()(Tarn32f* dst, Pack<Tarn64f, N> x) const

@@ -2,7 +2,7 @@
 #include "levels/generators/pstriangle.h"
 
 #include "frame/phase.h"
-#include "frame/simd_signal.h"
+#include "frame/simd.h"
 
 namespace tarn {
 

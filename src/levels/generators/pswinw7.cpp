@@ -8,6 +8,9 @@ namespace tarn {
 
 namespace {
 
+// The lanes of runs are part of their results: so many of single precision, and half as many of double.
+constexpr int singles = 4;
+
 // -- Weights of the sequence y[n] = y[0] cos(n t), on lanes of any type ----------------------------------------------
 
 struct RaisedCosine {
@@ -91,11 +94,11 @@ struct LaneRun {
 // Weights formed in double and rounded to single precision, real elements: two steps of two lanes.
 template <typename Weight>
 struct NarrowedPairRun {
-    static constexpr int group = lanes<Tarn32f>;
-    Recurrence<Vector<Tarn64f>> y;
+    static constexpr int group = singles;
+    Recurrence<Pack<Tarn64f, singles / 2>> y;
     Weight weight;
 
-    TARN_INLINE Vector<Tarn32f> next()
+    TARN_INLINE Pack<Tarn32f, singles> next()
     {
         const auto lo = weight(y.advance());
         return narrowFloat(join(lo, weight(y.advance())));
@@ -115,11 +118,11 @@ struct NarrowedPairRun {
 // The same for complex elements, of which a register holds two.
 template <typename Weight>
 struct NarrowedSingleRun {
-    static constexpr int group = lanes<Tarn32f> / 2;
+    static constexpr int group = singles / 2;
     Recurrence<Tarn64f> y;
     Weight weight;
 
-    TARN_INLINE Vector<Tarn32f> next()
+    TARN_INLINE Pack<Tarn32f, singles> next()
     {
         const Tarn64f y0 = y.advance();
         const Tarn64f y1 = y.advance();
@@ -137,11 +140,11 @@ struct NarrowedSingleRun {
 // A run in extended precision, each value of which is rounded to feed single-precision lanes.
 template <int parts, typename Weight>
 struct RoundedRun {
-    static constexpr int group = lanes<Tarn32f> / parts;
+    static constexpr int group = singles / parts;
     Recurrence<long double> y;
     Weight weight;
 
-    TARN_INLINE Vector<Tarn32f> next()
+    TARN_INLINE Pack<Tarn32f, singles> next()
     {
         const Tarn32f y0 = static_cast<Tarn32f>(y.advance());
         const Tarn32f y1 = static_cast<Tarn32f>(y.advance());
@@ -204,6 +207,10 @@ struct Ramp {
 template <typename T, int stride>
 using RunLanes = Pack<LaneOf<T>, stride * partsOf<T>>;
 
+// The triangle's weights go up in steps of 16 bytes of lanes.
+template <typename T>
+constexpr int rampLanes = 16 / static_cast<int>(sizeof(LaneOf<T>));
+
 // From this many pairs on, single-precision weights of a triangle would drift; a Blackman window runs in extended
 // precision altogether.
 constexpr int mostPairsOfLaneBlackman = 512;
@@ -216,7 +223,7 @@ void windowRaisedCosine(const T* src, T* dst, int len, RaisedCosineShape shape, 
 {
     const RaisedCosine weight{shape.pedestal};
     if constexpr (std::is_same_v<T, Tarn32f>) {
-        const auto y = startRun<Vector<Tarn64f>, 1>(shape.amplitude, cosines);
+        const auto y = startRun<Pack<Tarn64f, singles / 2>, 1>(shape.amplitude, cosines);
         walkMirrored(src, dst, len, NarrowedPairRun<RaisedCosine>{y, weight});
     } else if constexpr (std::is_same_v<T, Tarn32fc>) {
         walkMirrored(src, dst, len,
@@ -259,7 +266,7 @@ void windowBartlett(const T* src, T* dst, int len)
         long double weight = -static_cast<long double>(step);
         walkMirroredElements(src, dst, len, [&] { return weight += step; });
     } else {
-        walkMirrored(src, dst, len, Ramp<Vector<LaneOf<T>>, partsOf<T>>(step));
+        walkMirrored(src, dst, len, Ramp<Pack<LaneOf<T>, rampLanes<T>>, partsOf<T>>(step));
     }
 }
 

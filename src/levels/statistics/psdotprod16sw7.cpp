@@ -12,14 +12,14 @@ namespace {
 // which needs no sign on its way to 64 bits; the count of pair sums times this leaves at the end.
 constexpr Tarn32s offset = highest<Tarn32s>;
 
-TARN_INLINE Vector<Tarn32u> moved(Vector<Tarn32s> pairSum)
+TARN_INLINE Reduced<Tarn32u> moved(Reduced<Tarn32s> pairSum)
 {
-    return retype<Tarn32u>(add(pairSum, splat<Vector<Tarn32s>>(offset)));
+    return retype<Tarn32u>(add(pairSum, splat<Reduced<Tarn32s>>(offset)));
 }
 
 struct PartSums {
-    Vector<Tarn64s> re;
-    Vector<Tarn64s> im;
+    Reduced<Tarn64s> re;
+    Reduced<Tarn64s> im;
 };
 
 struct AddPartSums {
@@ -28,24 +28,24 @@ struct AddPartSums {
 
 // a.im ~b.im is -a.im b.im - a.im: unlike the negative of the lowest integer, the complement of every one exists.
 struct TakeComplex {
-    TARN_INLINE PartSums operator()(PartSums sum, Vector<Tarn16sc> a, Vector<Tarn16sc> b) const
+    TARN_INLINE PartSums operator()(PartSums sum, Reduced<Tarn16sc> a, Reduced<Tarn16sc> b) const
     {
-        const auto imaginaryParts = splat<Vector<Tarn32s>>(static_cast<Tarn32s>(0xFFFF0000));
+        const auto imaginaryParts = splat<Reduced<Tarn32s>>(static_cast<Tarn32s>(0xFFFF0000));
         const auto complemented = reinterpretPack<Tarn16sc>(bitXor(reinterpretPack<Tarn32s>(b), imaginaryParts));
-        const auto re = add(dotParts(a, complemented), shiftRight(reinterpretPack<Tarn32s>(a), 16));
-        const auto im = dotParts(a, swapParts(b));
+        const auto re = add(mulAddPairs(a, complemented), shiftRight(reinterpretPack<Tarn32s>(a), 16));
+        const auto im = mulAddPairs(a, swapParts(b));
         return {add(sum.re, pairSums(moved(re))), add(sum.im, pairSums(moved(im)))};
     }
 };
 
 // Sums over two elements lie in turn: a real one, an imaginary one.
 struct TakeMixed {
-    TARN_INLINE PartSums operator()(PartSums sum, Vector<Tarn16s> a, Pack<Tarn16sc, lanes<Tarn16s>> b) const
+    TARN_INLINE PartSums operator()(PartSums sum, Reduced<Tarn16s> a, Pack<Tarn16sc, reducedLanes<Tarn16s>> b) const
     {
         const auto real = pairsTwice(a);
-        const auto lo = moved(pairProducts(real.lo, partsOfPairs(b.lo)));
-        const auto hi = moved(pairProducts(real.hi, partsOfPairs(b.hi)));
-        return {add(sum.re, add(evenLanes(lo), evenLanes(hi))), add(sum.im, add(oddLanes(lo), oddLanes(hi)))};
+        const auto lo = moved(mulAddPairs(real.lo, partsOfPairs(b.lo)));
+        const auto hi = moved(mulAddPairs(real.hi, partsOfPairs(b.hi)));
+        return {add(sum.re, add(widenEven(lo), widenEven(hi))), add(sum.im, add(widenOdd(lo), widenOdd(hi)))};
     }
 };
 
@@ -53,7 +53,7 @@ struct TakeMixed {
 template <int step, int pairs, typename Take, typename One, typename A, typename B>
 TARN_INLINE Tarn64sc sumParts(int len, Take take, One one, const A* a, const B* b)
 {
-    const auto none = splat<Vector<Tarn64s>>(0);
+    const auto none = splat<Reduced<Tarn64s>>(0);
     Accumulators<PartSums, 2> sums({none, none});
     Index i = takeSteps<step>(sums, 0, len, take, a, b);
     auto all = sums.joined(AddPartSums{});
@@ -68,8 +68,8 @@ TARN_INLINE Tarn64sc sumParts(int len, Take take, One one, const A* a, const B* 
 
 void DotProd_16s64s(const Tarn16s* pSrc1, const Tarn16s* pSrc2, int len, Tarn64s* pDp)
 {
-    constexpr int step = lanes<Tarn16s>;
-    const auto take = [](Vector<Tarn16s> a, Vector<Tarn16s> b) { return pairSums(moved(pairProducts(a, b))); };
+    constexpr int step = reducedLanes<Tarn16s>;
+    const auto take = [](Reduced<Tarn16s> a, Reduced<Tarn16s> b) { return pairSums(moved(mulAddPairs(a, b))); };
     const auto one = [](Tarn32s a, Tarn32s b) { return Tarn64s{a * b}; };
     const Tarn64s sum = sumExact<step>(len, take, one, pSrc1, pSrc2);
     store(pDp, sum - Tarn64s{len / step * (step / 2)} * offset);
@@ -80,11 +80,11 @@ void DotProd_16sc64sc(const Tarn16sc* pSrc1, const Tarn16sc* pSrc2, int len, Tar
     const auto one = [](Tarn64sc sum, Tarn16sc a, Tarn16sc b) {
         return Tarn64sc{sum.re + Tarn64s{a.re * b.re} - a.im * b.im, sum.im + Tarn64s{a.re * b.im} + a.im * b.re};
     };
-    store(pDp, sumParts<lanes<Tarn16sc>, 1>(len, TakeComplex{}, one, pSrc1, pSrc2));
+    store(pDp, sumParts<reducedLanes<Tarn16sc>, 1>(len, TakeComplex{}, one, pSrc1, pSrc2));
 }
 
 void DotProd_16s16sc64sc(const Tarn16s* pSrc1, const Tarn16sc* pSrc2, int len, Tarn64sc* pDp)
 {
     const auto one = [](Tarn64sc sum, Tarn16s a, Tarn16sc b) { return Tarn64sc{sum.re + a * b.re, sum.im + a * b.im}; };
-    store(pDp, sumParts<lanes<Tarn16s>, 2>(len, TakeMixed{}, one, pSrc1, pSrc2));
+    store(pDp, sumParts<reducedLanes<Tarn16s>, 2>(len, TakeMixed{}, one, pSrc1, pSrc2));
 }

@@ -23,7 +23,7 @@ struct Working {
         } else if constexpr (std::is_same_v<T, F>) {
             return x;
         } else if constexpr (std::is_same_v<T, Tarn32f>) {
-            return widenFloat(x);
+            return widen(x);
         } else if constexpr (std::is_same_v<T, Tarn16s>) {
             return convert<Tarn64f>(widen(x));
         } else {
@@ -92,7 +92,7 @@ struct TakeMixed {
     TARN_INLINE X operator()(X sum, A a, B b) const
     {
         const Working<F> working;
-        return add(sum, mul(reinterpretPack<F>(inBothParts(working(a))), working(b)));
+        return add(sum, mul(twice(working(a)), working(b)));
     }
 };
 
@@ -115,9 +115,9 @@ struct TakeComplex {
 constexpr int accumulatorRegisters = 4;
 
 template <typename T, int N>
-TARN_INLINE Vector<T> inOneRegister(Pack<T, N> x)
+TARN_INLINE Reduced<T> inOneRegister(Pack<T, N> x)
 {
-    if constexpr (N > lanes<T>) {
+    if constexpr (N > reducedLanes<T>) {
         return add(inOneRegister(x.lo), inOneRegister(x.hi));
     } else {
         return x;
@@ -128,7 +128,7 @@ TARN_INLINE Vector<T> inOneRegister(Pack<T, N> x)
 template <int step, typename State, typename Take, typename A, typename B>
 TARN_INLINE State sumPacks(State none, Index& i, int len, Take take, const A* a, const B* b)
 {
-    constexpr int registers = sizeof(State) / vectorBytes;
+    constexpr int registers = sizeof(State) / reducedBytes;
     Accumulators<State, std::max(1, accumulatorRegisters / registers)> sums(none);
     i = takeSteps<step>(sums, 0, len, take, a, b);
     auto sum = sums.joined(AddUp{});
@@ -175,7 +175,7 @@ TARN_INLINE ComplexOf<F> dotComplex(const A* a, const B* b, int len)
     const auto sums = sumPacks<step>(none, i, len, TakeComplex<F>{}, a, b);
     const auto byRe = foldTo<2>(inOneRegister(sums.byRe), add);
     const auto byIm = reinterpretPack<ComplexOf<F>>(foldTo<2>(inOneRegister(sums.byIm), add));
-    const auto parts = subAddLanes(byRe, reinterpretPack<F>(swapParts(byIm)));
+    const auto parts = subAdd(byRe, reinterpretPack<F>(swapParts(byIm)));
     ComplexOf<F> sum{firstLane(parts), firstLane(lanesDown<1>(parts))};
     const Working<F> working;
     for (; i < len; ++i) {
@@ -196,7 +196,7 @@ constexpr int highestFactor = 93;
 TARN_INLINE Tarn32s scaled(Tarn64f total, int scaleFactor)
 {
     const Tarn64f x = total * twoToMinus<Tarn64f>(std::clamp(scaleFactor, lowestFactor, highestFactor));
-    return x > highest<Tarn32s> ? highest<Tarn32s> : x < lowest<Tarn32s> ? lowest<Tarn32s> : roundDouble(x);
+    return x > highest<Tarn32s> ? highest<Tarn32s> : x < lowest<Tarn32s> ? lowest<Tarn32s> : roundToInteger(x);
 }
 TARN_INLINE Tarn32sc scaled(Tarn64fc total, int scaleFactor)
 {

@@ -3,7 +3,7 @@
 
 #include "frame/flags.h"
 #include "frame/reduce.h"
-#include "frame/simd_reciprocal.h"
+#include "frame/simd.h"
 
 #include <bit>
 
@@ -53,10 +53,10 @@ constexpr int exponentOfHalf_32f = 126;
 
 bool orderOfFinite(const Tarn32f* p, int len, int* order)
 {
-    constexpr int step = lanes<Tarn32s>;
+    constexpr int step = reducedLanes<Tarn32s>;
     const auto* bits = reinterpret_cast<const Tarn32s*>(p);
-    const auto none = splat<Vector<Tarn32s>>(0);
-    FiniteMaximum<Vector<Tarn32s>> all{none, none};
+    const auto none = splat<Reduced<Tarn32s>>(0);
+    FiniteMaximum<Reduced<Tarn32s>> all{none, none};
     const Index i = takePacks<step>(all, 0, len, TakeFinite{}, bits);
     FiniteMaximum<Tarn32s> state{foldLanes(all.bits, max), foldLanes(all.rejected, bitOr)};
     takeElements(state, i, len, TakeFinite{}, bits);

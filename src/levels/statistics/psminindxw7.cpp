@@ -90,8 +90,8 @@ TARN_INLINE void byElement(const T* p, int len, T* value, int* index)
 template <typename Extreme, typename T>
 TARN_INLINE void ofBlock(const T* p, int len, T* value)
 {
-    constexpr int step = lanes<T>;
-    Accumulators<Vector<T>, 2> extremes(loadPack<step>(p));
+    constexpr int step = reducedLanes<T>;
+    Accumulators<Reduced<T>, 2> extremes(loadPack<step>(p));
     extremes.at[1] = loadPack<step>(p + step);
     for (Index i = 2 * step; i < len; i += 2 * step) {
         prefetchOnce(p + i + prefetchBytes / static_cast<int>(sizeof(T)));
@@ -106,7 +106,7 @@ TARN_INLINE void byBlock(void (*extremeOf)(const T*, int, T*), int (*indexOf)(co
                          int len, T* value, int* index)
 {
     constexpr int block = blockBytes / sizeof(T);
-    constexpr int step = 2 * lanes<T>;
+    constexpr int step = 2 * reducedLanes<T>;
     Record<T> record{loadElement(p), 0};
     int i = std::min(head, len);
     scan<Extreme>(record, p, 1, i);
@@ -128,7 +128,8 @@ TARN_INLINE int indexOfBits(const T* p, const T* value)
 {
     Bits wanted;
     std::memcpy(&wanted, static_cast<const void*>(value), sizeof wanted);
-    return indexOfFirst(reinterpret_cast<const Bits*>(p), highest<int>, wanted, equal);
+    // No more is read at once than the pass takes.
+    return indexOfFirst<reducedLanes<T>>(reinterpret_cast<const Bits*>(p), highest<int>, wanted, equal);
 }
 
 // Elements of 16 bits are walked to a boundary of this many bytes.
@@ -161,7 +162,8 @@ void ownsMinIndx_16s(const Tarn16s* pSrc, int len, Tarn16s* pMin, int* pIndx)
 
 void ownsMinIndx_32f(const Tarn32f* pSrc, int len, Tarn32f* pMin, int* pIndx)
 {
-    byBlock<ForMinimum>(ownsMinPrefetch_32f_A6, ownsIndx_32f_A6, elementsToBoundary(pSrc), pSrc, len, pMin, pIndx);
+    byBlock<ForMinimum>(ownsMinPrefetch_32f_A6, ownsIndx_32f_A6, elementsToBoundary<reducedBytes>(pSrc), pSrc, len,
+                        pMin, pIndx);
 }
 
 void ownsMinIndx_16s_M6(const Tarn16s* pSrc, int len, Tarn16s* pMin, int* pIndx)
@@ -186,7 +188,8 @@ void ownsMaxIndx_16s(const Tarn16s* pSrc, int len, Tarn16s* pMax, int* pIndx)
 
 void ownsMaxIndx_32f(const Tarn32f* pSrc, int len, Tarn32f* pMax, int* pIndx)
 {
-    byBlock<ForMaximum>(ownsMaxPrefetch_32f_A6, ownsIndx_32f_A6, elementsToBoundary(pSrc), pSrc, len, pMax, pIndx);
+    byBlock<ForMaximum>(ownsMaxPrefetch_32f_A6, ownsIndx_32f_A6, elementsToBoundary<reducedBytes>(pSrc), pSrc, len,
+                        pMax, pIndx);
 }
 
 void ownsMaxIndx_16s_M6(const Tarn16s* pSrc, int len, Tarn16s* pMax, int* pIndx)

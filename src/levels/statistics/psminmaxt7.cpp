@@ -19,7 +19,7 @@ TARN_INLINE void storeExtremes(Extremes<T> extremes, T* smallest, T* largest)
 template <typename T>
 TARN_INLINE void minMaxOfFloats(const T* p, int len, T* smallest, T* largest)
 {
-    constexpr int step = lanes<T>;
+    constexpr int step = reducedLanes<T>;
     const T first = loadElement(p);
     Extremes<T> extremes{first, first};
     if (len < 2 * step) {
@@ -27,9 +27,9 @@ TARN_INLINE void minMaxOfFloats(const T* p, int len, T* smallest, T* largest)
     } else {
         const auto at = [p](Index i) {
             const auto x = loadPack<step>(p + i);
-            return Extremes<Vector<T>>{x, x};
+            return Extremes<Reduced<T>>{x, x};
         };
-        Accumulators<Extremes<Vector<T>>, 2> states(at(0));
+        Accumulators<Extremes<Reduced<T>>, 2> states(at(0));
         states.at[1] = at(step);
         const Index i = takeSteps<step>(states, 2 * step, len, WidenExtremes{}, p);
         const auto all = states.joined(WidenExtremes{});
@@ -46,7 +46,7 @@ TARN_INLINE void minMaxOfFloats(const T* p, int len, T* smallest, T* largest)
 template <typename T, typename Moved>
 TARN_INLINE void minMaxOfIntegers(const T* p, int len, T* smallest, T* largest, Moved moved)
 {
-    constexpr int step = lanes<T>;
+    constexpr int step = reducedLanes<T>;
     const T first = loadElement(p);
     Extremes<T> extremes{first, first};
     Index i = 0;
@@ -56,7 +56,7 @@ TARN_INLINE void minMaxOfIntegers(const T* p, int len, T* smallest, T* largest, 
         const auto takePair = [moved](State state, Pack<T, 2 * step> x) {
             return WidenExtremes{}(state, ordered(moved(x.lo), moved(x.hi)));
         };
-        const auto takeOne = [moved](State state, Vector<T> x) { return WidenExtremes{}(state, moved(x)); };
+        const auto takeOne = [moved](State state, Reduced<T> x) { return WidenExtremes{}(state, moved(x)); };
         Accumulators<State, 1> states(State{start, start});
         i = takeSteps<2 * step>(states, step, len, takePair, p);
         auto all = states.at[0];
@@ -108,7 +108,7 @@ void MiniMax_64f_T7(const Tarn64f* pSrc, int len, Tarn64f* pMin, Tarn64f* pMax)
 template <typename T>
 int tarn::firstMatch(const T* pSrc, int len, T value)
 {
-    return std::max(indexOfFirst(pSrc, len, value, matchesUnordered), 0);
+    return std::max(indexOfFirst<lanes<T>>(pSrc, len, value, matchesUnordered), 0);
 }
 
 template int tarn::firstMatch(const Tarn8u* pSrc, int len, Tarn8u value);

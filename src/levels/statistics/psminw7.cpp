@@ -15,12 +15,12 @@ namespace {
 template <typename T, typename Better>
 TARN_INLINE void extremeOfFloats(Better better, const T* p, int len, T* result)
 {
-    constexpr int step = lanes<T>;
+    constexpr int step = reducedLanes<T>;
     T extreme = loadElement(p);
     Index i = takeElements(extreme, 0, headOf(len, p), better, p);
     if (i <= len - 4 * step) {
-        Accumulators<Vector<T>, 4> extremes(splat<Vector<T>>(loadElement(p)));
-        if (addressOf(p + i) % (2 * vectorBytes) == vectorBytes) {
+        Accumulators<Reduced<T>, 4> extremes(splat<Reduced<T>>(loadElement(p)));
+        if (addressOf(p + i) % (2 * reducedBytes) == reducedBytes) {
             extremes.at[0] = better(extremes.at[0], loadPack<step>(p + i));
             i += step;
         }

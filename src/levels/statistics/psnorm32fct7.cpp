@@ -3,7 +3,7 @@
 
 #include "frame/flags.h"
 #include "frame/reduce.h"
-#include "frame/simd_reciprocal.h"
+#include "frame/simd.h"
 
 using namespace tarn;
 
@@ -11,44 +11,41 @@ namespace {
 
 // sqrt(p) for single-precision lanes: with the processor's estimate e of 1 / sqrt(p), a = p e is a first root, and one
 // Newton step refines it to (3 - a e) a / 2. The estimate for 0 is infinite, so that a group with a 0 takes full roots.
-TARN_INLINE Vector<Tarn32f> rootOf(Vector<Tarn32f> p)
+TARN_INLINE Reduced<Tarn32f> rootOf(Reduced<Tarn32f> p)
 {
-    if (anyOf(equal(p, splat<Vector<Tarn32f>>(0)))) {
+    if (anyOf(equal(p, splat<Reduced<Tarn32f>>(0)))) {
         return squareRoot(p);
     }
     const auto e = approxReciprocalRoot(p);
     const auto a = mul(p, e);
-    return mul(mul(splat<Vector<Tarn32f>>(0.5F), sub(splat<Vector<Tarn32f>>(3), mul(a, e))), a);
+    return mul(mul(splat<Reduced<Tarn32f>>(0.5F), sub(splat<Reduced<Tarn32f>>(3), mul(a, e))), a);
 }
-TARN_INLINE Vector<Tarn64f> rootOf(Vector<Tarn64f> p) { return squareRoot(p); }
+TARN_INLINE Reduced<Tarn64f> rootOf(Reduced<Tarn64f> p) { return squareRoot(p); }
 TARN_INLINE Tarn32f rootOf(Tarn32f p) { return squareRoot(p); }
 TARN_INLINE Tarn64f rootOf(Tarn64f p) { return squareRoot(p); }
 
-template <typename T>
-    requires isComplex<T> TARN_INLINE Part<T> squaredMagnitudesOf(T x) { return add(mul(x.re, x.re), mul(x.im, x.im)); }
-
 // The lanes' sum in double precision.
-TARN_INLINE Tarn64f joinInDouble(Vector<Tarn32f> sum)
+TARN_INLINE Tarn64f joinInDouble(Reduced<Tarn32f> sum)
 {
-    const auto wide = widenFloat(sum);
+    const auto wide = widen(sum);
     return foldLanes(add(wide.lo, wide.hi), add);
 }
-TARN_INLINE Tarn64f joinInDouble(Vector<Tarn64f> sum) { return foldLanes(sum, add); }
+TARN_INLINE Tarn64f joinInDouble(Reduced<Tarn64f> sum) { return foldLanes(sum, add); }
 
 // The sum of what `of` makes of squared magnitudes: lanes of the elements' precision, then doubles.
 template <typename S, typename Of>
 TARN_INLINE Tarn64f sumOver(S src, int len, Of of)
 {
     using P = Part<decltype(loadElement(src))>;
-    constexpr int step = lanes<P>;
-    const auto take = [of](auto sum, auto x) { return add(sum, of(squaredMagnitudesOf(x))); };
-    Accumulators<Vector<P>, 2> sums(splat<Vector<P>>(0));
+    constexpr int step = reducedLanes<P>;
+    const auto take = [of](auto sum, auto x) { return add(sum, of(squaredMagnitudes(x))); };
+    Accumulators<Reduced<P>, 2> sums(splat<Reduced<P>>(0));
     Index i = takeSteps<step>(sums, 0, len, take, src);
     auto all = sums.joined(add);
     i = takePacks<step>(all, i, len, take, src);
     Tarn64f total = joinInDouble(all);
     for (; i < len; ++i) {
-        total += Tarn64f{of(squaredMagnitudesOf(loadElement(src + i)))};
+        total += Tarn64f{of(squaredMagnitudes(loadElement(src + i)))};
     }
     return total;
 }
@@ -66,9 +63,9 @@ struct LargestMagnitude {
     template <typename S, typename P>
     TARN_INLINE void operator()(S src, int len, P* norm) const
     {
-        constexpr int step = lanes<P>;
-        const auto take = [](auto largest, auto x) { return max(largest, rootOf(squaredMagnitudesOf(x))); };
-        auto lanesOfAll = splat<Vector<P>>(0);
+        constexpr int step = reducedLanes<P>;
+        const auto take = [](auto largest, auto x) { return max(largest, rootOf(squaredMagnitudes(x))); };
+        auto lanesOfAll = splat<Reduced<P>>(0);
         const Index i = takePacks<step>(lanesOfAll, 0, len, take, src);
         P largest = foldLanes(lanesOfAll, max);
         takeElements(largest, i, len, take, src);

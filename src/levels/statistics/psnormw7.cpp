@@ -2,7 +2,7 @@
 #include "levels/statistics/psnorm.h"
 
 #include "frame/reduce.h"
-#include "frame/simd_reciprocal.h"
+#include "frame/simd.h"
 
 using namespace tarn;
 
@@ -48,9 +48,9 @@ using Distances = Elementwise<Word<Distance>, Tarn16s>;
 struct LargestOf16Bits {
     TARN_INLINE void operator()(const Tarn16s* src, int len, Tarn32s* norm) const
     {
-        constexpr int step = lanes<Tarn16s>;
-        const auto none = splat<Vector<Tarn16s>>(0);
-        Accumulators<Extremes<Vector<Tarn16s>>, 2> states({none, none});
+        constexpr int step = reducedLanes<Tarn16s>;
+        const auto none = splat<Reduced<Tarn16s>>(0);
+        Accumulators<Extremes<Reduced<Tarn16s>>, 2> states({none, none});
         Index i = takeSteps<step>(states, 0, len, WidenExtremes{}, src);
         auto all = states.joined(WidenExtremes{});
         i = takePacks<step>(all, i, len, WidenExtremes{}, src);
@@ -69,9 +69,9 @@ struct SumOf16Bits {
     template <typename S>
     TARN_INLINE void operator()(S src, int len, Tarn32u* norm) const
     {
-        constexpr int step = lanes<Tarn16s>;
-        const auto take = [](Vector<Tarn32u> sum, auto x) { return add(sum, pairMagnitudes(x)); };
-        Accumulators<Vector<Tarn32u>, 2> sums(splat<Vector<Tarn32u>>(0));
+        constexpr int step = reducedLanes<Tarn16s>;
+        const auto take = [](Reduced<Tarn32u> sum, auto x) { return add(sum, pairMagnitudes(x)); };
+        Accumulators<Reduced<Tarn32u>, 2> sums(splat<Reduced<Tarn32u>>(0));
         Index i = takeSteps<step>(sums, 0, len, take, src);
         auto all = sums.joined(add);
         i = takePacks<step>(all, i, len, take, src);
@@ -87,17 +87,17 @@ struct SquaresOf16Bits {
     TARN_INLINE void operator()(S src, int len, Tarn64s* norm) const
     {
         const auto square = [](Tarn64s x) { return x * x; };
-        store(norm, sumExact<lanes<Tarn16s>>(
+        store(norm, sumExact<reducedLanes<Tarn16s>>(
                         len, [](auto x) { return squaresInLanes(x); }, square, src));
     }
 
 private:
     // Two squares of the lowest integer make 2^31, which unsigned lanes hold.
-    static TARN_INLINE Vector<Tarn64s> squaresInLanes(Vector<Tarn16s> x)
+    static TARN_INLINE Reduced<Tarn64s> squaresInLanes(Reduced<Tarn16s> x)
     {
-        return pairSums(retype<Tarn32u>(pairProducts(x, x)));
+        return pairSums(retype<Tarn32u>(mulAddPairs(x, x)));
     }
-    static TARN_INLINE Vector<Tarn64s> squaresInLanes(Vector<Tarn16u> x)
+    static TARN_INLINE Reduced<Tarn64s> squaresInLanes(Reduced<Tarn16u> x)
     {
         const auto all = squares(x);
         return add(pairSums(all.lo), pairSums(all.hi));

@@ -3,9 +3,7 @@
 #include "levels/statistics/pssum.h"
 
 #include "frame/reduce.h"
-#include "frame/simd_extended.h"
-#include "frame/simd_mul.h"
-#include "frame/simd_reciprocal.h"
+#include "frame/simd.h"
 
 #include <cmath>
 
@@ -46,7 +44,7 @@ struct AddMoments {
 };
 
 template <typename T>
-TARN_INLINE Moments<T> foldMoments(Moments<Vector<T>> moments)
+TARN_INLINE Moments<T> foldMoments(Moments<Reduced<T>> moments)
 {
     return {foldLanes(moments.sum, add), foldLanes(moments.squares, add)};
 }
@@ -92,24 +90,24 @@ constexpr int fastBlock = 1024;
 // Four vectors a step are summed among themselves first, so that a step costs the one lane set one addition.
 TARN_INLINE Moments<Tarn32f> momentsOfBlock(const Tarn32f* p, Index len)
 {
-    constexpr int step = lanes<Tarn32f>;
-    const auto zero = splat<Vector<Tarn32f>>(0);
-    Moments<Vector<Tarn32f>> moments{zero, zero};
+    constexpr int step = reducedLanes<Tarn32f>;
+    const auto zero = splat<Reduced<Tarn32f>>(0);
+    Moments<Reduced<Tarn32f>> moments{zero, zero};
     Index i = 0;
     for (; i <= len - 4 * step; i += 4 * step) {
         const auto x = loadPack<4 * step>(p + i);
         const auto sum = add(add(x.lo.lo, x.lo.hi), add(x.hi.lo, x.hi.hi));
         const auto squares = mul(x, x);
-        moments = moments + Moments<Vector<Tarn32f>>{
+        moments = moments + Moments<Reduced<Tarn32f>>{
                                 sum, add(add(squares.lo.lo, squares.lo.hi), add(squares.hi.lo, squares.hi.hi))};
     }
     i = takePacks<step>(moments, i, len, AddMoments{}, p);
     if (i <= len - 2) {
-        moments = moments + momentsOf(loadTwo(p + i));
+        moments = moments + momentsOf(loadHalf<step>(p + i));
         i += 2;
     }
     if (i < len) {
-        moments = moments + momentsOf(inFirstLane<Vector<Tarn32f>>(loadElement(p + i)));
+        moments = moments + momentsOf(inFirstLane<Reduced<Tarn32f>>(loadElement(p + i)));
     }
     return foldMoments(moments);
 }
@@ -120,8 +118,8 @@ TARN_INLINE Moments<Tarn32f> momentsOfBlock(const Tarn32f* p, Index len)
 constexpr int blockOf16Bits = 65536;
 
 struct IntegerMoments {
-    Vector<Tarn32s> sum;
-    Vector<Tarn64s> squares;
+    Reduced<Tarn32s> sum;
+    Reduced<Tarn64s> squares;
 };
 struct AddIntegerMoments {
     TARN_INLINE IntegerMoments operator()(IntegerMoments a, IntegerMoments b) const
@@ -129,9 +127,9 @@ struct AddIntegerMoments {
         return {add(a.sum, b.sum), add(a.squares, b.squares)};
     }
     // Two squares of -32768 make 2^31, which unsigned lanes hold.
-    TARN_INLINE IntegerMoments operator()(IntegerMoments moments, Vector<Tarn16s> x) const
+    TARN_INLINE IntegerMoments operator()(IntegerMoments moments, Reduced<Tarn16s> x) const
     {
-        const auto squares = retype<Tarn32u>(pairProducts(x, x));
+        const auto squares = retype<Tarn32u>(mulAddPairs(x, x));
         return {add(moments.sum, pairSums(x)), add(moments.squares, pairSums(squares))};
     }
 };
@@ -162,7 +160,7 @@ void owntarnsStdDev_32f_Accur(const Tarn32f* pSrc, int len, Tarn32f* pStdDev)
 void owntarnsStdDev_32f_Fast(const Tarn32f* pSrc, int len, Tarn32f* pStdDev)
 {
     ExtendedMoments moments;
-    const int head = len <= longestScalar ? len : elementsToBoundary(pSrc);
+    const int head = len <= longestScalar ? len : elementsToBoundary<reducedBytes>(pSrc);
     int i = 0;
     for (; i < head; ++i) {
         moments.take(loadElement(pSrc + i));
@@ -178,13 +176,13 @@ void owntarnsStdDev_32f_Fast(const Tarn32f* pSrc, int len, Tarn32f* pStdDev)
 
 void owntarnsStdDev_64f(const Tarn64f* pSrc, int len, Tarn64f* pStdDev)
 {
-    constexpr int step = lanes<Tarn64f>;
-    const auto zero = splat<Vector<Tarn64f>>(0);
-    Accumulators<Moments<Vector<Tarn64f>>, 2> moments({zero, zero});
+    constexpr int step = reducedLanes<Tarn64f>;
+    const auto zero = splat<Reduced<Tarn64f>>(0);
+    Accumulators<Moments<Reduced<Tarn64f>>, 2> moments({zero, zero});
     Index i = takeSteps<step>(moments, 0, len, AddMoments{}, pSrc);
     i = takePacks<step>(moments.at[0], i, len, AddMoments{}, pSrc);
     if (i < len) {
-        moments.at[0] = moments.at[0] + momentsOf(inFirstLane<Vector<Tarn64f>>(loadElement(pSrc + i)));
+        moments.at[0] = moments.at[0] + momentsOf(inFirstLane<Reduced<Tarn64f>>(loadElement(pSrc + i)));
     }
     const auto total = foldMoments(moments.joined(AddMoments{}));
     const Tarn64f n = len;
@@ -195,8 +193,8 @@ void owntarnsStdDev_64f(const Tarn64f* pSrc, int len, Tarn64f* pStdDev)
 
 void owntarnsStdDev_16s32s_Sfs(const Tarn16s* pSrc, int len, Tarn32s* pStdDev, int scaleFactor)
 {
-    constexpr int step = lanes<Tarn16s>;
-    const IntegerMoments none{splat<Vector<Tarn32s>>(0), splat<Vector<Tarn64s>>(0)};
+    constexpr int step = reducedLanes<Tarn16s>;
+    const IntegerMoments none{splat<Reduced<Tarn32s>>(0), splat<Reduced<Tarn64s>>(0)};
     Tarn64s sum = 0;
     Tarn64s squares = 0;
     for (int first = 0, taken = 0; first < len; first += taken) {

@@ -12,7 +12,7 @@ namespace {
 constexpr int blockOf16Bits = 65536;
 
 struct AddPairs {
-    TARN_INLINE Vector<Tarn32s> operator()(Vector<Tarn32s> sum, Vector<Tarn16s> x) const
+    TARN_INLINE Reduced<Tarn32s> operator()(Reduced<Tarn32s> sum, Reduced<Tarn16s> x) const
     {
         return add(sum, pairSums(x));
     }
@@ -20,11 +20,11 @@ struct AddPairs {
 
 // Real and imaginary parts, two elements of a vector in each lane.
 struct PartSums {
-    Vector<Tarn32s> re;
-    Vector<Tarn32s> im;
+    Reduced<Tarn32s> re;
+    Reduced<Tarn32s> im;
 };
 struct AddPairsOfParts {
-    TARN_INLINE PartSums operator()(PartSums sum, Vector<Tarn16sc> x) const
+    TARN_INLINE PartSums operator()(PartSums sum, Reduced<Tarn16sc> x) const
     {
         // Sign extension of either half of a 32-bit lane.
         const auto element = reinterpretPack<Tarn32s>(x);
@@ -39,12 +39,12 @@ struct AddPartSums {
 
 void owntarnsSum_16s64f(const Tarn16s* pSrc, int len, Tarn64f* pSum)
 {
-    constexpr int step = lanes<Tarn16s>;
+    constexpr int step = reducedLanes<Tarn16s>;
     Tarn64f total = 0;
     for (int first = 0, taken = 0; first < len; first += taken) {
         taken = std::min(len - first, blockOf16Bits);
         const auto* p = pSrc + first;
-        Accumulators<Vector<Tarn32s>, 2> sums(splat<Vector<Tarn32s>>(0));
+        Accumulators<Reduced<Tarn32s>, 2> sums(splat<Reduced<Tarn32s>>(0));
         Index i = takeSteps<step>(sums, 0, taken, AddPairs{}, p);
         auto lanesOfAll = sums.joined(add);
         i = takePacks<step>(lanesOfAll, i, taken, AddPairs{}, p);
@@ -58,8 +58,8 @@ void owntarnsSum_16s64f(const Tarn16s* pSrc, int len, Tarn64f* pSum)
 
 void owntarnsSum_16sc64fc(const Tarn16sc* pSrc, int len, Tarn64fc* pSum)
 {
-    constexpr int step = lanes<Tarn16sc>;
-    const auto none = splat<Vector<Tarn32s>>(0);
+    constexpr int step = reducedLanes<Tarn16sc>;
+    const auto none = splat<Reduced<Tarn32s>>(0);
     Tarn64fc total{0, 0};
     for (int first = 0, taken = 0; first < len; first += taken) {
         taken = std::min(len - first, blockOf16Bits);
@@ -83,10 +83,10 @@ void owntarnsSum_16sc64fc(const Tarn16sc* pSrc, int len, Tarn64fc* pSum)
 
 void ownsSum_32s64s_W7(const Tarn32s* pSrc, int len, Tarn64s* pSum)
 {
-    const auto signExtendedPairs = [](Vector<Tarn32s> x) {
-        const auto wide = reinterpretPack<Tarn64s>(joinParts(x, shiftRight(x, 31)));
+    const auto signExtendedPairs = [](Reduced<Tarn32s> x) {
+        const auto wide = reinterpretPack<Tarn64s>(complexFrom<Tarn32sc>(x, shiftRight(x, 31)));
         return add(wide.lo, wide.hi);
     };
-    store(pSum, sumExact<lanes<Tarn32s>>(
+    store(pSum, sumExact<reducedLanes<Tarn32s>>(
                     len, signExtendedPairs, [](Tarn32s x) { return Tarn64s{x}; }, pSrc));
 }

@@ -17,47 +17,51 @@ namespace {
 // formed in the extended format.
 constexpr int block = 1024;
 
+// Elements of 16 bytes are taken together, and found to be special together.
+template <typename T>
+constexpr int groupOf = 16 / static_cast<int>(sizeof(T));
+
 // What a block's elements add up to, and a mask of the lanes in which one was not a positive finite number.
 struct Logs {
-    Vector<Tarn32s> exponents;
-    Vector<Tarn64f> mantissas;
-    Vector<Tarn32s> bad;
+    Pack<Tarn32s, 4> exponents;
+    Pack<Tarn64f, 2> mantissas;
+    Pack<Tarn32s, 4> bad;
 };
 
 // Four floats: the first and third mantissa go to one product, the second and fourth to the other. A product of two is
 // exact, and keeps one of the two multiplications out of the chain.
-TARN_INLINE Logs takeGroup(Logs logs, Vector<Tarn32f> x)
+TARN_INLINE Logs takeGroup(Logs logs, Pack<Tarn32f, 4> x)
 {
     constexpr int mantissaBits = 23;
     const auto bits = reinterpretPack<Tarn32s>(x);
-    const auto one = splat<Vector<Tarn32s>>(std::bit_cast<Tarn32s>(1.0F));
-    const auto largest = splat<Vector<Tarn32s>>(std::bit_cast<Tarn32s>(highest<Tarn32f>));
+    const auto one = splat<Pack<Tarn32s, 4>>(std::bit_cast<Tarn32s>(1.0F));
+    const auto largest = splat<Pack<Tarn32s, 4>>(std::bit_cast<Tarn32s>(highest<Tarn32f>));
     const auto exponents = shiftRight(sub(bits, one), mantissaBits);
-    const auto mantissas = widenFloat(reinterpretPack<Tarn32f>(sub(bits, shiftLeft(exponents, mantissaBits))));
-    const auto notPositive = less(bits, splat<Vector<Tarn32s>>(1));
+    const auto mantissas = widen(reinterpretPack<Tarn32f>(sub(bits, shiftLeft(exponents, mantissaBits))));
+    const auto notPositive = less(bits, splat<Pack<Tarn32s, 4>>(1));
     return {add(logs.exponents, exponents), mul(logs.mantissas, mul(mantissas.lo, mantissas.hi)),
             bitOr(logs.bad, bitOr(notPositive, greater(bits, largest)))};
 }
 
 // Two doubles, one mantissa to each product. The fields are those of the upper halves.
-TARN_INLINE Logs takeGroup(Logs logs, Vector<Tarn64f> x)
+TARN_INLINE Logs takeGroup(Logs logs, Pack<Tarn64f, 2> x)
 {
     constexpr int mantissaBitsAbove = 20;
     const auto bits = reinterpretPack<Tarn64s>(x);
-    const auto one = splat<Vector<Tarn64s>>(std::bit_cast<Tarn64s>(1.0));
-    const auto upperHalves = reinterpretPack<Tarn32s>(splat<Vector<Tarn64s>>(Tarn64s{-1} << 32));
+    const auto one = splat<Pack<Tarn64s, 2>>(std::bit_cast<Tarn64s>(1.0));
+    const auto upperHalves = reinterpretPack<Tarn32s>(splat<Pack<Tarn64s, 2>>(Tarn64s{-1} << 32));
     const auto exponents = bitAnd(shiftRight(reinterpretPack<Tarn32s>(sub(bits, one)), mantissaBitsAbove), upperHalves);
     const auto moved = reinterpretPack<Tarn64s>(shiftLeft(exponents, mantissaBitsAbove));
     const auto mantissas = reinterpretPack<Tarn64f>(sub(bits, moved));
-    const auto positive = greater(x, splat<Vector<Tarn64f>>(0));
-    const auto finite = less(x, splat<Vector<Tarn64f>>(std::numeric_limits<Tarn64f>::infinity()));
+    const auto positive = greater(x, splat<Pack<Tarn64f, 2>>(0));
+    const auto finite = less(x, splat<Pack<Tarn64f, 2>>(std::numeric_limits<Tarn64f>::infinity()));
     const auto good = bitAnd(reinterpretPack<Tarn32s>(positive), reinterpretPack<Tarn32s>(finite));
     return {add(logs.exponents, exponents), mul(logs.mantissas, mantissas),
-            bitOr(logs.bad, bitXor(good, splat<Vector<Tarn32s>>(-1)))};
+            bitOr(logs.bad, bitXor(good, splat<Pack<Tarn32s, 4>>(-1)))};
 }
 
 // Eight integers as two times four floats.
-TARN_INLINE Logs takeGroup(Logs logs, Vector<Tarn16s> x)
+TARN_INLINE Logs takeGroup(Logs logs, Pack<Tarn16s, 8> x)
 {
     const auto floats = convert<Tarn32f>(widen(x));
     return takeGroup(takeGroup(logs, floats.lo), floats.hi);
@@ -78,9 +82,9 @@ bool isPositiveZero(F x)
 template <typename T>
 TarnStatus stopWithin(const T* p, Extended before, Extended* sum)
 {
-    for (;; p += lanes<T>) {
+    for (;; p += groupOf<T>) {
         bool special = false;
-        for (int k = 0; k < lanes<T>; ++k) {
+        for (int k = 0; k < groupOf<T>; ++k) {
             const auto x = static_cast<Value<T>>(loadElement(p + k));
             if (x < 0 || x == 0) {
                 store(sum, before);
@@ -98,16 +102,16 @@ TarnStatus stopWithin(const T* p, Extended before, Extended* sum)
 template <typename T>
 int sumLn(const T* p, int len, Extended* sum)
 {
-    constexpr int group = lanes<T>;
+    constexpr int group = groupOf<T>;
     const int whole = len - len % group;
     Tarn64f blocks = 0;
     int i = 0;
     for (int taken = 0; i < whole; i += taken) {
         taken = std::min(whole - i, block);
-        const auto none = splat<Vector<Tarn32s>>(0);
-        Logs logs{none, splat<Vector<Tarn64f>>(1), none};
+        const auto none = splat<Pack<Tarn32s, 4>>(0);
+        Logs logs{none, splat<Pack<Tarn64f, 2>>(1), none};
         takePacks<group>(
-            logs, i, i + taken, [](Logs sums, Vector<T> x) { return takeGroup(sums, x); }, p);
+            logs, i, i + taken, [](Logs sums, Pack<T, groupOf<T>> x) { return takeGroup(sums, x); }, p);
         if (anyOf(logs.bad)) {
             return stopWithin(p + i, blocks, sum);
         }

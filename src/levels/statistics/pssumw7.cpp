@@ -44,15 +44,15 @@ constexpr int fastAccumulators = 4;
 template <bool onBoundary>
 TARN_INLINE void sumBlock(const Tarn32f* p, int len, Tarn32f* sums)
 {
-    constexpr int step = lanes<Tarn32f>;
+    constexpr int step = reducedLanes<Tarn32f>;
     const auto load = [p](int i) {
         if constexpr (onBoundary) {
-            return loadOnBoundary<step>(p + i);
+            return loadAligned<step>(p + i);
         } else {
             return loadPack<step>(p + i);
         }
     };
-    Accumulators<Vector<Tarn32f>, fastAccumulators> sumsOf(splat<Vector<Tarn32f>>(0));
+    Accumulators<Reduced<Tarn32f>, fastAccumulators> sumsOf(splat<Reduced<Tarn32f>>(0));
     int i = 0;
     for (; i <= len - fastAccumulators * step; i += fastAccumulators * step) {
         repeat<fastAccumulators>([&](auto k) { sumsOf.at[k] = add(sumsOf.at[k], load(i + k * step)); });
@@ -62,11 +62,11 @@ TARN_INLINE void sumBlock(const Tarn32f* p, int len, Tarn32f* sums)
         sum = add(sum, load(i));
     }
     if (i <= len - 2) {
-        sum = add(sum, loadTwo(p + i));
+        sum = add(sum, loadHalf<step>(p + i));
         i += 2;
     }
     if (i < len) {
-        sum = add(sum, inFirstLane<Vector<Tarn32f>>(loadElement(p + i)));
+        sum = add(sum, inFirstLane<Reduced<Tarn32f>>(loadElement(p + i)));
     }
     const auto evenAndOdd = foldTo<2>(sum, add);
     store(sums, firstLane(evenAndOdd));
@@ -104,7 +104,7 @@ TARN_INLINE Total sumFast(const T* p, int len)
     constexpr int parts = sizeof(T) / sizeof(Tarn32f);
     constexpr int block = fastBlock / parts;
     Total total;
-    const auto offset = addressOf(p) % vectorBytes;
+    const auto offset = addressOf(p) % reducedBytes;
     if (offset / sizeof(Tarn32f) != 0) {
         for (int i = 0; i < len; ++i) {
             total.addElement(loadElement(p + i));
@@ -124,23 +124,23 @@ TARN_INLINE Total sumFast(const T* p, int len)
 // -- Double precision: four vectors of accumulators ------------------------------------------------------------------
 
 // Sums the elements at even places and those at odd ones, onto what `first` has in its lanes.
-TARN_INLINE Vector<Tarn64f> sumDoubles(Vector<Tarn64f> first, const Tarn64f* p, Index len)
+TARN_INLINE Reduced<Tarn64f> sumDoubles(Reduced<Tarn64f> first, const Tarn64f* p, Index len)
 {
-    constexpr int step = lanes<Tarn64f>;
-    Accumulators<Vector<Tarn64f>, 4> sums(splat<Vector<Tarn64f>>(0));
+    constexpr int step = reducedLanes<Tarn64f>;
+    Accumulators<Reduced<Tarn64f>, 4> sums(splat<Reduced<Tarn64f>>(0));
     sums.at[0] = first;
     Index i = takeSteps<step>(sums, 0, len, add, p);
     const auto upper = add(sums.at[2], sums.at[3]);
     auto sum = add(add(sums.at[0], sums.at[1]), upper);
     i = takePacks<step>(sum, i, len, add, p);
     if (i < len) {
-        sum = add(sum, inFirstLane<Vector<Tarn64f>>(loadElement(p + i)));
+        sum = add(sum, inFirstLane<Reduced<Tarn64f>>(loadElement(p + i)));
     }
     return sum;
 }
 
 // True if the array starts one double past a vector boundary.
-bool isOddMultiple(const Tarn64f* p) { return addressOf(p) % vectorBytes == sizeof(Tarn64f); }
+bool isOddMultiple(const Tarn64f* p) { return addressOf(p) % reducedBytes == sizeof(Tarn64f); }
 
 } // namespace
 
@@ -187,16 +187,16 @@ void owntarnsSum_32fc_Fast(const Tarn32fc* pSrc, int len, Tarn64fc* pSum)
 
 void owntarnsSum_64f(const Tarn64f* pSrc, int len, Tarn64f* pSum)
 {
-    Vector<Tarn64f> sum;
+    Reduced<Tarn64f> sum;
     if (isOddMultiple(pSrc)) {
         const Tarn64f first = loadElement(pSrc);
         if (len == 1) {
             store(pSum, first);
             return;
         }
-        sum = sumDoubles(inFirstLane<Vector<Tarn64f>>(first), pSrc + 1, len - 1);
+        sum = sumDoubles(inFirstLane<Reduced<Tarn64f>>(first), pSrc + 1, len - 1);
     } else {
-        sum = sumDoubles(splat<Vector<Tarn64f>>(0), pSrc, len);
+        sum = sumDoubles(splat<Reduced<Tarn64f>>(0), pSrc, len);
     }
     store(pSum, firstLane(add(lanesDown<1>(sum), sum)));
 }
@@ -207,9 +207,9 @@ void owntarnsSum_64fc(const Tarn64fc* pSrc, int len, Tarn64fc* pSum)
     if (isOddMultiple(p)) {
         // The first real part alone brings the rest to a boundary, where its pairs hold an imaginary part and the next
         // real one: the accumulators have exchanged their roles.
-        const auto first = reverse(inFirstLane<Vector<Tarn64f>>(loadElement(p)));
+        const auto first = reverse(inFirstLane<Reduced<Tarn64f>>(loadElement(p)));
         store(reinterpret_cast<Tarn64f*>(pSum), reverse(sumDoubles(first, p + 1, Index{2} * len - 1)));
     } else {
-        store(reinterpret_cast<Tarn64f*>(pSum), sumDoubles(splat<Vector<Tarn64f>>(0), p, Index{2} * len));
+        store(reinterpret_cast<Tarn64f*>(pSum), sumDoubles(splat<Reduced<Tarn64f>>(0), p, Index{2} * len));
     }
 }

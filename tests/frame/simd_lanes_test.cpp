@@ -1,5 +1,5 @@
-// The words of filters, for an element and for a vector.
-#include "frame/simd_fir.h"
+// Words across lanes, and sums of elements of parts.
+#include "frame/simd.h"
 #include "support/words.h"
 
 #include <gtest/gtest.h>
@@ -7,15 +7,15 @@
 namespace tarn::test {
 namespace {
 
-TEST(SimdFirTest, AddElements)
+TEST(SimdLanes, ComplexElementsAdd)
 {
-    expectAgreement<Tarn32f, Tarn32f>(addElements);
-    expectAgreement<Tarn64f, Tarn64f>(addElements);
-    expectAgreement<Tarn32fc, Tarn32fc>(addElements);
-    expectAgreement<Tarn64fc, Tarn64fc>(addElements);
+    expectAgreement<Tarn32f, Tarn32f>(add);
+    expectAgreement<Tarn64f, Tarn64f>(add);
+    expectAgreement<Tarn32fc, Tarn32fc>(add);
+    expectAgreement<Tarn64fc, Tarn64fc>(add);
 }
 
-TEST(SimdFirTest, SpreadSamplesGiveComplexProducts)
+TEST(SimdLanes, SpreadSamplesGiveComplexProducts)
 {
     const Tarn64fc x = {3, -5};
     const Tarn64fc w = {7, 11};
@@ -26,7 +26,7 @@ TEST(SimdFirTest, SpreadSamplesGiveComplexProducts)
     EXPECT_EQ(3 * 11 - 5 * 7, y.im);
 }
 
-TEST(SimdFirTest, SumsOfLanesKeepTheirOrder)
+TEST(SimdLanes, SumsOfLanesKeepTheirOrder)
 {
     const Tarn32s rows[4][4] = {{1, 2, 3, 4}, {50, 60, 70, 80}, {-1, -20, 300, 9}, {INT32_MAX, 1, 0, 5}};
     const auto row = [&](int i) { return loadPack<4>(rows[i]); };
@@ -37,19 +37,19 @@ TEST(SimdFirTest, SumsOfLanesKeepTheirOrder)
     EXPECT_EQ(288, sums[2]);
     EXPECT_EQ(INT32_MIN + 5, sums[3]);
     for (int i = 0; i < 4; ++i)
-        EXPECT_EQ(sums[i], sumOfLanes(row(i)));
+        EXPECT_EQ(sums[i], foldLanes(row(i), add));
     const Tarn32f singles[4] = {1, 20, 300, 4000};
-    EXPECT_EQ(4321, sumOfLanes(loadPack<4>(singles)));
+    EXPECT_EQ(4321, foldLanes(loadPack<4>(singles), add));
     const Tarn64f doubles[2] = {1, 20};
-    EXPECT_EQ(21, sumOfLanes(loadPack<2>(doubles)));
+    EXPECT_EQ(21, foldLanes(loadPack<2>(doubles), add));
 }
 
-TEST(SimdFirTest, HalvesHaveZerosAbove)
+TEST(SimdLanes, HalvesHaveZerosAbove)
 {
     const Tarn32f singles[2] = {1, 20};
-    EXPECT_EQ(21, sumOfLanes(loadHalf(singles)));
+    EXPECT_EQ(21, foldLanes(loadHalf<4>(singles), add));
     const Tarn64f one = 7;
-    EXPECT_EQ(7, sumOfLanes(loadHalf(&one)));
+    EXPECT_EQ(7, foldLanes(loadHalf<2>(&one), add));
 }
 
 } // namespace

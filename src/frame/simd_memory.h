@@ -1,0 +1,138 @@
+// Words of memory: access that knows something of the address, halves of registers, single elements on their way from
+// one place to another, and requests to the caches.
+#pragma once
+
+#include "frame/simd_pack.h"
+
+namespace tarn {
+
+// -- Registers that lie on register boundaries ------------------------------------------------------------------------
+
+// From an address on a register boundary: unlike an access to any address, it can be an instruction's operand.
+template <int N, typename T>
+TARN_INLINE Pack<T, N> loadAligned(const T* p)
+{
+    if constexpr (N > registerLanes<T>) {
+        return {loadAligned<N / 2>(p), loadAligned<N / 2>(p + N / 2)};
+    } else if constexpr (isSingle<T>) {
+        return {_mm_load_ps(reinterpret_cast<const float*>(p))};
+    } else if constexpr (isDouble<T>) {
+        return {_mm_load_pd(reinterpret_cast<const double*>(p))};
+    } else {
+        return {_mm_load_si128(reinterpret_cast<const __m128i*>(p))};
+    }
+}
+
+template <typename T, int N>
+TARN_INLINE void storeAligned(T* p, Pack<T, N> x)
+{
+    if constexpr (N > registerLanes<T>) {
+        storeAligned(p, x.lo);
+        storeAligned(p + N / 2, x.hi);
+    } else if constexpr (isSingle<T>) {
+        _mm_store_ps(reinterpret_cast<float*>(p), x.v);
+    } else if constexpr (isDouble<T>) {
+        _mm_store_pd(reinterpret_cast<double*>(p), x.v);
+    } else {
+        _mm_store_si128(reinterpret_cast<__m128i*>(p), x.v);
+    }
+}
+
+// Stores past the caches; `p` lies on a register boundary. A run of them ends with streamFence.
+template <typename T, int N>
+TARN_INLINE void storeStream(T* p, Pack<T, N> x)
+{
+    if constexpr (N > registerLanes<T>) {
+        storeStream(p, x.lo);
+        storeStream(p + N / 2, x.hi);
+    } else if constexpr (isSingle<T>) {
+        _mm_stream_ps(reinterpret_cast<float*>(p), x.v);
+    } else if constexpr (isDouble<T>) {
+        _mm_stream_pd(reinterpret_cast<double*>(p), x.v);
+    } else {
+        _mm_stream_si128(reinterpret_cast<__m128i*>(p), x.v);
+    }
+}
+
+TARN_INLINE void streamFence() { _mm_sfence(); }
+
+// -- Halves -----------------------------------------------------------------------------------------------------------
+
+// N / 2 elements in the lower half of a pack, zeros above.
+template <int N, typename T>
+TARN_INLINE Pack<T, N> loadHalf(const T* p)
+{
+    if constexpr (N > registerLanes<T>) {
+        return {loadPack<N / 2>(p), splat<Pack<T, N / 2>>(T{})};
+    } else {
+        return {reinterpret_cast<Native<T>>(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
+    }
+}
+
+// The lower and the upper half of a vector, each to a place of its own.
+template <typename T>
+TARN_INLINE void storeHalves(T* low, T* high, Register<T> x)
+{
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(low), reinterpret_cast<__m128i>(x.v));
+    _mm_storeh_pi(reinterpret_cast<__m64*>(high), reinterpret_cast<__m128>(x.v));
+}
+
+// -- One element, in a register that takes it whole -------------------------------------------------------------------
+
+// The compiler may copy a double of a 32-bit program in two halves, and reading it back at once would wait until both
+// have left the store buffer.
+
+template <typename T>
+TARN_INLINE auto hold(const T* p)
+{
+    if constexpr (sizeof(T) == 8) {
+        __m128i x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+        asm("" : "+x"(x)); // as it is, a copy through two general registers to the compiler
+        return x;
+    } else {
+        return loadElement(p);
+    }
+}
+
+template <typename T>
+TARN_INLINE void release(T* p, decltype(hold(p)) element)
+{
+    if constexpr (sizeof(T) == 8) {
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(p), element);
+    } else {
+        store(p, element);
+    }
+}
+
+// The element itself, to be computed with.
+template <typename T>
+TARN_INLINE T valueOf(decltype(hold(static_cast<const T*>(nullptr))) element)
+{
+    if constexpr (std::is_same_v<T, Tarn64f>) {
+        return _mm_cvtsd_f64(_mm_castsi128_pd(element));
+    } else {
+        return element;
+    }
+}
+
+template <typename T>
+TARN_INLINE void moveElement(T* to, const T* from)
+{
+    release(to, hold(from));
+}
+
+template <typename T>
+TARN_INLINE void swapElements(T* a, T* b)
+{
+    const auto x = hold(a);
+    moveElement(a, b);
+    release(b, x);
+}
+
+// -- The caches -------------------------------------------------------------------------------------------------------
+
+// Asks for the cache line that holds p: to stay, or to be read once. Any address may be asked for.
+TARN_INLINE void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+TARN_INLINE void prefetchOnce(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_NTA); }
+
+} // namespace tarn
