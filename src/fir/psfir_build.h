@@ -1,9 +1,9 @@
 // Building FIR states with floating taps, and their taps.
 #pragma once
 
+#include "fft/psfft_convolving.h"
 #include "fir/psfir_common.h"
 #include "fir/psfir_memory.h"
-#include "fir/psfir_transform.h"
 
 #include <omp.h>
 
@@ -25,6 +25,16 @@ inline void storeTaps(const T* pTaps, FirFields<T>* state)
     writeTapTable(pTaps, state->tapsLen, state->pTapsX4);
 }
 
+// The order of the transform for so many taps: more than twice as long, so that at least half a block is of use.
+constexpr int transformOrder(int tapsLen)
+{
+    int order = 2;
+    while (1LL << order <= tapsLen) {
+        ++order;
+    }
+    return order + 1;
+}
+
 // What a state is going to have.
 template <typename T>
 struct FirPlan {
@@ -44,7 +54,7 @@ struct FirPlan {
             return tarnStsNoErr;
         }
         const int order = transformOrder(tapsLen);
-        typename FirTransform<T>::Spec* created = nullptr;
+        typename TransformOf<T>::Spec* created = nullptr;
         if (const TarnStatus status = Calls::initAlloc(&created, order, TARN_FFT_DIV_INV_BY_N, tarnAlgHintNone)) {
             return status;
         }

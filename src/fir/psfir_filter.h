@@ -1,14 +1,12 @@
 // Filtering with FIR states of floating taps: the direct road, overlap-save by transforms, in place.
 #pragma once
 
+#include "fft/psfft_convolving.h"
 #include "fir/psfir_common.h"
 #include "fir/psfir_memory.h"
-#include "fir/psfir_transform.h"
-#include "frame/threads.h"
+#include "frame/overlap_save.h"
 #include "levels/fir/psfir_block.h"
 #include "tarns/convert.h"
-
-#include <bit>
 
 namespace tarn {
 
@@ -57,20 +55,13 @@ inline void outputsToSamples(const T* src, S* dst, int len, int scaleFactor)
 template <typename T>
 inline constexpr int longestOnOneThread = isComplex<T> ? 800 : 1600;
 
-// Nanoseconds of one thread for the product of a sample and a tap, and for an element of a transform and each of its
-// stages, both directions taken together.
+// Nanoseconds of one thread for the product of a sample and a tap.
 template <typename T>
 inline constexpr double costOfProduct = isComplex<T> ? 3 * costOfProduct<Part<T>> : 0;
 template <>
 inline constexpr double costOfProduct<Tarn32f> = 0.08;
 template <>
 inline constexpr double costOfProduct<Tarn64f> = 0.16;
-template <typename T>
-inline constexpr double costOfStage = isComplex<T> ? 1.7 * costOfStage<Part<T>> : 0;
-template <>
-inline constexpr double costOfStage<Tarn32f> = 0.3;
-template <>
-inline constexpr double costOfStage<Tarn64f> = 0.5;
 
 // -- The direct road
 // ---------------------------------------------------------------------------------------------------
@@ -174,13 +165,6 @@ inline TarnStatus runDirect(const typename State::Sample* src, typename State::S
 // -- The road of transforms
 // --------------------------------------------------------------------------------------------
 
-// Where a thread computes.
-template <typename T>
-struct BlockBuffers {
-    T* block;
-    Tarn8u* work;
-};
-
 template <typename T>
 inline BlockBuffers<T> buffersOf(const FirFields<T>* state, int thread)
 {
@@ -210,51 +194,29 @@ public:
         if (len <= useful) {
             return filterShort(own);
         }
-        return len > longestOnOneThread<T> ? filterInShares() : filterInTurn(own);
+        return len > longestOnOneThread<T> ? filterInShares() : filterInTurn();
     }
 
 private:
-    // What follows a transform that fails: the end of the call where one thread works, and nothing where others could
-    // not be told.
-    enum class Failure { ends, isKept };
-
     int blockCount() const { return (len - 1) / useful + 1; }
 
-    TarnStatus filterInTurn(BlockBuffers<T> own) const
+    TarnStatus filterInTurn() const
     {
-        TarnStatus status = filterFirst<Failure::ends>(own);
-        const int blocks = blockCount();
-        for (int b = 1; status == tarnStsNoErr && b < blocks; ++b) {
-            status = filterLater<Failure::ends>(useful * b, own);
-        }
-        return status;
+        const BlockBuffers<T> own = buffersOf<T>(state, 0);
+        return runBlocksInTurn(blockCount(), [=, this](int b) { return filterBlock<Failure::ends>(b, own); });
     }
 
-    // The result is the worst status of any thread. Every stretch is of neighbouring blocks: where the outputs of two
-    // threads meet they take cache lines from each other, and so do their prefetches.
     TarnStatus filterInShares() const
     {
-        const int blocks = blockCount();
-        const double cost = costOfStage<T> * blocks * state->fftLen * std::bit_width(unsigned(state->fftLen));
-        const int threads = threadsWorth(cost, state->threads);
-        Tarn32s* const statuses = state->pThreadStatus;
-        std::fill_n(statuses, threads, tarnStsNoErr);
-        shareOut(blocks, 1, cost, threads, [&](int begin, int end, int thread) {
-            statuses[thread] =
-                std::min<Tarn32s>(statuses[thread], filterBlocks(begin, end, buffersOf<T>(state, thread)));
-        });
-        return static_cast<TarnStatus>(*std::min_element(statuses, statuses + threads));
+        return runBlocksInShares<T>(
+            blockCount(), state->fftLen, state->threads, state->pThreadStatus,
+            [this](int b, int thread) { return filterBlock<Failure::isKept>(b, buffersOf<T>(state, thread)); });
     }
 
-    // No failure ends it: the others could not be told.
-    TarnStatus filterBlocks(int begin, int end, BlockBuffers<T> own) const
+    template <Failure failure>
+    TarnStatus filterBlock(int b, BlockBuffers<T> own) const
     {
-        TarnStatus worst = tarnStsNoErr;
-        for (int b = begin; b < end; ++b) {
-            worst = std::min(worst, b == 0 ? filterFirst<Failure::isKept>(own)
-                                           : filterLater<Failure::isKept>(useful * b, own));
-        }
-        return worst;
+        return b == 0 ? filterFirst<failure>(own) : filterLater<failure>(useful * b, own);
     }
 
     // All samples fit one block, which is also where the next call's delay line is found.
@@ -297,20 +259,15 @@ private:
         return convolve<failure>(own.block, own, dst + i, std::min(left, useful));
     }
 
-    // The outputs of a block: all of it is transformed, multiplied by the taps' spectrum and transformed back.
+    // The outputs of a block.
     template <Failure failure>
     TarnStatus convolve(const T* samples, BlockBuffers<T> own, S* outputs, int count) const
     {
-        TarnStatus status = Calls::forward(samples, own.block, state->pFFTSpec, own.work);
-        if (failure == Failure::ends && status != tarnStsNoErr) {
-            return status;
+        const CyclicFilter<Calls, T> filter{state->pFFTSpec, state->pFFTTaps, state->fftLen};
+        const TarnStatus status = filter.template apply<failure>(samples, own);
+        if (failure == Failure::isKept || status == tarnStsNoErr) {
+            outputsToSamples(own.block + history, outputs, count, scaleFactor);
         }
-        Calls::multiply(state->pFFTTaps, own.block, state->fftLen);
-        status = std::min(status, Calls::inverse(own.block, own.block, state->pFFTSpec, own.work));
-        if (failure == Failure::ends && status != tarnStsNoErr) {
-            return status;
-        }
-        outputsToSamples(own.block + history, outputs, count, scaleFactor);
         return status;
     }
 

@@ -2,37 +2,33 @@
 #pragma once
 
 #include "frame/state.h"
-#include "tarns/fft.h"
+#include "levels/fft/psfft_kinds.h"
 #include "tarns/firstate.h"
 
 namespace tarn {
-
-// The transforms that filter blocks of a tap type: real signals by half-length transforms in Perm format.
-template <typename T>
-struct FirTransform;
 
 // The fields of a state with taps of type T. Those marked MR have a meaning in multi-rate states only.
 template <typename T>
 struct FirFields {
     Tarn32u idCtx;
-    T* pTaps;                                 // in reversed order, for the dot product of a single sample
-    T* pDlyLine;                              // MR: samples of type S
-    int tapsLen;                              // at least 1
-    int upFactor;                             // MR
-    int inHeadLen;                            // samples of one call that may pass through the delay buffer
-    int downFactor;                           // MR
-    int outHeadLen;                           // MR
-    typename FirTransform<T>::Spec* pFFTSpec; // null without FFT road
-    T* pFFTTaps;                              // the taps' spectrum, null without FFT road
-    int fftLen;                               // -1 without FFT road
-    int dlyLineIdx;                           // where the newest tapsLen samples begin in the delay buffer
-    Tarn32s* pPhaseOffsets;                   // MR, null otherwise
-    Part<T>* pTapsX4;                         // in the layout of the block kernel; MR: compiled per phase
-    int phaseTapsLen;                         // MR
-    int form;                                 // MR
-    int dlyLen;                               // samples that a caller sees of the delay line
-    T* pFFTBlocks;                            // fftLen elements for the first thread
-    Tarn8u* pFFTWork;                         // fftWorkSize bytes for it, right before
+    T* pTaps;                                // in reversed order, for the dot product of a single sample
+    T* pDlyLine;                             // MR: samples of type S
+    int tapsLen;                             // at least 1
+    int upFactor;                            // MR
+    int inHeadLen;                           // samples of one call that may pass through the delay buffer
+    int downFactor;                          // MR
+    int outHeadLen;                          // MR
+    typename TransformOf<T>::Spec* pFFTSpec; // null without FFT road
+    T* pFFTTaps;                             // the taps' spectrum, null without FFT road
+    int fftLen;                              // -1 without FFT road
+    int dlyLineIdx;                          // where the newest tapsLen samples begin in the delay buffer
+    Tarn32s* pPhaseOffsets;                  // MR, null otherwise
+    Part<T>* pTapsX4;                        // in the layout of the block kernel; MR: compiled per phase
+    int phaseTapsLen;                        // MR
+    int form;                                // MR
+    int dlyLen;                              // samples that a caller sees of the delay line
+    T* pFFTBlocks;                           // fftLen elements for the first thread
+    Tarn8u* pFFTWork;                        // fftWorkSize bytes for it, right before
     int fftWorkSize;
     Tarn8u* pTmp;
     Tarn32s* pThreadStatus; // null in the caller's memory
@@ -79,23 +75,6 @@ struct FirIntegerState {
     int isAllocated;
     int upPhase;   // MR
     int downPhase; // MR
-};
-
-template <>
-struct FirTransform<Tarn32f> {
-    using Spec = TarnsFFTSpec_R_32f;
-};
-template <>
-struct FirTransform<Tarn32fc> {
-    using Spec = TarnsFFTSpec_C_32fc;
-};
-template <>
-struct FirTransform<Tarn64f> {
-    using Spec = TarnsFFTSpec_R_64f;
-};
-template <>
-struct FirTransform<Tarn64fc> {
-    using Spec = TarnsFFTSpec_C_64fc;
 };
 
 } // namespace tarn

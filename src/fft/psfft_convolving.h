@@ -1,19 +1,21 @@
-// The transforms behind the FFT road of FIR filters, by the type of the taps.
+// The transforms that filters and convolutions are computed by, for a type of elements.
 #pragma once
 
-#include "levels/fir/psfir_state.h"
+#include "frame/object.h"
+#include "levels/fft/psfft_kinds.h"
 #include "tarns/fft.h"
 #include "tarns/multiply.h"
 #include "tarns/spectrum.h"
 
 namespace tarn {
 
-// The calls for a type of taps. The spectrum of real data is in Perm format.
+// The calls for a type. The spectrum of real data is in Perm format.
 template <typename T>
 struct TransformCalls;
 
 template <>
 struct TransformCalls<Tarn32f> {
+    using Spec = TransformOf<Tarn32f>::Spec;
     static constexpr auto initAlloc = tarnsFFTInitAlloc_R_32f;
     static constexpr auto getBufSize = tarnsFFTGetBufSize_R_32f;
     static constexpr auto forward = tarnsFFTFwd_RToPerm_32f;
@@ -23,6 +25,7 @@ struct TransformCalls<Tarn32f> {
 };
 template <>
 struct TransformCalls<Tarn32fc> {
+    using Spec = TransformOf<Tarn32fc>::Spec;
     static constexpr auto initAlloc = tarnsFFTInitAlloc_C_32fc;
     static constexpr auto getBufSize = tarnsFFTGetBufSize_C_32fc;
     static constexpr auto forward = tarnsFFTFwd_CToC_32fc;
@@ -32,6 +35,7 @@ struct TransformCalls<Tarn32fc> {
 };
 template <>
 struct TransformCalls<Tarn64f> {
+    using Spec = TransformOf<Tarn64f>::Spec;
     static constexpr auto initAlloc = tarnsFFTInitAlloc_R_64f;
     static constexpr auto getBufSize = tarnsFFTGetBufSize_R_64f;
     static constexpr auto forward = tarnsFFTFwd_RToPerm_64f;
@@ -41,6 +45,7 @@ struct TransformCalls<Tarn64f> {
 };
 template <>
 struct TransformCalls<Tarn64fc> {
+    using Spec = TransformOf<Tarn64fc>::Spec;
     static constexpr auto initAlloc = tarnsFFTInitAlloc_C_64fc;
     static constexpr auto getBufSize = tarnsFFTGetBufSize_C_64fc;
     static constexpr auto forward = tarnsFFTFwd_CToC_64fc;
@@ -49,22 +54,12 @@ struct TransformCalls<Tarn64fc> {
     static constexpr auto free = tarnsFFTFree_C_64fc;
 };
 
-// The order of the transform for so many taps: more than twice as long, so that at least half a block is of use.
-constexpr int transformOrder(int tapsLen)
-{
-    int order = 2;
-    while (1LL << order <= tapsLen) {
-        ++order;
-    }
-    return order + 1;
-}
-
 // A specification with an owner.
 template <typename T>
 struct ReleaseSpec {
-    void operator()(typename FirTransform<T>::Spec* spec) const { TransformCalls<T>::free(spec); }
+    void operator()(typename TransformOf<T>::Spec* spec) const { TransformCalls<T>::free(spec); }
 };
 template <typename T>
-using OwnedSpec = std::unique_ptr<typename FirTransform<T>::Spec, ReleaseSpec<T>>;
+using OwnedSpec = std::unique_ptr<typename TransformOf<T>::Spec, ReleaseSpec<T>>;
 
 } // namespace tarn
