@@ -2,14 +2,14 @@
 #pragma once
 
 #include "frame/frontend.h"
+#include "frame/packing.h"
+#include "frame/spec.h"
 #include "frame/workbuf.h"
 #include "levels/fft/psfft_calls.h"
 #include "levels/fft/psfft_small.h"
 #include "tarns/fft.h"
 
 #include <climits>
-#include <cmath>
-#include <cstring>
 
 namespace tarn::fft {
 
@@ -38,36 +38,12 @@ inline constexpr bool isReal = std::is_same_v<Object, TarnsFFTSpec_R_32f> || std
 // -- Objects ---------------------------------------------------------------------------------------------------------
 
 template <typename Object>
-void deleteFftCtx(Object* object)
+void deleteSpec(Object* object)
 {
     for (void* table : object->tables) {
         tarnsFree(table);
     }
     releaseObject(object);
-}
-
-// False for a flag that is none.
-template <typename T>
-bool setScaling(Spec<T>& spec, int flag)
-{
-    const int size = 1 << spec.order;
-    switch (flag) {
-    case TARN_FFT_DIV_FWD_BY_N:
-        spec.doFwdDiv = 1;
-        spec.normFactor = T{1} / static_cast<T>(size);
-        return true;
-    case TARN_FFT_DIV_INV_BY_N:
-        spec.doInvDiv = 1;
-        spec.normFactor = T{1} / static_cast<T>(size);
-        return true;
-    case TARN_FFT_DIV_BY_SQRTN:
-        spec.doFwdDiv = 1;
-        spec.doInvDiv = 1;
-        spec.normFactor = static_cast<T>(1.0 / std::sqrt(static_cast<double>(size)));
-        return true;
-    default:
-        return flag == TARN_FFT_NODIV_BY_ANY;
-    }
 }
 
 // The tables of the complex transform of 2^order points.
@@ -126,64 +102,16 @@ TarnStatus initAlloc(Object** ppSpec, int order, int flag, TarnHintAlgorithm hin
     if (order < 0 || order > largestOrder) {
         return tarnStsFftOrderErr;
     }
-    Object* object = createObject<Object>();
-    if (object == nullptr) {
-        return tarnStsNoMemErr;
-    }
-    object->order = order;
-    object->hint = hint;
-    TarnStatus status = setScaling(*object, flag) ? tarnStsNoErr : tarnStsFftFlagErr;
-    if (status == tarnStsNoErr && order >= smallOrders) {
-        status = createTables(*object);
-    }
-    if (status != tarnStsNoErr) {
-        deleteFftCtx(object);
-        return status;
-    }
-    *ppSpec = object;
-    return tarnStsNoErr;
-}
-
-template <typename Object>
-TarnStatus release(Object* pSpec)
-{
-    if (const TarnStatus status = checkObject(pSpec)) {
-        return status;
-    }
-    deleteFftCtx(pSpec);
-    return tarnStsNoErr;
-}
-
-template <typename Object>
-TarnStatus getBufSize(const Object* pSpec, int* pSize)
-{
-    if (pSpec == nullptr || pSize == nullptr) {
-        return tarnStsNullPtrErr;
-    }
-    if (const TarnStatus status = checkObject(pSpec)) {
-        return status;
-    }
-    *pSize = pSpec->bufSize;
-    return tarnStsNoErr;
+    return createSpec(ppSpec, [=](Object& object) {
+        object.order = order;
+        object.hint = hint;
+        const TarnStatus status = setScaling(object, flag, 1 << order);
+        return status == tarnStsNoErr && order >= smallOrders ? createTables(object) : status;
+    });
 }
 
 // -- Transforms
 // --------------------------------------------------------------------------------------------------------
-
-template <typename Object, typename... T>
-TarnStatus checkTransform(const Object* pSpec, const T*... arrays)
-{
-    if (const TarnStatus status = checkObject(pSpec)) {
-        return status;
-    }
-    return ((arrays == nullptr) || ...) ? tarnStsNullPtrErr : tarnStsNoErr;
-}
-
-template <bool forward, typename T>
-bool isScaled(const Spec<T>& spec)
-{
-    return (forward ? spec.doFwdDiv : spec.doInvDiv) != 0;
-}
 
 // The small transform that the object asks for, with its factor if it has one.
 template <bool forward, typename T, typename Plain, typename Norm, typename... Array>
@@ -269,72 +197,6 @@ TarnStatus splitTransform(const T* pSrcRe, const T* pSrcIm, T* pDstRe, T* pDstIm
 }
 
 // -- Real signals ----------------------------------------------------------------------------------------------------
-//
-// A packing tells how a spectrum differs from Perm order: where its last real, R[N/2], and its first pair stand.
-// finish() brings Perm order in place to the packing. toPerm() gives the address of the pairs in Perm order, where they
-// are or, if they stand elsewhere, in the destination.
-
-template <typename T>
-void moveReals(const T* from, T* to, int count)
-{
-    std::memmove(static_cast<void*>(to), static_cast<const void*>(from), static_cast<std::size_t>(count) * sizeof(T));
-}
-
-struct PermPacking {
-    static constexpr int firstPair = 2;
-
-    template <typename T>
-    static void finish(T* /*dst*/, int /*size*/)
-    {
-    }
-    static int positionOfLast(int /*size*/) { return 1; }
-    template <typename T>
-    static const T* toPerm(const T* src, T* /*dst*/, int /*size*/)
-    {
-        return src;
-    }
-};
-
-struct PackPacking {
-    static constexpr int firstPair = 1;
-
-    template <typename T>
-    static void finish(T* dst, int size)
-    {
-        if (size > 2) {
-            const T last = loadElement(dst + 1);
-            moveReals(dst + 2, dst + 1, size - 2);
-            store(dst + size - 1, last);
-        }
-    }
-    static int positionOfLast(int size) { return size - 1; }
-    template <typename T>
-    static const T* toPerm(const T* src, T* dst, int size)
-    {
-        moveReals(src + 1, dst + 2, size - 2);
-        return dst;
-    }
-};
-
-struct CcsPacking {
-    static constexpr int firstPair = 2;
-
-    template <typename T>
-    static void finish(T* dst, int size)
-    {
-        if (size > 1) {
-            store(dst + size, loadElement(dst + 1));
-            store(dst + size + 1, T{0});
-        }
-        store(dst + 1, T{0});
-    }
-    static int positionOfLast(int size) { return size; }
-    template <typename T>
-    static const T* toPerm(const T* src, T* /*dst*/, int /*size*/)
-    {
-        return src;
-    }
-};
 
 // Slot 0 of the half-length transform and the first two reals of Perm order are each other's sum and difference, up to
 // a factor of 2.
@@ -376,13 +238,7 @@ TarnStatus realInverse(const T* pSrc, T* pDst, const Object* pSpec, Tarn8u* pBuf
     const int size = 1 << pSpec->order;
     if (pSpec->order < smallOrders) {
         T perm[1 << (smallOrders - 1)];
-        perm[0] = loadElement(pSrc);
-        if (size > 1) {
-            perm[1] = loadElement(pSrc + Packing::positionOfLast(size));
-        }
-        if (size > 2) {
-            moveReals(pSrc + Packing::firstPair, perm + 2, size - 2);
-        }
+        copyToPerm<Packing>(pSrc, static_cast<T*>(perm), size);
         runSmall<false>(*pSpec, tbl_rFFT_small<false, T>, tbl_rFFT_norm_small<false, T>, static_cast<const T*>(perm),
                         pDst);
         return tarnStsNoErr;
@@ -409,10 +265,10 @@ TarnStatus realInverse(const T* pSrc, T* pDst, const Object* pSpec, Tarn8u* pBuf
     {                                                                                                              \
         return tarn::fft::initAlloc(ppSpec, order, flag, hint);                                                    \
     }                                                                                                              \
-    TarnStatus tarnsFFTFree_##KIND(TarnsFFTSpec_##KIND* pSpec) { return tarn::fft::release(pSpec); }               \
+    TarnStatus tarnsFFTFree_##KIND(TarnsFFTSpec_##KIND* pSpec) { return tarn::freeSpec(pSpec); }                   \
     TarnStatus tarnsFFTGetBufSize_##KIND(const TarnsFFTSpec_##KIND* pSpec, int* pSize)                             \
     {                                                                                                              \
-        return tarn::fft::getBufSize(pSpec, pSize);                                                                \
+        return tarn::getBufSize(pSpec, pSize);                                                                     \
     }
 
 #define TARN_FFT_COMPLEX_FRONT_ENDS(T, DIRECTION, FORWARD)                                                       \
@@ -431,12 +287,12 @@ TarnStatus realInverse(const T* pSrc, T* pDst, const Object* pSpec, Tarn8u* pBuf
     TarnStatus tarnsFFTFwd_RTo##PACKED##_##T(const Tarn##T* pSrc, Tarn##T* pDst, const TarnsFFTSpec_R_##T* pSpec, \
                                              Tarn8u* pBuffer)                                                     \
     {                                                                                                             \
-        return tarn::fft::realForward<tarn::fft::PACKING>(pSrc, pDst, pSpec, pBuffer);                            \
+        return tarn::fft::realForward<tarn::PACKING>(pSrc, pDst, pSpec, pBuffer);                                 \
     }                                                                                                             \
     TarnStatus tarnsFFTInv_##PACKED##ToR_##T(const Tarn##T* pSrc, Tarn##T* pDst, const TarnsFFTSpec_R_##T* pSpec, \
                                              Tarn8u* pBuffer)                                                     \
     {                                                                                                             \
-        return tarn::fft::realInverse<tarn::fft::PACKING>(pSrc, pDst, pSpec, pBuffer);                            \
+        return tarn::fft::realInverse<tarn::PACKING>(pSrc, pDst, pSpec, pBuffer);                                 \
     }
 
 #define TARN_FFT_FRONT_ENDS(T)                     \
