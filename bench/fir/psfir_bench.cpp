@@ -13,6 +13,7 @@
 #include <dlfcn.h>
 
 #include <memory>
+#include <vector>
 
 namespace tarn::bench {
 namespace {
@@ -57,6 +58,20 @@ auto ours32f(int taps, int threads = 1)
     return ours<Tarn32f, Tarn32f, TarnsFIRState_32f>(
         taps, [](auto** state, const Tarn32f* h, int n) { tarnsFIRInitAlloc_32f(state, h, n, nullptr); },
         tarnsFIRFree_32f, tarnsFIR_32f, threads);
+}
+
+// In place, where taps that add up to little keep what is filtered again and again from growing.
+auto inPlace32fc(int taps, int threads)
+{
+    return [=](int n) {
+        setThreads(threads);
+        const std::vector<Tarn32fc> h(static_cast<std::size_t>(taps), Tarn32fc{0.5F / static_cast<float>(taps), 0});
+        TarnsFIRState_32fc* state = nullptr;
+        tarnsFIRInitAlloc_32fc(&state, h.data(), taps, nullptr);
+        std::shared_ptr<TarnsFIRState_32fc> owner(state, tarnsFIRFree_32fc);
+        Tarn32fc* data = filledBuffer<Tarn32fc>(0, n, Fill::signal);
+        return [=] { return tarnsFIR_32fc_I(data, n, owner.get()); };
+    };
 }
 
 #ifdef TARNS_HAVE_LIQUID
@@ -120,9 +135,13 @@ const Comparison cases = [] {
                         [](auto** state, const Tarn32fc* h, int n) { tarnsFIRInitAlloc_32fc(state, h, n, nullptr); },
                         tarnsFIRFree_32fc, tarnsFIR_32fc),
                     peer("loop", loop<Tarn32fc, Tarn32fc>(15)));
-    for (int taps : {32, 128})
-        comparePrepared(sizes(1 << 20), "fir_32f_" + std::to_string(taps) + "_2threads", ours32f(taps, 2),
-                        peer("1thread", ours32f(taps, 1)));
+    // The default of two threads from the shortest call that may be shared out to the longest.
+    for (int taps : {32, 128, 1024})
+        compareThreads(sizes(1601, 4096, 16384, 65536, 262144, 1 << 20),
+                       "fir_32f_" + std::to_string(taps) + "_2threads", ours32f(taps, 2),
+                       peer("1thread", ours32f(taps, 1)));
+    // In place a call is one of 4096 samples after the other.
+    compareThreads(sizes(1 << 20), "fir_32fc_I_15_2threads", inPlace32fc(15, 2), peer("1thread", inPlace32fc(15, 1)));
     return Comparison{};
 }();
 

@@ -74,24 +74,27 @@ void forgetWideRegisters();
 /// `prepare(n)` makes the buffers outside the timed loop and gives the call on them.
 template <class Prepare>
 void registerOne(const std::string& name, const Sizes& lengths, const std::string& contestant, const Prepare& prepare,
-                 std::size_t bytesPerElement)
+                 std::size_t bytesPerElement, bool byWallClock = false)
 {
     for (int n : lengths) {
         const std::string full = name + "/" + std::to_string(n) + "/" + contestant;
-        benchmark::RegisterBenchmark(full.c_str(), [prepare, n, bytesPerElement](benchmark::State& state) {
-            auto call = prepare(n);
-            // The first run faults pages in and fills the caches.
-            invoke(call);
-            forgetWideRegisters();
-            for (auto iteration : state) {
-                static_cast<void>(iteration);
+        auto* const registered =
+            benchmark::RegisterBenchmark(full.c_str(), [prepare, n, bytesPerElement](benchmark::State& state) {
+                auto call = prepare(n);
+                // The first run faults pages in and fills the caches.
                 invoke(call);
-                benchmark::ClobberMemory();
-            }
-            state.SetItemsProcessed(state.iterations() * n);
-            if (bytesPerElement != 0)
-                state.SetBytesProcessed(state.iterations() * n * static_cast<std::int64_t>(bytesPerElement));
-        });
+                forgetWideRegisters();
+                for (auto iteration : state) {
+                    static_cast<void>(iteration);
+                    invoke(call);
+                    benchmark::ClobberMemory();
+                }
+                state.SetItemsProcessed(state.iterations() * n);
+                if (bytesPerElement != 0)
+                    state.SetBytesProcessed(state.iterations() * n * static_cast<std::int64_t>(bytesPerElement));
+            });
+        if (byWallClock)
+            registered->UseRealTime();
     }
 }
 
@@ -199,6 +202,15 @@ Comparison comparePrepared(const Sizes& lengths, const std::string& name, Ours p
 {
     detail::registerOne(name, lengths, "ours", prepareOurs, 0);
     (detail::registerOne(name, lengths, peers.name, peers.call, 0), ...);
+    return {};
+}
+
+/// The same for calls that are shared out to threads, of which the processor's clock sees only the caller's.
+template <class Ours, class... Peers>
+Comparison compareThreads(const Sizes& lengths, const std::string& name, Ours prepareOurs, const Peer<Peers>&... peers)
+{
+    detail::registerOne(name, lengths, "ours", prepareOurs, 0, true);
+    (detail::registerOne(name, lengths, peers.name, peers.call, 0, true), ...);
     return {};
 }
 
