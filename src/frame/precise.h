@@ -200,16 +200,13 @@ inline double scaledOnce(double y, double yLo, int n)
     return (last - spacer) * twoToMinus<Tarn64f>(-lowestNormal) * twoToMinus<Tarn64f>(lowestNormal - n);
 }
 
-inline double exponential(double x)
+// e to the power x = (y + yLo) 2^n, for |x| up to some 1400.
+struct Power {
+    double y, yLo;
+    int n;
+};
+inline Power powerOfE(double x)
 {
-    constexpr double overflow = 0x1.62e42fefa39efp9;   // above it nothing is finite
-    constexpr double underflow = -0x1.74910d52d3052p9; // below it all is less than half the lowest positive number
-    if (!(x <= overflow)) {
-        return x * HUGE_VAL;
-    }
-    if (x < underflow) {
-        return 0;
-    }
     const double steps = nearInteger(x * stepsPerNeper);
     const Sum reduced = sum(x - steps * powerStep[0], -(steps * powerStep[1]));
     const double d = reduced.hi;
@@ -221,7 +218,21 @@ inline double exponential(double x)
     const double dHead = headOf(d);
     const Sum leading = sumOfLarger(at.head, at.head * dHead);
     const double rest = leading.lo + (at.rest + (at.head * ((d - dHead) + (tail + dLo)) + at.rest * (d + tail)));
-    return scaledOnce(leading.hi, rest, (step - (step & (powerSteps - 1))) / powerSteps);
+    return {leading.hi, rest, (step - (step & (powerSteps - 1))) / powerSteps};
+}
+
+inline double exponential(double x)
+{
+    constexpr double overflow = 0x1.62e42fefa39efp9;   // above it nothing is finite
+    constexpr double underflow = -0x1.74910d52d3052p9; // below it all is less than half the lowest positive number
+    if (!(x <= overflow)) {
+        return x * HUGE_VAL;
+    }
+    if (x < underflow) {
+        return 0;
+    }
+    const Power power = powerOfE(x);
+    return scaledOnce(power.y, power.yLo, power.n);
 }
 
 // -- Logarithm

@@ -33,26 +33,15 @@ public:
 };
 
 // Round to nearest, denormals as they are, all exceptions masked: what the approximations are computed under, so that
-// their bits depend on nothing that a caller has set. A word that is so already stays, its sticky flags included.
-class StandardArithmetic {
+// their bits depend on nothing that a caller has set.
+class StandardArithmetic : KeptControl {
 public:
-    StandardArithmetic() : saved(readMxcsr())
+    StandardArithmetic()
     {
         if ((saved & mxcsrControls) != mxcsrMasks) {
             writeMxcsr((saved & ~mxcsrControls) | mxcsrMasks);
         }
     }
-    ~StandardArithmetic()
-    {
-        if ((saved & mxcsrControls) != mxcsrMasks) {
-            writeMxcsr(saved);
-        }
-    }
-    StandardArithmetic(const StandardArithmetic&) = delete;
-    StandardArithmetic& operator=(const StandardArithmetic&) = delete;
-
-private:
-    const unsigned saved;
 };
 
 using NearestRounding = RoundingGuard<0>;

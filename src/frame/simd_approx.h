@@ -45,41 +45,43 @@ inline constexpr int exponentBias = std::numeric_limits<T>::max_exponent - 1;
 
 // Lanes that the method is not made for, one after the other.
 template <typename Method, typename T>
-[[gnu::noinline, gnu::cold]] void computeRare(const T* x, T* y, int count)
+[[gnu::noinline, gnu::cold]] void computeRare(Method method, const T* x, T* y, int count)
 {
     for (int i = 0; i < count; ++i) {
-        if (!Method::isOrdinary(x[i])) {
-            y[i] = Method::rare(x[i]);
+        if (!method.isOrdinary(x[i])) {
+            y[i] = method.rare(x[i]);
         }
     }
 }
 
-// Method::ordinary where Method::isOrdinary says so, Method::rare elsewhere: for all arguments one register takes the
-// former, and those that need the latter are looked for only if there are any.
+// The method's `ordinary` where its `isOrdinary` says so, `rare` elsewhere: a register takes the former as a whole, and
+// elements that need the latter are looked for only if there are any.
 template <typename Method>
 struct Approximation {
+    Method method;
+
     template <typename X>
     TARN_INLINE X operator()(X x) const
     {
-        return byRegister(x, [](auto r) { return ofRegister(r); });
+        return byRegister(x, [this](auto r) { return ofRegister(r); });
     }
 
 private:
     template <Float T>
-    static TARN_INLINE T ofRegister(T x)
+    TARN_INLINE T ofRegister(T x) const
     {
-        return Method::isOrdinary(x) ? Method::ordinary(x) : Method::rare(x);
+        return method.isOrdinary(x) ? method.ordinary(x) : method.rare(x);
     }
     template <typename T, int N>
-    static TARN_INLINE Pack<T, N> ofRegister(Pack<T, N> x)
+    TARN_INLINE Pack<T, N> ofRegister(Pack<T, N> x) const
     {
-        auto y = Method::ordinary(x);
-        if (!allOf(Method::isOrdinary(x))) [[unlikely]] {
+        auto y = method.ordinary(x);
+        if (!allOf(method.isOrdinary(x))) [[unlikely]] {
             T arguments[N];
             T values[N];
             store(arguments, x);
             store(values, y);
-            computeRare<Method>(arguments, values, N);
+            computeRare(method, arguments, values, N);
             y = loadPack<N>(values);
         }
         return y;
