@@ -29,19 +29,14 @@ TarnStatus runNoting(int (*kernel)(const S*, D*, int), const S* pSrc, D* pDst, i
 Tarn32f factorOf(int scaleFactor) { return twoToMinus<Tarn32f>(std::max(scaleFactor, -100)); }
 
 template <typename S, typename D>
-TarnStatus scaledLogarithm(void (*byFactor)(const S*, D*, int, Tarn32f), void (*byTree)(const S*, D*, int, int),
+TarnStatus scaledLogarithm(int (*byFactor)(const S*, D*, int, Tarn32f), int (*byTree)(const S*, D*, int, int),
                            const S* pSrc, D* pDst, int len, int scaleFactor)
 {
     if (const TarnStatus status = check(len, pSrc, pDst)) {
         return status;
     }
-    const int met = firstWarning(pSrc, len);
-    if (scaleFactor < 0) {
-        byFactor(pSrc, pDst, len, factorOf(scaleFactor));
-    } else {
-        byTree(pSrc, pDst, len, scaleFactor);
-    }
-    return statusOf(met);
+    return statusOf(scaleFactor < 0 ? byFactor(pSrc, pDst, len, factorOf(scaleFactor))
+                                    : byTree(pSrc, pDst, len, scaleFactor));
 }
 
 TarnStatus logarithm16s(const Tarn16s* pSrc, Tarn16s* pDst, int len, int scaleFactor)
@@ -49,9 +44,7 @@ TarnStatus logarithm16s(const Tarn16s* pSrc, Tarn16s* pDst, int len, int scaleFa
     if (const TarnStatus status = check(len, pSrc, pDst)) {
         return status;
     }
-    const int met = firstWarning(pSrc, len);
-    logarithms(pSrc, pDst, len, scaleFactor);
-    return statusOf(met);
+    return statusOf(logarithms(pSrc, pDst, len, scaleFactor));
 }
 
 } // namespace

@@ -12,7 +12,7 @@ TARN_INLINE X angleFrom(X eighths, BitsLike<X> sign, X t)
 {
     using T = Element<X>;
     const X z = mul(t, t);
-    const X rest = mul(t, mul(z, polynomial(z, arctangentCoefficients<T>)));
+    const X rest = mul(t, mul(z, splitPolynomial(z, arctangentCoefficients<T>)));
     const X base = mul(eighths, constant<X>(eighthTurn<T>[0]));
     const X signedT = flippedBy(sign, t);
     const X sum = add(base, signedT);
@@ -29,10 +29,9 @@ TARN_INLINE X angleOfRatio(X low, X high, X eighths, BitsLike<X> sign)
     // is left for the quotient is below the tangent of a quarter of a turn less 1 radian: with a larger one the
     // rounding of the quotient would weigh more in angles just below 1, where the last place is half as large.
     const auto isFlat = less(low, mul(high, constant<X>(Element<X>(0.64))));
-    const X zero = constant<X>(0);
-    const X numerator = sub(low, select(isFlat, zero, high));
-    const X denominator = add(high, select(isFlat, zero, low));
-    const X one = select(isFlat, zero, constant<X>(1));
+    const X numerator = sub(low, clearFloatWhere(isFlat, high));
+    const X denominator = add(high, clearFloatWhere(isFlat, low));
+    const X one = clearFloatWhere(isFlat, constant<X>(1));
     return angleFrom(add(eighths, flippedBy(sign, one)), sign, div(numerator, denominator));
 }
 
@@ -54,8 +53,8 @@ private:
         // In this order a NaN passes.
         const X low = min(one, magnitude);
         const X high = max(one, magnitude);
-        const X eighths = select(isSteep, constant<X>(2), constant<X>(0));
-        const X steepSign = select(isSteep, constant<X>(-1), constant<X>(0));
+        const X eighths = keepFloatWhere(isSteep, constant<X>(2));
+        const X steepSign = keepFloatWhere(isSteep, constant<X>(-1));
         return flippedBy(bitsOf(x), angleOfRatio(low, high, eighths, bitsOf(steepSign)));
     }
 };
@@ -103,7 +102,7 @@ struct CircularMethod {
     template <typename X>
     static TARN_INLINE X sineOf(QuarterReduced<X> angle, X z)
     {
-        const X cubic = mul(mul(angle.r, z), polynomial(z, sineCoefficients<Element<X>>));
+        const X cubic = mul(mul(angle.r, z), splitPolynomial(z, sineCoefficients<Element<X>>));
         return add(angle.r, add(cubic, angle.rest));
     }
     template <typename X>
@@ -113,7 +112,7 @@ struct CircularMethod {
         const X half = mul(z, constant<X>(Element<X>(0.5)));
         const X sum = sub(one, half);
         const X lost = sub(sub(one, sum), half);
-        const X quartic = mul(mul(z, z), polynomial(z, cosineCoefficients<Element<X>>));
+        const X quartic = mul(mul(z, z), splitPolynomial(z, cosineCoefficients<Element<X>>));
         return add(sum, add(lost, sub(quartic, mul(angle.r, angle.rest))));
     }
 

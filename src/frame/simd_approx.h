@@ -26,12 +26,61 @@ TARN_INLINE B blend(B mask, B a, B b)
     return bitOr(bitAnd(mask, a), bitAndNot(mask, b));
 }
 
+// x where a mask of comparison is set, 0 elsewhere, and the other way round.
+struct KeepFloatWhere {
+    template <Float T>
+    static TARN_INLINE T of(bool mask, T x)
+    {
+        return mask ? x : T{0};
+    }
+    template <Float T>
+    static TARN_INLINE Register<T> of(Register<T> mask, Register<T> x)
+    {
+        return FloatBits::both(mask, x);
+    }
+};
+inline constexpr Word<KeepFloatWhere> keepFloatWhere;
+
+struct ClearFloatWhere {
+    template <Float T>
+    static TARN_INLINE T of(bool mask, T x)
+    {
+        return mask ? T{0} : x;
+    }
+    template <Float T>
+    static TARN_INLINE Register<T> of(Register<T> mask, Register<T> x)
+    {
+        return FloatBits::rest(mask, x);
+    }
+};
+inline constexpr Word<ClearFloatWhere> clearFloatWhere;
+
 // x with its sign flipped where the sign bit of `sign` is set.
 template <typename X>
 TARN_INLINE X flippedBy(BitsLike<X> sign, X x)
 {
     const auto signBit = splat<BitsLike<X>>(lowest<Element<BitsLike<X>>>);
     return floatOfBits(bitXor(bitsOf(x), bitAnd(sign, signBit)));
+}
+
+// The polynomial as that of its even and that of its odd coefficients, in the square of z, and each of them so again if
+// it is still long: one long chain of products and sums would have the others wait for their results.
+template <std::size_t first = 0, std::size_t step = 1, typename X, std::size_t count>
+TARN_INLINE X splitPolynomial(X z, const Element<X> (&coefficients)[count])
+{
+    constexpr std::size_t terms = (count - first + step - 1) / step;
+    constexpr std::size_t shortChain = 5;
+    if constexpr (terms <= shortChain) {
+        X sum = constant<X>(coefficients[first + (terms - 1) * step]);
+        for (std::size_t i = terms - 1; i-- > 0;) {
+            sum = add(mul(sum, z), constant<X>(coefficients[first + i * step]));
+        }
+        return sum;
+    } else {
+        const X square = mul(z, z);
+        const X odd = splitPolynomial<first + step, 2 * step>(square, coefficients);
+        return add(splitPolynomial<first, 2 * step>(square, coefficients), mul(odd, z));
+    }
 }
 
 // Adding this to a float leaves the nearest integer in its last bits; taking it away again leaves the integer itself.

@@ -24,8 +24,13 @@ struct ExponentialMethod {
         constexpr T spacer = noFraction<T> + exponentBias<T>;
         const X spaced = add(mul(x, constant<X>(inverse)), constant<X>(spacer));
         const X k = sub(spaced, constant<X>(spacer));
-        const X r = sub(sub(x, mul(k, constant<X>(logOfTwo<T>[0]))), mul(k, constant<X>(logOfTwo<T>[1])));
-        const X square = mul(mul(r, r), polynomial(r, exponentialCoefficients<T>));
+        const X high = sub(x, mul(k, constant<X>(logOfTwo<T>[0])));
+        const X low = mul(k, constant<X>(logOfTwo<T>[1]));
+        const X r = sub(high, low);
+        X square = mul(mul(r, r), splitPolynomial(r, exponentialCoefficients<T>));
+        if constexpr (isDouble<T>) { // where the sum of all roundings comes near to a whole unit
+            square = add(square, sub(sub(high, r), low));
+        }
         const X y = add(add(square, r), constant<X>(1));
         return mul(y, floatOfBits(shiftLeft(bitsOf(spaced), mantissaBits<T>)));
     }
@@ -87,12 +92,12 @@ private:
         using T = Element<X>;
         const X halfSquare = mul(mul(f, f), constant<X>(T(0.5)));
         if constexpr (isSingle<T>) {
-            return sub(mul(mul(mul(f, f), f), polynomial(f, logarithmCoefficients<T>)), halfSquare);
+            return sub(mul(mul(mul(f, f), f), splitPolynomial(f, logarithmCoefficients<T>)), halfSquare);
         } else {
             // With s = f / (2 + f): ln(1 + f) = 2 atanh(s) = f - f^2 / 2 + s (f^2 / 2 + 2 atanh(s) / s - 2).
             const X s = div(f, add(f, constant<X>(2)));
             const X z = mul(s, s);
-            const X rest = mul(z, polynomial(z, areaTangentCoefficients<T>));
+            const X rest = mul(z, splitPolynomial(z, areaTangentCoefficients<T>));
             return sub(mul(s, add(halfSquare, rest)), halfSquare);
         }
     }

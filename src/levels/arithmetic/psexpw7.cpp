@@ -15,19 +15,18 @@ namespace {
 // the last, which are 0 and the bound.
 template <typename T>
 struct ByTable {
-    Tarn64s lowest;
-    Tarn64s highest;
-    const T* results;
-
-    TARN_INLINE T operator()(T x) const { return results[std::clamp<Tarn64s>(x, lowest, highest) - lowest]; }
-};
-template <>
-struct ByTable<Tarn16s> {
     int lowest;
     int highest;
-    const Tarn16s* results;
+    const T* results;
 
-    TARN_INLINE Tarn16s operator()(Tarn16s x) const { return results[std::clamp<int>(x, lowest, highest) - lowest]; }
+    TARN_INLINE T operator()(T x) const
+    {
+        if constexpr (sizeof(T) > sizeof(int)) {
+            return results[std::clamp(clampTo<int>(x), lowest, highest) - lowest];
+        } else {
+            return results[std::clamp<int>(x, lowest, highest) - lowest];
+        }
+    }
 };
 
 // One half is added, and the fraction cut off.
@@ -94,8 +93,7 @@ void walkCallTable(const T* src, T* dst, int len, int scaleFactor, Result result
     for (int i = 0; i < callTableSize; ++i) {
         table[i] = result(lowest + i);
     }
-    using Argument = decltype(ByTable<T>::lowest);
-    const auto from = static_cast<Argument>(lowest);
+    const int from = static_cast<int>(lowest);
     walkTable(src, dst, len, ByTable<T>{from, from + callTableSize - 1, table});
 }
 
@@ -148,7 +146,7 @@ struct ExponentialInDouble {
     template <typename X>
     TARN_INLINE auto operator()(X x) const
     {
-        return exponential(widenFloat(x));
+        return exponential(widen(x));
     }
 };
 
@@ -166,13 +164,13 @@ void tarn::exponentials(const Tarn32s* src, Tarn32s* dst, int len, int scaleFact
 
 void tarn::exponentials(const Tarn64s* src, Tarn64s* dst, int len)
 {
-    // Beyond the ends of the constant table.
-    walkElements(
-        dst, 0, len,
-        [](Tarn64s x) { return x < 0                              ? 0
-                               : x < std::ssize(integerPowersOfE) ? integerPowersOfE[x]
-                                                                  : highest<Tarn64s>; },
-        src);
+    static constexpr auto table = [] {
+        std::array<Tarn64s, std::size(integerPowersOfE) + 2> results{};
+        std::copy(std::begin(integerPowersOfE), std::end(integerPowersOfE), results.begin() + 1);
+        results.back() = highest<Tarn64s>;
+        return results;
+    }();
+    walkTable(src, dst, len, ByTable<Tarn64s>{-1, static_cast<int>(std::ssize(integerPowersOfE)), table.data()});
 }
 
 void Exp_64s_P6(const Tarn64s* pSrc, Tarn64s* pDst, int len, int scaleFactor)

@@ -17,10 +17,11 @@ struct Bracket {
 
 constexpr int bitsOfArgument(Tarn32s x) { return static_cast<int>(std::bit_width(static_cast<Tarn32u>(x))); }
 
-// A tree whose root is the argument's highest bit: it leaves at most two thresholds to compare with.
+// A tree whose root is the argument's highest bit: it leaves few thresholds to compare with.
+template <std::size_t thresholds>
 class DecisionTree {
 public:
-    // In ascending order, at most two of them within a power of two; arguments below all of them give 0.
+    // In ascending order, at most so many of them from a power of two to the next; arguments below all of them give 0.
     constexpr DecisionTree(std::initializer_list<Bracket> brackets)
     {
         int result = 0;
@@ -45,7 +46,7 @@ public:
         const Branch& branch = branches[static_cast<std::size_t>(bitsOfArgument(x))];
         int result = branch.result;
         for (const auto& [lowest, gain] : branch.steps) {
-            result += x >= lowest ? gain : 0;
+            result += gain & -static_cast<int>(x >= lowest); // no branch: nobody could foretell it
         }
         return result;
     }
@@ -57,23 +58,23 @@ private:
     };
     struct Branch {
         int result = 0;
-        std::array<Step, 2> steps;
+        std::array<Step, thresholds> steps;
     };
     std::array<Branch, 32> branches;
 };
 
 // Where ln x, rounded to nearest, goes up by 1: above e^(k - 1/2).
-inline constexpr DecisionTree roundedLogarithm = {
+inline constexpr DecisionTree<1> roundedLogarithm = {
     {2, 1},        {5, 2},        {13, 3},        {34, 4},        {91, 5},         {245, 6},        {666, 7},
     {1809, 8},     {4915, 9},     {13360, 10},    {36316, 11},    {98716, 12},     {268338, 13},    {729417, 14},
     {1982760, 15}, {5389699, 16}, {14650720, 17}, {39824785, 18}, {108254988, 19}, {294267567, 20}, {799902178, 21}};
 
 // The same of ln x / 2, ln x / 4, ln x / 8, ln x / 16, for 16-bit arguments.
-inline constexpr DecisionTree dividedLogarithms[] = {
+inline constexpr DecisionTree<1> dividedLogarithms[] = {
     {{3, 1}, {21, 2}, {149, 3}, {1097, 4}, {8104, 5}}, {{8, 1}, {404, 2}, {22027, 3}}, {{55, 1}}, {{2981, 1}}};
 
 // 10 log10 x from 15 on, in brackets of 2 decibels.
-inline constexpr DecisionTree decibelsFrom15 = {
+inline constexpr DecisionTree<2> decibelsFrom15 = {
     {15, 12},        {23, 14},        {36, 16},        {57, 18},        {90, 20},         {142, 22},
     {224, 24},       {355, 26},       {563, 28},       {892, 30},       {1413, 32},       {2239, 34},
     {3549, 36},      {5624, 38},      {8913, 40},      {14126, 42},     {22388, 44},      {35482, 46},

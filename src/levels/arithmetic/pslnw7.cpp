@@ -1,6 +1,7 @@
 // Kernels of the logarithms.
 #include "levels/arithmetic/psln.h"
 
+#include "frame/factor.h"
 #include "frame/rounding.h"
 #include "frame/simd_exp.h"
 #include "levels/arithmetic/psln_tree.h"
@@ -37,24 +38,37 @@ struct NarrowedLogarithm {
 
 // -- Integers --------------------------------------------------------------------------------------------------------
 
+int warningOf(Tarn32s x) { return x == 0 ? logarithmsMetZero : logarithmsMetNegative; }
+
+// Through the whole array, one element after the other: what is done for each depends on it. Those below 1 give 0, and
+// the first of them the answer.
+template <typename D, typename S, typename Operation>
+TARN_INLINE int walkTree(const S* src, D* dst, int len, Operation operation)
+{
+    int met = 0;
+    walkElements(
+        dst, 0, len,
+        [operation, &met](S x) {
+            if (x < 1) [[unlikely]] {
+                met = met == 0 ? warningOf(x) : met;
+                return D{0};
+            }
+            return static_cast<D>(operation(x));
+        },
+        src);
+    return met;
+}
+
+// The same for what asks for vectors, before they overwrite their source.
 template <typename T>
-int warningOf(const T* src, int len)
+int firstWarning(const T* src, int len)
 {
     for (int i = 0; i < len; ++i) {
-        const T x = loadElement(src + i);
-        if (x < 1) {
-            return x == 0 ? logarithmsMetZero : logarithmsMetNegative;
+        if (loadElement(src + i) < 1) {
+            return warningOf(loadElement(src + i));
         }
     }
     return 0;
-}
-
-// Through the whole array, one element after the other: what is done for each depends on it.
-template <typename D, typename S, typename Operation>
-void walkTree(const S* src, D* dst, int len, Operation operation)
-{
-    walkElements(
-        dst, 0, len, [operation](S x) { return static_cast<D>(operation(std::max<Tarn32s>(x, 0))); }, src);
 }
 
 // 2 ln x, as the rounded logarithm of the square. Larger arguments are halved until their squares are small, which
@@ -104,9 +118,13 @@ struct DoubledLogarithm {
 struct MultipliedLogarithm {
     Tarn64f factor;
 
-    TARN_INLINE int operator()(Tarn32s x) const
+    template <typename X>
+    TARN_INLINE auto operator()(X x) const
     {
-        return x < 2 ? 0 : static_cast<int>(std::min(logarithm(static_cast<Tarn64f>(x)) * factor + 0.5, 32767.0));
+        auto y = logarithm(widen(convert<Tarn32f>(widen(max(x, splat<X>(1))))));
+        using Y = decltype(y);
+        y = add(mul(y, splat<Y>(factor)), splat<Y>(0.5));
+        return narrowSaturated<Tarn16s>(truncateToInteger(min(y, splat<Y>(highest<Tarn16s>))));
     }
 };
 
@@ -122,9 +140,10 @@ struct LogarithmTimes2To15 {
 };
 
 template <typename D>
-void shiftedLogarithms(const Tarn32s* src, D* dst, int len, int scaleFactor)
+int shiftedLogarithms(const Tarn32s* src, D* dst, int len, int scaleFactor)
 {
-    walkTree(src, dst, len, [scaleFactor](Tarn32s x) { return ShiftRight::of(roundedLogarithm(x), scaleFactor); });
+    const int shift = std::min(scaleFactor, 31);
+    return walkTree(src, dst, len, [shift](Tarn32s x) { return roundedLogarithm(x) >> shift; });
 }
 
 // 10 log10 x below 15. The lowest integer marks arguments that no bracket has: their elements stay as they are.
@@ -133,6 +152,15 @@ constexpr Tarn32s decibelsBelow15[] = {0,         0,  3,         5,         6,  
                                        noBracket, 10, noBracket, noBracket, noBracket, noBracket, noBracket};
 
 // The logarithm in single precision, times a factor, as integers.
+template <typename D, typename Operation>
+int walkFactor(const Tarn32s* src, D* dst, int len, Operation operation)
+{
+    const int met = firstWarning(src, len);
+    const StandardArithmetic guard;
+    walk(dst, len, operation, src);
+    return met;
+}
+
 template <typename D>
 struct ByFactor {
     Tarn32f factor;
@@ -182,70 +210,77 @@ int tarnsLn64f32f_P6(const Tarn64f* pSrc, Tarn32f* pDst, int len)
     return met;
 }
 
-void Ln32s_W7(const Tarn32s* pSrc, Tarn32s* pDst, int len, Tarn32f factor)
+int Ln32s_W7(const Tarn32s* pSrc, Tarn32s* pDst, int len, Tarn32f factor)
 {
-    const StandardArithmetic guard;
-    walk(pDst, len, ByFactor<Tarn32s>{factor}, pSrc);
+    return walkFactor(pSrc, pDst, len, ByFactor<Tarn32s>{factor});
 }
 
-void Ten_Lg32s_W7(const Tarn32s* pSrc, Tarn32s* pDst, int len, Tarn32f factor)
+int Ten_Lg32s_W7(const Tarn32s* pSrc, Tarn32s* pDst, int len, Tarn32f factor)
 {
-    const StandardArithmetic guard;
     constexpr Tarn32f decibelsPerNeper = 0x1.15f2dp+2F; // 10 / ln 10
-    walk(pDst, len, ByFactor<Tarn32s>{factor * decibelsPerNeper}, pSrc);
+    return walkFactor(pSrc, pDst, len, ByFactor<Tarn32s>{factor * decibelsPerNeper});
 }
 
-void tarn::logarithmsByFactor(const Tarn32s* src, Tarn16s* dst, int len, Tarn32f factor)
+int tarn::logarithmsByFactor(const Tarn32s* src, Tarn16s* dst, int len, Tarn32f factor)
 {
-    const StandardArithmetic guard;
-    walk(dst, len, ByFactor<Tarn16s>{factor}, src);
+    return walkFactor(src, dst, len, ByFactor<Tarn16s>{factor});
 }
 
-int tarn::firstWarning(const Tarn16s* src, int len) { return warningOf(src, len); }
-int tarn::firstWarning(const Tarn32s* src, int len) { return warningOf(src, len); }
-
-void tarn::logarithms(const Tarn32s* src, Tarn32s* dst, int len, int scaleFactor)
+int tarn::logarithms(const Tarn32s* src, Tarn32s* dst, int len, int scaleFactor)
 {
-    shiftedLogarithms(src, dst, len, scaleFactor);
+    return shiftedLogarithms(src, dst, len, scaleFactor);
 }
-void tarn::logarithms(const Tarn32s* src, Tarn16s* dst, int len, int scaleFactor)
+int tarn::logarithms(const Tarn32s* src, Tarn16s* dst, int len, int scaleFactor)
 {
-    shiftedLogarithms(src, dst, len, scaleFactor);
+    return shiftedLogarithms(src, dst, len, scaleFactor);
 }
 
-void tarn::logarithms(const Tarn16s* src, Tarn16s* dst, int len, int scaleFactor)
+int tarn::logarithms(const Tarn16s* src, Tarn16s* dst, int len, int scaleFactor)
 {
     constexpr int lastDivided = 4;
     constexpr int firstMultiplied = -13;
     if (scaleFactor == 0) {
-        walkTree(src, dst, len, [](Tarn32s x) { return roundedLogarithm(x); });
-    } else if (scaleFactor > lastDivided) {
-        walkTree(src, dst, len, [](Tarn32s) { return 0; });
-    } else if (scaleFactor > 0) {
-        const DecisionTree& tree = dividedLogarithms[scaleFactor - 1];
-        walkTree(src, dst, len, [&tree](Tarn32s x) { return tree(x); });
-    } else if (scaleFactor == -1) {
-        walkTree(src, dst, len, DoubledLogarithm{});
-    } else if (scaleFactor >= firstMultiplied) {
-        const StandardArithmetic guard;
-        walkTree(src, dst, len, MultipliedLogarithm{twoToMinus<Tarn64f>(scaleFactor)});
-    } else if (scaleFactor == firstMultiplied - 1) {
-        walkTree(src, dst, len, LogarithmTimes2To14{});
-    } else if (scaleFactor == firstMultiplied - 2) {
-        walkTree(src, dst, len, LogarithmTimes2To15{});
-    } else {
-        walkTree(src, dst, len, [](Tarn32s x) { return x < 2 ? 0 : 32767; });
+        return walkTree(src, dst, len, [](Tarn32s x) { return roundedLogarithm(x); });
     }
+    if (scaleFactor > lastDivided) {
+        return walkTree(src, dst, len, [](Tarn32s) { return 0; });
+    }
+    if (scaleFactor > 0) {
+        const auto& tree = dividedLogarithms[scaleFactor - 1];
+        return walkTree(src, dst, len, [&tree](Tarn32s x) { return tree(x); });
+    }
+    if (scaleFactor == -1) {
+        return walkTree(src, dst, len, DoubledLogarithm{});
+    }
+    if (scaleFactor >= firstMultiplied) {
+        const int met = firstWarning(src, len);
+        const StandardArithmetic guard;
+        walk(dst, len, MultipliedLogarithm{twoToMinus<Tarn64f>(scaleFactor)}, src);
+        return met;
+    }
+    if (scaleFactor == firstMultiplied - 1) {
+        return walkTree(src, dst, len, LogarithmTimes2To14{});
+    }
+    if (scaleFactor == firstMultiplied - 2) {
+        return walkTree(src, dst, len, LogarithmTimes2To15{});
+    }
+    return walkTree(src, dst, len, [](Tarn32s x) { return x < 2 ? 0 : 32767; });
 }
 
-void tarn::decibels(const Tarn32s* src, Tarn32s* dst, int len, int scaleFactor)
+int tarn::decibels(const Tarn32s* src, Tarn32s* dst, int len, int scaleFactor)
 {
+    const int shift = std::min(scaleFactor, 31);
+    int met = 0;
     walkElements(
         dst, 0, len,
-        [scaleFactor](Tarn32s x, Tarn32s old) {
-            const Tarn32s result =
-                x >= std::ssize(decibelsBelow15) ? decibelsFrom15(x) : decibelsBelow15[std::max(x, 0)];
-            return result == noBracket ? old : ShiftRight::of(result, scaleFactor);
+        [shift, &met](Tarn32s x, Tarn32s old) {
+            if (x < 1) [[unlikely]] {
+                met = met == 0 ? warningOf(x) : met;
+                return 0;
+            }
+            const Tarn32s result = x < std::ssize(decibelsBelow15) ? decibelsBelow15[x] : decibelsFrom15(x);
+            return result == noBracket ? old : result >> shift;
         },
         src, static_cast<const Tarn32s*>(dst));
+    return met;
 }
