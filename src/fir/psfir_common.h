@@ -19,7 +19,7 @@ inline bool isSingleRate(const State* state)
 template <typename... P>
 inline TarnStatus checkTaps(int tapsLen, const P*... pointers)
 {
-    if (((pointers == nullptr) || ...)) {
+    if ((!pointers || ...)) {
         return tarnStsNullPtrErr;
     }
     return tapsLen < 1 ? tarnStsFIRLenErr : tarnStsNoErr;
