@@ -1,12 +1,10 @@
 // Phases of the generators: their range, and where a call leaves the phase for the next one.
 #pragma once
 
+#include "frame/constants.h"
 #include "frame/simd_round.h"
 
 namespace tarn {
-
-inline constexpr double pi = 3.14159265358979323846;
-inline constexpr double twoPi = 6.283185307179586;
 
 // False for a NaN.
 constexpr bool isPhase(double x) { return x >= 0 && x < twoPi; }

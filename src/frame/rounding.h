@@ -44,6 +44,13 @@ public:
     }
 };
 
+// A caller who has floating-point exceptions trapped means his own arithmetic: where divisions by zero are among the
+// results, say, no trap is sprung. No flag is left behind either.
+class MaskedExceptions : KeptControl {
+public:
+    MaskedExceptions() { writeMxcsr(saved | mxcsrExceptionMasks); }
+};
+
 using NearestRounding = RoundingGuard<0>;
 using NearestRoundingOfDenormals = RoundingGuard<mxcsrDenormalsAreZero>;
 

@@ -37,6 +37,7 @@ inline void writeX87Control(unsigned value)
 
 // Fields of the words.
 inline constexpr unsigned mxcsrRoundingField = 0x6000;
+inline constexpr unsigned mxcsrExceptionMasks = 0x1F80;
 inline constexpr unsigned mxcsrDenormalsAreZero = 0x0040;
 inline constexpr unsigned mxcsrMasks = 0x1f80;                        // of all exceptions
 inline constexpr unsigned mxcsrControls = 0xffc0;                     // all but the sticky flags

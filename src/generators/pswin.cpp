@@ -2,6 +2,7 @@
 #include "tarns/windows.h"
 
 #include "frame/checks.h"
+#include "frame/constants.h"
 #include "frame/precise.h"
 #include "frame/simd.h"
 #include "levels/generators/pswin.h"
@@ -11,8 +12,6 @@
 using namespace tarn;
 
 namespace {
-
-constexpr double pi = 3.14159265358979323846;
 
 constexpr int shortestWindow = 3;
 

@@ -1,5 +1,6 @@
 // All of the vocabulary, and all that is built on it in the frame, in one unit: no word has two meanings.
 #include "frame/backwards.h"
+#include "frame/constants.h"
 #include "frame/factor.h"
 #include "frame/flags.h"
 #include "frame/kernels.h"

@@ -7,16 +7,6 @@ namespace {
 
 using namespace tarn;
 
-// A caller who has floating-point exceptions trapped means his own arithmetic: divisions by zero are among the results
-// here. No flag is left behind either.
-class MaskedExceptions : KeptControl {
-public:
-    MaskedExceptions() { writeMxcsr(saved | allMasks); }
-
-private:
-    static constexpr unsigned allMasks = 0x1F80;
-};
-
 // x with its magnitude brought up to the level; a NaN counts as below it.
 template <typename X>
 TARN_INLINE X raised(X x, Element<X> level)

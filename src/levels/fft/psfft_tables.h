@@ -2,13 +2,13 @@
 // the symmetry of the circle holds to the bit.
 #pragma once
 
+#include "frame/constants.h"
 #include "frame/object.h"
 #include "frame/trigonometry.h"
 #include "frame/walk.h"
 #include "levels/fft/psfft_butterflies.h"
 
 #include <algorithm>
-#include <numbers>
 
 namespace tarn::fft {
 
@@ -54,7 +54,7 @@ inline Owned<T[]> baseTable(int order)
     const int size = 1 << order;
     Owned<T[]> table = allocate<T>(size / 4 + 1);
     if (table) {
-        const Tarn64f step = 2 * std::numbers::pi / size;
+        const Tarn64f step = 2 * pi / size;
         // A sine near a right angle is the cosine of a small angle.
         const int quarter = size / 4;
         fillRun<true>(table.get(), 0, size / 8, [=](int j) { return j * step; });
