@@ -10,6 +10,11 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
 endif()
 add_compile_options(${TARNS_LEVEL_FLAGS})
 
+# Tests include the frame, and see the library's width.
+if(NOT TARNS_VECTOR_REGISTERS EQUAL 1)
+    add_compile_definitions(TARNS_VECTOR_REGISTERS=${TARNS_VECTOR_REGISTERS})
+endif()
+
 if(TARNS_SANITIZE)
     add_compile_options(-fsanitize=${TARNS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${TARNS_SANITIZE})

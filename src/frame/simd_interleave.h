@@ -18,7 +18,9 @@ struct Zip {
     template <typename T>
     static TARN_INLINE Register<T> low(Register<T> a, Register<T> b)
     {
-        if constexpr (isSingle<T>) {
+        if constexpr (registerLanes<T> == 1) {
+            return a;
+        } else if constexpr (isSingle<T>) {
             return {_mm_unpacklo_ps(a.v, b.v)};
         } else if constexpr (isDouble<T>) {
             return {_mm_unpacklo_pd(a.v, b.v)};
@@ -32,7 +34,9 @@ struct Zip {
     template <typename T>
     static TARN_INLINE Register<T> high(Register<T> a, Register<T> b)
     {
-        if constexpr (isSingle<T>) {
+        if constexpr (registerLanes<T> == 1) {
+            return b;
+        } else if constexpr (isSingle<T>) {
             return {_mm_unpackhi_ps(a.v, b.v)};
         } else if constexpr (isDouble<T>) {
             return {_mm_unpackhi_pd(a.v, b.v)};
@@ -78,7 +82,9 @@ struct EvenElements {
     template <typename T>
     static TARN_INLINE Register<T> of(Pack<T, 2 * registerLanes<T>> x)
     {
-        if constexpr (std::is_same_v<T, Tarn32f>) {
+        if constexpr (registerLanes<T> == 1) {
+            return x.lo;
+        } else if constexpr (std::is_same_v<T, Tarn32f>) {
             return {_mm_shuffle_ps(x.lo.v, x.hi.v, 0x88)};
         } else if constexpr (std::is_same_v<T, Tarn64f>) {
             return {_mm_unpacklo_pd(x.lo.v, x.hi.v)};
@@ -95,7 +101,9 @@ struct OddElements {
     template <typename T>
     static TARN_INLINE Register<T> of(Pack<T, 2 * registerLanes<T>> x)
     {
-        if constexpr (std::is_same_v<T, Tarn32f>) {
+        if constexpr (registerLanes<T> == 1) {
+            return x.hi;
+        } else if constexpr (std::is_same_v<T, Tarn32f>) {
             return {_mm_shuffle_ps(x.lo.v, x.hi.v, 0xDD)};
         } else {
             static_assert(std::is_same_v<T, Tarn64f>);
@@ -109,12 +117,12 @@ inline constexpr Word<OddElements> oddElements;
 template <typename T, int N>
 TARN_INLINE Pack<T, 2 * N> spreadEven(Pack<T, N> x)
 {
-    return zip(x, splat<Pack<T, N>>(T{0}));
+    return zip(x, splat<Pack<T, N>>(T{}));
 }
 template <typename T, int N>
 TARN_INLINE Pack<T, 2 * N> spreadOdd(Pack<T, N> x)
 {
-    return zip(splat<Pack<T, N>>(T{0}), x);
+    return zip(splat<Pack<T, N>>(T{}), x);
 }
 
 // The lower halves of two packs, and the upper halves.

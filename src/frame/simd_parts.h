@@ -109,6 +109,8 @@ TARN_INLINE auto elementMask(Pack<Tarn64f, N> mask)
 {
     if constexpr (!isPack<X>) {
         return anyOf(mask);
+    } else if constexpr (sizeof(Element<X>) == 2 * sizeof(Tarn64f)) {
+        return inBothParts<Pack<Tarn64f, 2 * X::size>>(mask);
     } else {
         return mask;
     }

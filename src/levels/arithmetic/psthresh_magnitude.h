@@ -42,6 +42,8 @@ TARN_INLINE auto measure(X z)
     using S = std::remove_const_t<decltype(squares)>;
     if constexpr (std::is_same_v<D, S>) {
         return Measured<D, S>{moved, factor, squares};
+    } else if constexpr (std::is_same_v<T, Tarn64fc>) {
+        return Measured<D, S>{moved, evenElements(factor), squares};
     } else {
         return Measured<D, S>{moved, splat<S>(1), squares};
     }

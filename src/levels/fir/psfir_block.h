@@ -165,7 +165,7 @@ inline constexpr int convertedTaps = 64 * tapsOfPass;
 template <typename T, typename S>
 void filterConverted(const Part<T>* table, const S* src, T* dst, int len, int tapsLen)
 {
-    alignas(vectorBytes) T samples[convertedOutputs + convertedTaps - 1];
+    T samples[convertedOutputs + convertedTaps - 1];
     for (std::ptrdiff_t i = 0; i < len; i += convertedOutputs) {
         const int outputs = static_cast<int>(std::min<std::ptrdiff_t>(convertedOutputs, len - i));
         for (int j = 0; j < tapsLen; j += convertedTaps) {

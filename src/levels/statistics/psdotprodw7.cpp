@@ -111,6 +111,10 @@ struct TakeComplex {
 
 // -- The sums --------------------------------------------------------------------------------------------------------
 
+// One step is 16 bytes of the narrower elements.
+template <typename A, typename B>
+constexpr int stepOf = reducedBytes / static_cast<int>(std::min(sizeof(A), sizeof(B)));
+
 // Registers of accumulators, as many as hide the latency of an addition and leave room for operands.
 constexpr int accumulatorRegisters = 4;
 
@@ -139,7 +143,7 @@ TARN_INLINE State sumPacks(State none, Index& i, int len, Take take, const A* a,
 template <typename F, typename A, typename B>
 TARN_INLINE F dotReal(const A* a, const B* b, int len)
 {
-    constexpr int step = stepSize<A, B>;
+    constexpr int step = stepOf<A, B>;
     Index i = 0;
     const auto sums = sumPacks<step>(splat<Pack<F, step>>(0), i, len, TakeReal<F>{}, a, b);
     F sum = foldLanes(inOneRegister(sums), add);
@@ -150,7 +154,7 @@ TARN_INLINE F dotReal(const A* a, const B* b, int len)
 template <typename F, typename A, typename B>
 TARN_INLINE ComplexOf<F> dotMixed(const A* a, const B* b, int len)
 {
-    constexpr int step = stepSize<A, B>;
+    constexpr int step = stepOf<A, B>;
     Index i = 0;
     const auto sums = sumPacks<step>(splat<Pack<F, 2 * step>>(0), i, len, TakeMixed<F>{}, a, b);
     const auto parts = foldTo<2>(inOneRegister(sums), add);
@@ -168,7 +172,7 @@ TARN_INLINE ComplexOf<F> dotMixed(const A* a, const B* b, int len)
 template <typename F, typename A, typename B>
 TARN_INLINE ComplexOf<F> dotComplex(const A* a, const B* b, int len)
 {
-    constexpr int step = stepSize<A, B>;
+    constexpr int step = stepOf<A, B>;
     using State = Pack<F, 2 * step>;
     Index i = 0;
     const Halves<State> none{splat<State>(0), splat<State>(0)};
