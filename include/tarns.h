@@ -7,6 +7,7 @@
 #include "tarns/convert.h"
 #include "tarns/cplx.h"
 #include "tarns/data.h"
+#include "tarns/divide.h"
 #include "tarns/exponential.h"
 #include "tarns/fft.h"
 #include "tarns/fir.h"
