@@ -83,6 +83,15 @@ inline constexpr Tarn64f cosineCoefficients<Tarn64f>[] = { // within 2^-64.2
     0x1.1ee9f18d291d7p-29, -0x1.8fb149d79874cp-37,
 };
 
+// cbrt(m), 1 <= m <= 8: where Newton's steps begin.
+template <typename T>
+inline constexpr T cubeRootCoefficients[1] = {};
+template <>
+inline constexpr Tarn32f cubeRootCoefficients<Tarn32f>[] = { // within 2^-9.1
+    0x1.413196p-1F, 0x1.cbebap-2F, -0x1.570bdcp-4F, 0x1.39e924p-7F,
+    -0x1.c4d93cp-12F,
+};
+
 // ln 2: the product of the first part and an exponent is exact.
 template <typename T>
 inline constexpr T logOfTwo[1] = {};
