@@ -1,4 +1,4 @@
-/* Generators of test signals: tones and triangle waves. */
+/* Generators of test signals: tones, triangle waves, ramps, chirps and random numbers. */
 #ifndef TARNS_GENERATORS_H
 #define TARNS_GENERATORS_H
 
@@ -199,6 +199,227 @@ TARN_API TarnStatus tarnsTriangleQ15_16s(Tarn16s* pDst, int len, TarnsTriangleSt
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsContextMatchErr for an object that is no triangle
             wave */
 TARN_API TarnStatus tarnsTriangleFree(TarnsTriangleState_16s* pState);
+/** @} */
+
+/** @defgroup ramps Ramps and chirps
+    @{ */
+
+/** Writes a straight line: pDst[n] = offset + slope n, each element from its own index, so that no error accumulates.
+
+    The line is computed in single precision, so that from 2^24 elements on the index itself is rounded. Integers are
+    rounded to nearest, halves away from zero, and saturate; elements without a sign are 0 wherever the line is not
+    above 0. What a NaN becomes is 0 in 8 and 16 bits, the lowest value in `32s`, 2147483648 in `32u`.
+
+    `64f` elements are computed in double precision in whole groups of eight from a 16-byte boundary on, if there are at
+    least 9 of them and they lie at multiples of 8 bytes. What lies before and behind these groups, and any other array,
+    is computed in single precision: neighbours may differ by the error of that.
+
+    @param pDst   destination, `len` elements
+    @param len    number of elements, at least 1
+    @param offset first value
+    @param slope  what is added from element to element
+    @return the first that applies of: tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1;
+            tarnStsNoErr */
+///@{
+TARN_API TarnStatus tarnsVectorRamp_8u(Tarn8u* pDst, int len, Tarn32f offset, Tarn32f slope);
+TARN_API TarnStatus tarnsVectorRamp_8s(Tarn8s* pDst, int len, Tarn32f offset, Tarn32f slope);
+TARN_API TarnStatus tarnsVectorRamp_16u(Tarn16u* pDst, int len, Tarn32f offset, Tarn32f slope);
+TARN_API TarnStatus tarnsVectorRamp_16s(Tarn16s* pDst, int len, Tarn32f offset, Tarn32f slope);
+TARN_API TarnStatus tarnsVectorRamp_32u(Tarn32u* pDst, int len, Tarn32f offset, Tarn32f slope);
+TARN_API TarnStatus tarnsVectorRamp_32s(Tarn32s* pDst, int len, Tarn32f offset, Tarn32f slope);
+TARN_API TarnStatus tarnsVectorRamp_32f(Tarn32f* pDst, int len, Tarn32f offset, Tarn32f slope);
+TARN_API TarnStatus tarnsVectorRamp_64f(Tarn64f* pDst, int len, Tarn32f offset, Tarn32f slope);
+///@}
+
+/** Writes the Jaehne signal: pDst[n] = magn sin(pi n^2 / (2 len)), a chirp whose frequency rises evenly from 0 to half
+    the sampling rate. One element alone is 0.
+
+    Integers with a sign are rounded half away from zero. Integers without one have no room for the negative half: the
+    signal is moved and stretched so that its extremes become exactly 0 and `magn`, and rounded; this takes work memory
+    of 8 bytes an element.
+
+    Floats from a 16-byte boundary on are computed in groups of 16 bytes, `32f` with phases in single precision: their
+    error grows with the phase, to some len 2^-24 of the amplitude at the end of the array. Elements before and behind
+    the groups, arrays of fewer than 7 elements (3 of `64f`) and arrays at odd addresses are computed in double
+   precision and rounded once.
+
+    @param pDst destination, `len` elements
+    @param len  number of elements, at least 1
+    @param magn amplitude, at least 0
+    @return the first that applies of: tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1;
+            tarnStsMagnitudeErr for a `magn` that is negative or NaN, of elements with a sign; tarnStsNoMemErr if
+            there is no memory, of elements without one; tarnStsNoErr */
+///@{
+TARN_API TarnStatus tarnsVectorJaehne_8u(Tarn8u* pDst, int len, Tarn8u magn);
+TARN_API TarnStatus tarnsVectorJaehne_8s(Tarn8s* pDst, int len, Tarn8s magn);
+TARN_API TarnStatus tarnsVectorJaehne_16u(Tarn16u* pDst, int len, Tarn16u magn);
+TARN_API TarnStatus tarnsVectorJaehne_16s(Tarn16s* pDst, int len, Tarn16s magn);
+TARN_API TarnStatus tarnsVectorJaehne_32u(Tarn32u* pDst, int len, Tarn32u magn);
+TARN_API TarnStatus tarnsVectorJaehne_32s(Tarn32s* pDst, int len, Tarn32s magn);
+TARN_API TarnStatus tarnsVectorJaehne_32f(Tarn32f* pDst, int len, Tarn32f magn);
+TARN_API TarnStatus tarnsVectorJaehne_64f(Tarn64f* pDst, int len, Tarn64f magn);
+///@}
+/** @} */
+
+/** @defgroup random Random numbers
+    One generator serves them all: the sum of a linear congruential sequence, x' = 69069 x + 1013904243, and a
+    subtract-with-borrow sequence to the modulus 2^32 - 18 (Marsaglia and Zaman, 1991), both of 32 bits.
+    @{ */
+
+/** Writes uniformly distributed numbers: pDst[n] = draw span + mid in double precision, draws being signed 32-bit
+    integers, mid = (low + high) / 2 and span = (high - low) 2^-32. The numbers lie in [low, high); a `high` below `low`
+    is accepted, and acts through the formula.
+
+    `16s` numbers are rounded in the current rounding mode, so that `high` itself may come out; the bounds have half the
+    weight of the numbers between them. `64f` numbers have the 32 random bits of one draw.
+
+    Every call starts the generator from the seed, and leaves one of its words as the seed of the next call. So calls
+   one after the other do not give the numbers of one long call: objects (tarnsRandUniformInitAlloc_32f() and kin) do.
+
+    @param pDst  destination, `len` elements
+    @param len   number of elements, at least 1
+    @param low   lower bound
+    @param high  upper bound
+    @param pSeed the seed; becomes another one for the next call
+    @return the first that applies of: tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1;
+            tarnStsNoErr */
+///@{
+TARN_API TarnStatus tarnsRandUniform_Direct_16s(Tarn16s* pDst, int len, Tarn16s low, Tarn16s high, unsigned int* pSeed);
+TARN_API TarnStatus tarnsRandUniform_Direct_32f(Tarn32f* pDst, int len, Tarn32f low, Tarn32f high, unsigned int* pSeed);
+TARN_API TarnStatus tarnsRandUniform_Direct_64f(Tarn64f* pDst, int len, Tarn64f low, Tarn64f high, unsigned int* pSeed);
+///@}
+
+/** Writes normally distributed numbers of a mean and a standard deviation, by Marsaglia's polar method: pairs of draws
+    are taken as a point (u1, u2) of the unit square until it lies in the circle, and stdDev sqrt(-2 ln(s) / s) u2 and
+    the same of u1, with s = u1^2 + u2^2, are two independent numbers around 0. No number lies further from the mean
+   than some 9 deviations.
+
+    `16s` numbers are truncated towards zero and saturate; the mean of `32f` numbers is added in single precision. A
+    negative deviation is accepted, and mirrors the numbers.
+
+    Every call starts the generator from the seed, and leaves one of its words as the seed of the next call; the second
+    number of a pair that an odd `len` leaves over is lost.
+
+    @param pDst   destination, `len` elements
+    @param len    number of elements, at least 1
+    @param mean   mean
+    @param stdDev standard deviation
+    @param pSeed  the seed; becomes another one for the next call
+    @return the first that applies of: tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1;
+            tarnStsNoErr */
+///@{
+TARN_API TarnStatus tarnsRandGauss_Direct_16s(Tarn16s* pDst, int len, Tarn16s mean, Tarn16s stdDev,
+                                              unsigned int* pSeed);
+TARN_API TarnStatus tarnsRandGauss_Direct_32f(Tarn32f* pDst, int len, Tarn32f mean, Tarn32f stdDev,
+                                              unsigned int* pSeed);
+TARN_API TarnStatus tarnsRandGauss_Direct_64f(Tarn64f* pDst, int len, Tarn64f mean, Tarn64f stdDev,
+                                              unsigned int* pSeed);
+///@}
+
+/** Random generators that go on from call to call. Each belongs to one caller at a time. */
+///@{
+typedef struct TarnsRandUniformState_8u TarnsRandUniformState_8u;
+typedef struct TarnsRandUniformState_16s TarnsRandUniformState_16s;
+typedef struct TarnsRandUniformState_32f TarnsRandUniformState_32f;
+typedef struct TarnsRandGaussState_8u TarnsRandGaussState_8u;
+typedef struct TarnsRandGaussState_16s TarnsRandGaussState_16s;
+typedef struct TarnsRandGaussState_32f TarnsRandGaussState_32f;
+///@}
+
+/** Create a generator of uniformly distributed numbers: in a block of the library's own, to be released by
+    tarnsRandUniformFree_8u() and kin, or in the caller's memory, of the size that tarnsRandUniformGetSize_16s() tells
+    and at any address.
+
+    @param ppState where the address of the new object goes; not touched on error
+    @param pState  memory that becomes the object
+    @param low     lower bound
+    @param high    upper bound
+    @param seed    where the generator begins; any value
+    @return the first that applies of: tarnStsNullPtrErr for a null pointer; tarnStsNoMemErr if there is no memory;
+            tarnStsNoErr */
+///@{
+TARN_API TarnStatus tarnsRandUniformInitAlloc_8u(TarnsRandUniformState_8u** ppState, Tarn8u low, Tarn8u high,
+                                                 unsigned int seed);
+TARN_API TarnStatus tarnsRandUniformInitAlloc_16s(TarnsRandUniformState_16s** ppState, Tarn16s low, Tarn16s high,
+                                                  unsigned int seed);
+TARN_API TarnStatus tarnsRandUniformInitAlloc_32f(TarnsRandUniformState_32f** ppState, Tarn32f low, Tarn32f high,
+                                                  unsigned int seed);
+TARN_API TarnStatus tarnsRandUniformInit_16s(TarnsRandUniformState_16s* pState, Tarn16s low, Tarn16s high,
+                                             unsigned int seed);
+///@}
+
+/** Create a generator of normally distributed numbers: in a block of the library's own, to be released by
+    tarnsRandGaussFree_8u() and kin, or in the caller's memory, of the size that tarnsRandGaussGetSize_16s() tells and
+    at any address.
+
+    @param ppState where the address of the new object goes; not touched on error
+    @param pState  memory that becomes the object
+    @param mean    mean
+    @param stdDev  standard deviation
+    @param seed    where the generator begins; any value
+    @return the first that applies of: tarnStsNullPtrErr for a null pointer; tarnStsNoMemErr if there is no memory;
+            tarnStsNoErr */
+///@{
+TARN_API TarnStatus tarnsRandGaussInitAlloc_8u(TarnsRandGaussState_8u** ppState, Tarn8u mean, Tarn8u stdDev,
+                                               unsigned int seed);
+TARN_API TarnStatus tarnsRandGaussInitAlloc_16s(TarnsRandGaussState_16s** ppState, Tarn16s mean, Tarn16s stdDev,
+                                                unsigned int seed);
+TARN_API TarnStatus tarnsRandGaussInitAlloc_32f(TarnsRandGaussState_32f** ppState, Tarn32f mean, Tarn32f stdDev,
+                                                unsigned int seed);
+TARN_API TarnStatus tarnsRandGaussInit_16s(TarnsRandGaussState_16s* pState, Tarn16s mean, Tarn16s stdDev,
+                                           unsigned int seed);
+///@}
+
+/** Tell how much memory a generator takes.
+
+    @param pSize where the number of bytes goes
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer */
+///@{
+TARN_API TarnStatus tarnsRandUniformGetSize_16s(int* pSize);
+TARN_API TarnStatus tarnsRandGaussGetSize_16s(int* pSize);
+///@}
+
+/** Writes the next uniformly distributed numbers, as tarnsRandUniform_Direct_32f() makes them, but that integers are
+    truncated towards zero: two calls give the numbers of one call of their joint length.
+
+    @param pDst   destination, `len` elements
+    @param len    number of elements, at least 1
+    @param pState the generator
+    @return the first that applies of: tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1;
+            tarnStsContextMatchErr for an object that is no such generator; tarnStsNoErr */
+///@{
+TARN_API TarnStatus tarnsRandUniform_8u(Tarn8u* pDst, int len, TarnsRandUniformState_8u* pState);
+TARN_API TarnStatus tarnsRandUniform_16s(Tarn16s* pDst, int len, TarnsRandUniformState_16s* pState);
+TARN_API TarnStatus tarnsRandUniform_32f(Tarn32f* pDst, int len, TarnsRandUniformState_32f* pState);
+///@}
+
+/** Writes the next normally distributed numbers, as tarnsRandGauss_Direct_32f() makes them; the second number of a pair
+    waits for the next call, so that two calls give the numbers of one call of their joint length.
+
+    @param pDst   destination, `len` elements
+    @param len    number of elements, at least 1
+    @param pState the generator
+    @return the first that applies of: tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1;
+            tarnStsContextMatchErr for an object that is no such generator; tarnStsNoErr */
+///@{
+TARN_API TarnStatus tarnsRandGauss_8u(Tarn8u* pDst, int len, TarnsRandGaussState_8u* pState);
+TARN_API TarnStatus tarnsRandGauss_16s(Tarn16s* pDst, int len, TarnsRandGaussState_16s* pState);
+TARN_API TarnStatus tarnsRandGauss_32f(Tarn32f* pDst, int len, TarnsRandGaussState_32f* pState);
+///@}
+
+/** Releases a generator of the library's own; one in the caller's memory needs no release, and must not be given here.
+
+    @param pState the generator
+    @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsContextMatchErr for an object that is no such
+            generator */
+///@{
+TARN_API TarnStatus tarnsRandUniformFree_8u(TarnsRandUniformState_8u* pState);
+TARN_API TarnStatus tarnsRandUniformFree_16s(TarnsRandUniformState_16s* pState);
+TARN_API TarnStatus tarnsRandUniformFree_32f(TarnsRandUniformState_32f* pState);
+TARN_API TarnStatus tarnsRandGaussFree_8u(TarnsRandGaussState_8u* pState);
+TARN_API TarnStatus tarnsRandGaussFree_16s(TarnsRandGaussState_16s* pState);
+TARN_API TarnStatus tarnsRandGaussFree_32f(TarnsRandGaussState_32f* pState);
+///@}
 /** @} */
 
 #ifdef __cplusplus
