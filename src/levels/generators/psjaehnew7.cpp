@@ -4,7 +4,7 @@
 #include "frame/counting.h"
 #include "frame/precise.h"
 #include "frame/rounding.h"
-#include "frame/simd_mul.h"
+#include "frame/simd_angle.h"
 #include "levels/statistics/psminmax.h"
 
 namespace tarn {
@@ -12,6 +12,9 @@ namespace tarn {
 namespace {
 
 constexpr double halfOfPi = 1.5707963267948966;
+
+// Up to here sines of single-precision phases need no doubles.
+constexpr double nearPhase = 2900;
 
 // The phase k n^2 in double precision, and the sample, one at a time.
 struct Chirp {
@@ -41,29 +44,26 @@ struct ChirpGroups {
     T k;
     T magn;
 
-    TARN_INLINE X operator()(int n) const
+    TARN_INLINE X phases(int n) const
     {
-        Tarn32s indices[group];
-        for (int i = 0; i < group; ++i) {
-            indices[i] = n + i;
+        X index;
+        if constexpr (isSingle<T>) {
+            index = convert<Tarn32f>(loadPack<group>(Counting{n}));
+        } else {
+            alignas(16) static constexpr T first[group] = {0, 1};
+            index = add(splat<X>(static_cast<T>(n)), loadPack<group>(first));
         }
-        T places[group];
-        for (int i = 0; i < group; ++i) {
-            places[i] = static_cast<T>(indices[i]);
-        }
-        const X index = loadPack<group>(places);
-        return mul(sines(mul(mul(splat<X>(k), index), index)), splat<X>(magn));
+        return mul(mul(splat<X>(k), index), index);
     }
-
-private:
-    static TARN_INLINE X sines(X x)
+    // Of phases that single precision reduces to a turn without loss, and of others.
+    TARN_INLINE X near(int n) const { return mul(sineAndCosine(phases(n)).sine, splat<X>(magn)); }
+    TARN_INLINE X far(int n) const
     {
-        T values[group];
-        store(values, x);
-        for (T& value : values) {
-            value = static_cast<T>(preciseSine(value));
+        if constexpr (isSingle<T>) {
+            return mul(narrowFloat(sineAndCosine(widenFloat(phases(n))).sine), splat<X>(magn));
+        } else {
+            return near(n);
         }
-        return loadPack<group>(values);
     }
 };
 
@@ -85,8 +85,12 @@ void chirpFloats(T* dst, int len, double magn)
         i = head;
         const StandardArithmetic guard;
         const Groups groups{static_cast<T>(chirp.k), static_cast<T>(magn)};
+        const int nearEnd = std::min(len, static_cast<int>(squareRoot(nearPhase / chirp.k)));
+        for (; i <= nearEnd - Groups::group; i += Groups::group) {
+            store(dst + i, groups.near(i));
+        }
         for (; i <= len - Groups::group; i += Groups::group) {
-            store(dst + i, groups(i));
+            store(dst + i, groups.far(i));
         }
     }
     chirpElements(dst, i, len, chirp, put);
