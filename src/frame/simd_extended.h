@@ -23,4 +23,24 @@ inline Extended naturalLog(Extended x)
     return log;
 }
 
+// e^x for finite x, by the processor's instructions for powers of two.
+inline Extended naturalExponential(Extended x)
+{
+    Extended power;
+    Extended whole;
+    asm("fldl2e\n\t"
+        "fmulp\n\t"
+        "fld %%st(0)\n\t"
+        "frndint\n\t"
+        "fsubr %%st(0), %%st(1)\n\t"
+        "fxch\n\t"
+        "f2xm1\n\t"
+        "fld1\n\t"
+        "faddp\n\t"
+        "fscale"
+        : "=t"(power), "=u"(whole)
+        : "0"(x));
+    return power;
+}
+
 } // namespace tarn
