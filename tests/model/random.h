@@ -79,7 +79,6 @@ public:
             first = rounded(random.draw() * unit);
             s = rounded(rounded(waiting * waiting) + rounded(first * first));
         } while (s >= 1 || s == 0);
-        // The library's logarithm is within 0.501 units of the last place: the nearest double nearly always.
         const double logarithm = rounded(std::log(static_cast<long double>(s)));
         factor = rounded(std::sqrt(rounded(rounded(-2 * logarithm) / s)));
         isWaiting = true;

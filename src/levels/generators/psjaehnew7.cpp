@@ -13,8 +13,9 @@ namespace {
 
 constexpr double halfOfPi = 1.5707963267948966;
 
-// Up to here sines of single-precision phases need no doubles.
-constexpr double nearPhase = 2900;
+// Up to here phases are ordinary angles in their precision.
+template <Float T>
+constexpr double nearPhase = isSingle<T> ? 2900 : 990000;
 
 // The phase k n^2 in double precision, and the sample, one at a time.
 struct Chirp {
@@ -56,13 +57,13 @@ struct ChirpGroups {
         return mul(mul(splat<X>(k), index), index);
     }
     // Of phases that single precision reduces to a turn without loss, and of others.
-    TARN_INLINE X near(int n) const { return mul(sineAndCosine(phases(n)).sine, splat<X>(magn)); }
+    TARN_INLINE X near(int n) const { return mul(CircularMethod::ordinary(phases(n)).sine, splat<X>(magn)); }
     TARN_INLINE X far(int n) const
     {
         if constexpr (isSingle<T>) {
             return mul(narrowFloat(sineAndCosine(widenFloat(phases(n))).sine), splat<X>(magn));
         } else {
-            return near(n);
+            return mul(sineAndCosine(phases(n)).sine, splat<X>(magn));
         }
     }
 };
@@ -85,7 +86,7 @@ void chirpFloats(T* dst, int len, double magn)
         i = head;
         const StandardArithmetic guard;
         const Groups groups{static_cast<T>(chirp.k), static_cast<T>(magn)};
-        const int nearEnd = std::min(len, static_cast<int>(squareRoot(nearPhase / chirp.k)));
+        const int nearEnd = std::min(len, static_cast<int>(squareRoot(nearPhase<T> / chirp.k)));
         for (; i <= nearEnd - Groups::group; i += Groups::group) {
             store(dst + i, groups.near(i));
         }

@@ -81,11 +81,7 @@ struct LineTo {
     template <typename N>
     TARN_INLINE auto operator()(N index) const
     {
-        if constexpr (isSingle<T>) {
-            return line(index);
-        } else {
-            return WholeTo<T>::of(roundedAway(line(index)));
-        }
+        return WholeTo<T>::of(roundedAway(line(index)));
     }
 };
 
@@ -95,6 +91,35 @@ template <typename T>
 void ramp(T* dst, int len, Tarn32f offset, Tarn32f slope)
 {
     walk(dst, len, LineTo<T>{{offset, slope}}, Counting{0});
+}
+
+// Indices that single precision counts exactly go on by an addition; the others are converted one by one.
+template <>
+void ramp(Tarn32f* dst, int len, Tarn32f offset, Tarn32f slope)
+{
+    using X = Vector<Tarn32f>;
+    constexpr int step = lanes<Tarn32f>;
+    constexpr int block = unrolledSteps * step;
+    constexpr int exact = 1 << 24;
+    const auto at = [=](X index) { return add(mul(splat<X>(slope), index), splat<X>(offset)); };
+    const int counted = std::min(len, exact);
+    int i = 0;
+    if (counted >= block) {
+        X index = convert<Tarn32f>(loadPack<step>(Counting{0}));
+        store(dst, at(index));
+        // From a boundary on, over some of these.
+        i = elementsToBoundary(dst);
+        index = add(index, splat<X>(static_cast<Tarn32f>(i)));
+        const auto next = [&](int k) { return at(add(index, splat<X>(static_cast<Tarn32f>(k * step)))); };
+        for (; i <= counted - block; i += block) {
+            store(dst + i, at(index));
+            store(dst + i + step, next(1));
+            store(dst + i + 2 * step, next(2));
+            store(dst + i + 3 * step, next(3));
+            index = add(index, splat<X>(Tarn32f{block}));
+        }
+    }
+    walk(dst + i, len - i, Line{offset, slope}, Counting{i});
 }
 
 // Whole steps from a 16-byte boundary on are formed in double precision; what lies before and behind them, and arrays
@@ -133,6 +158,5 @@ template void ramp<Tarn16u>(Tarn16u*, int, Tarn32f, Tarn32f);
 template void ramp<Tarn16s>(Tarn16s*, int, Tarn32f, Tarn32f);
 template void ramp<Tarn32u>(Tarn32u*, int, Tarn32f, Tarn32f);
 template void ramp<Tarn32s>(Tarn32s*, int, Tarn32f, Tarn32f);
-template void ramp<Tarn32f>(Tarn32f*, int, Tarn32f, Tarn32f);
 
 } // namespace tarn

@@ -1,7 +1,8 @@
 // Kernels of the random generators.
 #include "levels/generators/psrandom.h"
 
-#include "frame/precise.h"
+#include "frame/rounding.h"
+#include "frame/simd_exp.h"
 #include "frame/simd_mul.h"
 #include "frame/simd_reciprocal.h"
 #include "frame/simd_round.h"
@@ -157,22 +158,51 @@ void uniform(T* dst, int len, UniformRange range, RandomSequence& sequence)
 
 namespace {
 
-struct NormalPair {
-    double factor, first, second;
+// sqrt(-2 ln(s) / s)
+struct FactorOfSquare {
+    template <typename X>
+    TARN_INLINE X operator()(X s) const
+    {
+        return squareRoot(tarn::div(mul(splat<X>(-2.0), logarithm(s)), s));
+    }
 };
 
-NormalPair drawPair(RandomSequence& x)
-{
-    const double unit = std::bit_cast<double>(0x3DFFFFFFFFFFFD09ULL);
-    for (;;) {
-        const double u1 = draw(x) * unit;
-        const double u2 = draw(x) * unit;
-        const double s = u1 * u1 + u2 * u2;
-        if (!(s >= 1.0) && s != 0.0) {
-            return {squareRoot(-2.0 * preciseLogarithm(s) / s), u2, u1};
+// Points of the unit circle, and the factor that makes two normal numbers of each. They are made many at a time, so
+// that neither a rejected point nor the latency of a logarithm holds up the next one.
+struct NormalPairs {
+    static constexpr int most = 64;
+
+    struct Point {
+        double first, second;
+    };
+    Point points[most];
+    double factors[most];
+
+    // Exactly as many draws as the pairs take: every round draws as many points as are still missing.
+    void make(int count, RandomSequence& sequence)
+    {
+        double squares[most + 1];
+        Tarn32s draws[2 * most];
+        for (int found = 0; found < count;) {
+            const int missing = count - found;
+            drawMany(draws, 2 * missing, sequence);
+            for (int i = 0; i < missing; ++i) {
+                const double u1 = draws[2 * i] * unit;
+                const double u2 = draws[2 * i + 1] * unit;
+                const double s = u1 * u1 + u2 * u2;
+                points[found] = {u2, u1};
+                squares[found] = s;
+                found += static_cast<int>(s < 1.0) & static_cast<int>(s != 0.0);
+            }
         }
+        const StandardArithmetic guard;
+        const double* const src = squares;
+        walk(factors, count, FactorOfSquare{}, src);
     }
-}
+
+private:
+    static constexpr double unit = 0x1.ffffffffffd09p-32;
+};
 
 template <typename T>
 T normalAs(double deviation, T mean)
@@ -192,7 +222,6 @@ T normalAs(double deviation, T mean)
 template <typename T>
 void normal(T* dst, int len, T mean, T stdDev, RandomSequence& sequence, WaitingNormal& waiting)
 {
-    RandomSequence x = sequence;
     const double width = stdDev;
     int i = 0;
     if (waiting.isNone == 0) {
@@ -200,18 +229,23 @@ void normal(T* dst, int len, T mean, T stdDev, RandomSequence& sequence, Waiting
         waiting.isNone = 1;
         i = 1;
     }
-    for (; i < len - 1; i += 2) {
-        const NormalPair pair = drawPair(x);
-        const double scale = width * pair.factor;
-        store(dst + i, normalAs<T>(scale * pair.first, mean));
-        store(dst + i + 1, normalAs<T>(scale * pair.second, mean));
+    NormalPairs pairs;
+    while (i < len) {
+        const int left = len - i;
+        const int count = std::min(left / 2 + left % 2, NormalPairs::most);
+        pairs.make(count, sequence);
+        for (int k = 0; k < count; ++k, i += 2) {
+            const auto [first, second] = pairs.points[k];
+            const double scale = width * pairs.factors[k];
+            store(dst + i, normalAs<T>(scale * first, mean));
+            if (i + 1 < len) {
+                store(dst + i + 1, normalAs<T>(scale * second, mean));
+            } else {
+                waiting = {0, pairs.factors[k], second};
+                return;
+            }
+        }
     }
-    if (i < len) {
-        const NormalPair pair = drawPair(x);
-        store(dst + i, normalAs<T>(width * pair.factor * pair.first, mean));
-        waiting = {0, pair.factor, pair.second};
-    }
-    sequence = x;
 }
 
 #define TARN_INSTANTIATE_UNIFORM(T, MODE) \
