@@ -61,7 +61,7 @@ struct ChirpGroups {
     TARN_INLINE X far(int n) const
     {
         if constexpr (isSingle<T>) {
-            return mul(narrowFloat(sineAndCosine(widenFloat(phases(n))).sine), splat<X>(magn));
+            return mul(narrowFloat(sineAndCosine(widen(phases(n))).sine), splat<X>(magn));
         } else {
             return mul(sineAndCosine(phases(n)).sine, splat<X>(magn));
         }
@@ -104,9 +104,9 @@ T truncatedTo(double x)
     if constexpr (std::is_same_v<T, Tarn32u>) {
         constexpr double half = 0x1p31;
         const bool isUpper = x >= half;
-        return static_cast<Tarn32u>(truncateDouble(isUpper ? x - half : x)) + (isUpper ? 0x80000000U : 0U);
+        return static_cast<Tarn32u>(truncateToInteger(isUpper ? x - half : x)) + (isUpper ? 0x80000000U : 0U);
     } else {
-        return static_cast<T>(truncateDouble(x));
+        return static_cast<T>(truncateToInteger(x));
     }
 }
 

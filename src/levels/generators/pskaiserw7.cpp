@@ -8,8 +8,6 @@
 #include "frame/mirror.h"
 #include "frame/precise.h"
 #include "frame/simd_approx.h"
-#include "frame/simd_extended.h"
-#include "frame/simd_reciprocal.h"
 
 #include <array>
 #include <cmath>
@@ -17,6 +15,10 @@
 namespace tarn {
 
 namespace {
+
+// The weights that are made at once: what fills no such group is weighted in extended precision.
+template <Float T>
+using Lanes = Pack<T, 16 / static_cast<int>(sizeof(T))>;
 
 // -- Coefficients, the constant first ---------------------------------------------------------------------------------
 
@@ -69,23 +71,23 @@ X evaluate(X x, const C (&coefficients)[count])
 // -- Weights ----------------------------------------------------------------------------------------------------------
 
 // 1 / x: the estimate and one Newton step.
-TARN_INLINE Vector<Tarn32f> refinedReciprocal(Vector<Tarn32f> x)
+TARN_INLINE Lanes<Tarn32f> refinedReciprocal(Lanes<Tarn32f> x)
 {
     const auto e = approxReciprocal(x);
-    return mul(e, sub(splat<Vector<Tarn32f>>(2), mul(x, e)));
+    return mul(e, sub(splat<Lanes<Tarn32f>>(2), mul(x, e)));
 }
 
 // 1 / sqrt(x) likewise.
-TARN_INLINE Vector<Tarn32f> refinedReciprocalRoot(Vector<Tarn32f> x)
+TARN_INLINE Lanes<Tarn32f> refinedReciprocalRoot(Lanes<Tarn32f> x)
 {
     const auto e = approxReciprocalRoot(x);
-    return mul(mul(splat<Vector<Tarn32f>>(0.5F), e), sub(splat<Vector<Tarn32f>>(3), mul(x, mul(e, e))));
+    return mul(mul(splat<Lanes<Tarn32f>>(0.5F), e), sub(splat<Lanes<Tarn32f>>(3), mul(x, mul(e, e))));
 }
 
 // e^x for x up to 38: 2^k times a quotient of polynomials of what is left.
-TARN_INLINE Vector<Tarn32f> exponentialOf(Vector<Tarn32f> x)
+TARN_INLINE Lanes<Tarn32f> exponentialOf(Lanes<Tarn32f> x)
 {
-    using X = Vector<Tarn32f>;
+    using X = Lanes<Tarn32f>;
     const X spaced = add(mul(x, splat<X>(1.4426950216293335F)), splat<X>(12582912.0F));
     const X k = sub(spaced, splat<X>(12582912.0F));
     const X z = add(add(x, mul(k, splat<X>(-0.693359375F))), mul(k, splat<X>(0.00021219444170128554F)));
@@ -97,18 +99,18 @@ TARN_INLINE Vector<Tarn32f> exponentialOf(Vector<Tarn32f> x)
     return floatOf<X>(add(bitsOf(quotient), shiftLeft(bitsOf(spaced), 23)));
 }
 
-TARN_INLINE Vector<Tarn32f> besselOfLarge(Vector<Tarn32f> r)
+TARN_INLINE Lanes<Tarn32f> besselOfLarge(Lanes<Tarn32f> r)
 {
-    using X = Vector<Tarn32f>;
+    using X = Lanes<Tarn32f>;
     const X divisor = tarn::select(equal(r, splat<X>(0)), splat<X>(1), r);
     const X s = mul(splat<X>(threshold<Tarn32f>), refinedReciprocal(divisor));
     const X grown = mul(exponentialOf(r), refinedReciprocalRoot(divisor));
     return mul(grown, polynomial(s, largeOfKernel<Tarn32f>));
 }
 
-TARN_INLINE Vector<Tarn64f> besselOfLarge(Vector<Tarn64f> r)
+TARN_INLINE Lanes<Tarn64f> besselOfLarge(Lanes<Tarn64f> r)
 {
-    using X = Vector<Tarn64f>;
+    using X = Lanes<Tarn64f>;
     auto values = lanesAsArray(r);
     for (Tarn64f& x : values) {
         x = static_cast<Tarn64f>(naturalExponential(Extended{x}));
@@ -120,9 +122,9 @@ TARN_INLINE Vector<Tarn64f> besselOfLarge(Vector<Tarn64f> r)
 
 // I0 of lanes. The large branch is left out where no lane needs it.
 template <Float T>
-TARN_INLINE Vector<T> besselOf(Vector<T> r)
+TARN_INLINE Lanes<T> besselOf(Lanes<T> r)
 {
-    using X = Vector<T>;
+    using X = Lanes<T>;
     const X t = mul(r, splat<X>(overThreshold<T>));
     const X small = polynomial(mul(t, t), smallOfKernel<T>);
     const auto isSmall = less(r, splat<X>(threshold<T>));
@@ -146,8 +148,8 @@ Extended besselOfOne(Extended r)
 // The weights of the walk from both ends, in lanes of the precision F.
 template <Float F, int parts>
 struct KaiserWeights {
-    static constexpr int group = lanes<F>;
-    using X = Vector<F>;
+    static constexpr int group = Lanes<F>::size;
+    using X = Lanes<F>;
 
     X index;
     int done = 0;

@@ -2,8 +2,6 @@
 #include "levels/generators/psramp.h"
 
 #include "frame/counting.h"
-#include "frame/simd_reciprocal.h"
-#include "frame/simd_round.h"
 
 namespace tarn {
 
@@ -27,7 +25,7 @@ template <typename X>
 TARN_INLINE X roundedAway(X t)
 {
     const auto hasFraction = less(absolute(t), splat<X>(0x1p23F));
-    const auto whole = tarn::select(hasFraction, convert<Tarn32f>(truncateSingle(t)), t);
+    const auto whole = tarn::select(hasFraction, convert<Tarn32f>(truncateToInteger(t)), t);
     const auto isFar = notLess(absolute(sub(t, whole)), splat<X>(0.5F));
     return add(whole, tarn::select(isFar, copySign(splat<X>(1), t), splat<X>(0)));
 }
@@ -43,10 +41,10 @@ struct WholeTo {
         const auto limited = min(max(number, splat<X>(lowest<T>)), splat<X>(highest<T>));
         const auto words = [](auto x) { return narrowSaturated<Tarn16s>(x); };
         if constexpr (std::is_same_v<T, Tarn16u>) {
-            const auto moved = words(sub(truncateSingle(limited), splat<Like<X, Tarn32s>>(0x8000)));
+            const auto moved = words(sub(truncateToInteger(limited), splat<Like<X, Tarn32s>>(0x8000)));
             return retype<Tarn16u>(bitXor(moved, splat<Like<X, Tarn16s>>(lowest<Tarn16s>)));
         } else {
-            return narrowSaturated<T>(words(truncateSingle(limited)));
+            return narrowSaturated<T>(words(truncateToInteger(limited)));
         }
     }
 };
@@ -69,7 +67,7 @@ struct WholeTo<Tarn32u> {
         const auto positive = max(splat<X>(0), t);
         const auto isUpper = greater(positive, splat<X>(belowHalf));
         const auto moved = truncateSaturated(sub(positive, tarn::select(isUpper, splat<X>(half), splat<X>(0))));
-        const auto topBit = bitsOfSingle(tarn::select(isUpper, splat<X>(-0.0F), splat<X>(0)));
+        const auto topBit = bitsOf(tarn::select(isUpper, splat<X>(-0.0F), splat<X>(0)));
         return retype<Tarn32u>(bitXor(moved, topBit));
     }
 };
@@ -133,7 +131,7 @@ void ramp(Tarn64f* dst, int len, Tarn32f offset, Tarn32f slope)
     const Line line{offset, slope};
     const auto narrow = [&](int i, int end) {
         for (; i < end; ++i) {
-            store(dst + i, widenFloat(line(Tarn32s{i})));
+            store(dst + i, widen(line(Tarn32s{i})));
         }
     };
     if (len < shortest || addressOf(dst) % sizeof(Tarn64f) != 0) {

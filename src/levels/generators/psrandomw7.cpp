@@ -3,9 +3,6 @@
 
 #include "frame/rounding.h"
 #include "frame/simd_exp.h"
-#include "frame/simd_mul.h"
-#include "frame/simd_reciprocal.h"
-#include "frame/simd_round.h"
 #include "frame/walk.h"
 
 #include <cmath>
@@ -103,9 +100,9 @@ private:
         } else if constexpr (isSingle<T>) {
             return narrowFloat(v);
         } else if constexpr (toInteger == ToInteger::rounded) {
-            return roundDouble(v);
+            return roundToInteger(v);
         } else {
-            return truncateDouble(v);
+            return truncateToInteger(v);
         }
     }
 };
@@ -213,7 +210,7 @@ T normalAs(double deviation, T mean)
         return deviation + mean;
     } else {
         const double x = deviation + mean;
-        return static_cast<T>(truncateDouble(std::fmin(std::fmax(x, lowest<T>), highest<T>)));
+        return static_cast<T>(truncateToInteger(std::fmin(std::fmax(x, lowest<T>), highest<T>)));
     }
 }
 
