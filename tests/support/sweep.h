@@ -19,11 +19,11 @@
 #pragma once
 
 #include "support/columns.h"
+#include "support/function_ref.h"
 #include "support/sweep_engine.h"
 
 #include <algorithm>
 #include <initializer_list>
-#include <memory>
 #include <span>
 #include <string>
 #include <tuple>
@@ -109,86 +109,93 @@ std::vector<Column> describeColumns(const Columns<Src...>& columns)
 template <class Model, class... Src>
 constexpr bool elementModel = std::is_invocable_v<Model&, Src...>;
 
-/// Expected results of every element, found once; a run takes its window.
-template <class Dst, class Model, class... Src>
-void expectElements(Job& job, Model& model, const Columns<Src...>& columns, std::size_t len, int status)
-{
-    auto expected = std::make_shared<std::vector<Dst>>(len);
-    // Stays empty where the model gives no status.
-    auto statuses = std::make_shared<std::vector<int>>();
-    for (std::size_t i = 0; i < len; ++i) {
-        auto result = std::apply([&](const auto&... values) { return model(values[i]...); }, columns);
-        (*expected)[i] = static_cast<Dst>(valueOf(result));
-        if constexpr (IsOutcome<decltype(result)>::value)
-            statuses->push_back(result.status);
-    }
-    job.expect = [expected, statuses, status](std::size_t first, int windowLen) {
-        Expectation expectation{expected->data() + first, static_cast<std::size_t>(windowLen), status};
-        if (!statuses->empty()) {
-            const auto begin = statuses->begin() + static_cast<std::ptrdiff_t>(first);
-            const auto end = begin + windowLen;
-            const auto found = std::find_if(begin, end, [](int s) { return s != 0; });
-            expectation.status = found == end ? 0 : *found;
-        }
-        return expectation;
-    };
-}
+// What tests hand in is taken for a reference to a function, so that everything behind it is compiled once for the
+// types of a sweep, not once for each call and model.
+using AnyCall = FunctionRef<int(const void* const* sources, void* destination, int len)>;
+template <class Dst, class... Src>
+using ElementModel = FunctionRef<int(Dst& result, const Src&... values)>;
+template <class Dst, class... Src>
+using ArrayModel = FunctionRef<int(std::vector<Dst>& results, std::size_t len, const Src*... values)>;
 
-/// Expected results of a window as a whole, found again only when the window changes.
-template <class Dst, class Model, class... Src>
-void expectWindows(Job& job, Model& model, const Columns<Src...>& columns, int status)
-{
-    struct Cache {
-        std::size_t first = 0;
-        int len = -1;
-        std::vector<Dst> values;
-        int status = 0;
-    };
-    job.expect = [cache = std::make_shared<Cache>(), &model, &columns, status](std::size_t first, int len) {
-        if (cache->len != len || cache->first != first) {
-            const auto count = static_cast<std::size_t>(len);
-            auto result = [&] {
-                if constexpr (sizeof...(Src) == 0)
-                    return model(len);
-                else
-                    return std::apply(
-                        [&](const std::vector<Src>&... values) {
-                            return model(std::span<const Src>(values).subspan(first, count)...);
-                        },
-                        columns);
-            }();
-            cache->first = first;
-            cache->len = len;
-            cache->status = statusOf(result, status);
-            auto value = valueOf(std::move(result));
-            if constexpr (requires { value.size(); })
-                cache->values.assign(value.begin(), value.end());
-            else
-                cache->values.assign(1, static_cast<Dst>(value));
-        }
-        return Expectation{cache->values.data(), cache->values.size(), cache->status};
-    };
-}
+/// Where the destination is a source as well.
+struct Aliasing {
+    int column = -1;   ///< in every run
+    bool more = false; ///< after it, in a quick sweep, each source of the destination's type in turn
+};
 
-/// Everything of a job but the call.
-template <class Dst, class Model, class... Src>
-Job makeJob(Model& model, const Columns<Src...>& columns, const SweepOptions& options)
+/// Everything of a job but the expectation.
+template <class Dst, class... Src>
+Job makeJob(AnyCall call, const Columns<Src...>& columns, const SweepOptions& options, bool windowsByLength,
+            int aliased)
 {
-    constexpr bool byElement = elementModel<Model, Src...>;
     std::size_t longest = shortestColumn(options);
     if constexpr (sizeof...(Src) > 0)
         longest = std::get<0>(columns).size();
     Job job;
     job.what = options.name.empty() ? "sweep" : options.name;
-    job.plan = makePlan(options, longest, !byElement);
+    job.plan = makePlan(options, longest, windowsByLength);
     job.match = options.match;
     job.destination = elementOps<Dst>();
     job.columns = describeColumns(columns);
-    if constexpr (byElement)
-        expectElements<Dst>(job, model, columns, longest, options.status);
-    else
-        expectWindows<Dst>(job, model, columns, options.status);
+    job.aliased = aliased;
+    job.call = call;
     return job;
+}
+
+/// Expected results of every element, found once; a run takes its window.
+template <class Dst, class... Src>
+void sweepElements(AnyCall call, ElementModel<Dst, Src...> model, const Columns<Src...>& columns,
+                   const SweepOptions& options, Aliasing aliasing)
+{
+    Job job = makeJob<Dst>(call, columns, options, false, aliasing.column);
+    const auto len = static_cast<std::size_t>(job.plan.longest);
+    std::vector<Dst> expected(len);
+    std::vector<int> statuses(len);
+    for (std::size_t i = 0; i < len; ++i)
+        statuses[i] = std::apply([&](const auto&... values) { return model(expected[i], values[i]...); }, columns);
+    const auto expect = [&](std::size_t first, int windowLen) {
+        const auto begin = statuses.begin() + static_cast<std::ptrdiff_t>(first);
+        const auto found = std::find_if(begin, begin + windowLen, [](int s) { return s != 0; });
+        return Expectation{expected.data() + first, static_cast<std::size_t>(windowLen),
+                           found == begin + windowLen ? 0 : *found};
+    };
+    job.expect = expect;
+    run(job);
+    if (!aliasing.more)
+        return;
+    job.plan.full = false;
+    constexpr bool sameType[] = {std::is_same_v<Src, Dst>..., false};
+    for (std::size_t k = 0; k < sizeof...(Src); ++k) {
+        job.aliased = static_cast<int>(k);
+        if (sameType[k])
+            run(job);
+    }
+}
+
+/// Expected results of a window as a whole, found again only when the window changes.
+template <class Dst, class... Src>
+void sweepWindows(AnyCall call, ArrayModel<Dst, Src...> model, const Columns<Src...>& columns,
+                  const SweepOptions& options, Aliasing aliasing)
+{
+    Job job = makeJob<Dst>(call, columns, options, true, aliasing.column);
+    std::size_t lastFirst = 0;
+    int lastLen = -1;
+    std::vector<Dst> expected;
+    int status = 0;
+    const auto expect = [&](std::size_t first, int len) {
+        if (lastLen != len || lastFirst != first) {
+            status = std::apply(
+                [&](const auto&... values) {
+                    return model(expected, static_cast<std::size_t>(len), values.data() + first...);
+                },
+                columns);
+            lastFirst = first;
+            lastLen = len;
+        }
+        return Expectation{expected.data(), expected.size(), status};
+    };
+    job.expect = expect;
+    run(job);
 }
 
 template <class... Src>
@@ -200,6 +207,37 @@ void completeColumns(Columns<Src...>& columns, const SweepOptions& options)
     }
 }
 
+template <class Dst, class... Src, class Model>
+void sweep(AnyCall call, Model& model, Columns<Src...>& columns, const SweepOptions& options, Aliasing aliasing)
+{
+    completeColumns(columns, options);
+    if constexpr (elementModel<Model, Src...>) {
+        const auto element = [&](Dst& value, const Src&... values) {
+            auto result = model(values...);
+            value = static_cast<Dst>(valueOf(result));
+            return statusOf(result, options.status);
+        };
+        sweepElements(call, ElementModel<Dst, Src...>(element), columns, options, aliasing);
+    } else {
+        const auto whole = [&](std::vector<Dst>& values, [[maybe_unused]] std::size_t len, const Src*... sources) {
+            auto result = [&] {
+                if constexpr (sizeof...(Src) == 0)
+                    return model(static_cast<int>(len));
+                else
+                    return model(std::span<const Src>(sources, len)...);
+            }();
+            const int status = statusOf(result, options.status);
+            auto value = valueOf(std::move(result));
+            if constexpr (requires { value.size(); })
+                values.assign(value.begin(), value.end());
+            else
+                values.assign(1, static_cast<Dst>(value));
+            return status;
+        };
+        sweepWindows(call, ArrayModel<Dst, Src...>(whole), columns, options, aliasing);
+    }
+}
+
 } // namespace detail
 
 /// Sweeps `call(const Src*..., Dst* dst, int len) -> TarnStatus` against `model`. Without sources (`<Dst>` alone) the
@@ -207,9 +245,7 @@ void completeColumns(Columns<Src...>& columns, const SweepOptions& options)
 template <class Dst, class... Src, class Call, class Model>
 void sweepElementwise(Call&& call, Model&& model, const SweepOptions& options = {}, Columns<Src...> columns = {})
 {
-    detail::completeColumns(columns, options);
-    detail::Job job = detail::makeJob<Dst>(model, columns, options);
-    job.call = [&call](const void* const* sources, void* destination, int len) {
+    const auto erased = [&call](const void* const* sources, void* destination, int len) {
         return [&]<std::size_t... K>(std::index_sequence<K...>)
         {
             static_cast<void>(sources);
@@ -217,16 +253,7 @@ void sweepElementwise(Call&& call, Model&& model, const SweepOptions& options = 
         }
         (std::index_sequence_for<Src...>{});
     };
-    detail::run(job);
-    if (!options.aliased || !detail::elementModel<Model, Src...>)
-        return;
-    job.plan.full = false;
-    constexpr bool sameType[] = {std::is_same_v<Src, Dst>..., false};
-    for (std::size_t k = 0; k < sizeof...(Src); ++k) {
-        job.aliased = static_cast<int>(k);
-        if (sameType[k])
-            detail::run(job);
-    }
+    detail::sweep<Dst, Src...>(erased, model, columns, options, {-1, options.aliased});
 }
 
 /// Sweeps `call(const Src*..., T* srcDst, int len) -> TarnStatus` against `model(Src..., T) -> T`: the last argument is
@@ -234,10 +261,7 @@ void sweepElementwise(Call&& call, Model&& model, const SweepOptions& options = 
 template <class T, class... Src, class Call, class Model>
 void sweepInPlace(Call&& call, Model&& model, const SweepOptions& options = {}, Columns<Src..., T> columns = {})
 {
-    detail::completeColumns(columns, options);
-    detail::Job job = detail::makeJob<T>(model, columns, options);
-    job.aliased = sizeof...(Src);
-    job.call = [&call](const void* const* sources, void* destination, int len) {
+    const auto erased = [&call](const void* const* sources, void* destination, int len) {
         return [&]<std::size_t... K>(std::index_sequence<K...>)
         {
             static_cast<void>(sources);
@@ -245,7 +269,7 @@ void sweepInPlace(Call&& call, Model&& model, const SweepOptions& options = {}, 
         }
         (std::index_sequence_for<Src...>{});
     };
-    detail::run(job);
+    detail::sweep<T, Src..., T>(erased, model, columns, options, {sizeof...(Src), false});
 }
 
 /// Sweeps `call(const Src* src, T* dst, int len)` of equal types with dst == src, against a model of elements or of the
@@ -262,9 +286,7 @@ void sweepAliased(Call&& call, Model&& model, const SweepOptions& options = {}, 
 template <class Result, class... Src, class Call, class Model>
 void sweepReduction(Call&& call, Model&& model, const SweepOptions& options = {}, Columns<Src...> columns = {})
 {
-    detail::completeColumns(columns, options);
-    detail::Job job = detail::makeJob<Result>(model, columns, options);
-    job.call = [&call](const void* const* sources, void* destination, int len) {
+    const auto erased = [&call](const void* const* sources, void* destination, int len) {
         return [&]<std::size_t... K>(std::index_sequence<K...>)
         {
             return static_cast<int>(
@@ -272,7 +294,7 @@ void sweepReduction(Call&& call, Model&& model, const SweepOptions& options = {}
         }
         (std::index_sequence_for<Src...>{});
     };
-    detail::run(job);
+    detail::sweep<Result, Src...>(erased, model, columns, options, {});
 }
 
 } // namespace tarn::test

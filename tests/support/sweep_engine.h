@@ -3,10 +3,10 @@
 #pragma once
 
 #include "support/compare.h"
+#include "support/function_ref.h"
 #include "support/guarded.h"
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -56,8 +56,8 @@ struct Job {
     /// The column whose array is the destination as well, or -1.
     int aliased = -1;
     Match match;
-    std::function<int(const void* const* sources, void* destination, int len)> call;
-    std::function<Expectation(std::size_t first, int len)> expect;
+    FunctionRef<int(const void* const* sources, void* destination, int len)> call;
+    FunctionRef<Expectation(std::size_t first, int len)> expect;
 };
 
 /// Runs the job. At the first few failures it stops; a fault inside a call tells the run before the process dies.
