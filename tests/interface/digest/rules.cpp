@@ -67,16 +67,18 @@ bool isLength(const std::string& name) { return contains({"len", "srcLen", "numI
 
 bool isDataNumber(const std::string& name)
 {
-    return contains(
-        {"inpVal", "level", "levelGT", "levelLT", "src", "vDiv", "vSub", "val", "value", "valueGT", "valueLT"}, name);
+    return contains({"high", "inpVal", "level", "levelGT", "levelLT", "low", "mean", "offset", "seed", "slope", "src",
+                     "stdDev", "vDiv", "vSub", "val", "value", "valueGT", "valueLT"},
+                    name);
 }
 
 bool isDataArray(const std::string& name)
 {
-    return contains({"pDlyLine",    "pDp",      "pDst",     "pDstIm", "pDstLen",     "pDstRe", "pDstVal", "pIndx",
-                     "pMax",        "pMaxIndx", "pMean",    "pMin",   "pMinIndx",    "pNorm",  "pOrder",  "pOutIndex",
-                     "pOutIndexes", "pOutVal",  "pOutVals", "pSrc",   "pSrc1",       "pSrc2",  "pSrcDst", "pSrcIm",
-                     "pSrcRe",      "pStdDev",  "pSum",     "pTaps",  "pTapsFactor", "pVals"},
+    return contains({"pDlyLine",    "pDp",       "pDst",     "pDstIm",   "pDstMagn", "pDstPhase",   "pSeed",
+                     "pSrcMagn",    "pSrcPhase", "pDstLen",  "pDstRe",   "pDstVal",  "pIndx",       "pMax",
+                     "pMaxIndx",    "pMean",     "pMin",     "pMinIndx", "pNorm",    "pOrder",      "pOutIndex",
+                     "pOutIndexes", "pOutVal",   "pOutVals", "pSrc",     "pSrc1",    "pSrc2",       "pSrcDst",
+                     "pSrcIm",      "pSrcRe",    "pStdDev",  "pSum",     "pTaps",    "pTapsFactor", "pVals"},
                     name);
 }
 

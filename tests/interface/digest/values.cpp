@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <limits>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -83,7 +84,10 @@ void putBetween(std::byte* memory, Element element, double low, double high, Ran
 {
     withType(element.real, [&](auto value) {
         for (int part = 0; part < element.parts; ++part) {
-            value = static_cast<decltype(value)>(low + (high - low) * random.unit());
+            using Limits = std::numeric_limits<decltype(value)>;
+            const double number = low + (high - low) * random.unit();
+            value = static_cast<decltype(value)>(
+                std::clamp(number, static_cast<double>(Limits::lowest()), static_cast<double>(Limits::max())));
             std::memcpy(memory + static_cast<std::size_t>(part) * sizeof value, &value, sizeof value);
         }
     });
