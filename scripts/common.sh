@@ -9,7 +9,7 @@ configure()
 {
     preset=$1
     shift
-    if command -v ccache >/dev/null; then
+    if [ -z "${CCACHE_DISABLE:-}" ] && command -v ccache >/dev/null; then
         set -- -DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@"
     fi
     cmake --preset "$preset" "$@" >"$(log_of "$preset-configure")" 2>&1 || {
