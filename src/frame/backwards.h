@@ -10,7 +10,7 @@ struct Backwards {
     using Element = T;
     const T* last;
 
-    TARN_INLINE Backwards operator+(int elements) const { return {last - elements}; }
+    TARN_INLINE Backwards operator+(Index elements) const { return {last - elements}; }
 };
 
 template <typename T>

@@ -13,20 +13,6 @@
 
 namespace tarn {
 
-// Of an element. A complex array is taken as its parts, of which there may be more than an int counts.
-using Index = std::ptrdiff_t;
-
-// f of 0, 1, ... count - 1, as constants.
-template <int count, typename F>
-TARN_INLINE void repeat(F f)
-{
-    [&]<int... k>(std::integer_sequence<int, k...>) __attribute__((always_inline))
-    {
-        (f(std::integral_constant<int, k>{}), ...);
-    }
-    (std::make_integer_sequence<int, count>{});
-}
-
 template <typename State, int count>
 struct Accumulators {
     std::array<State, static_cast<std::size_t>(count)> at;

@@ -26,6 +26,9 @@ struct Reporting {
 };
 
 template <typename Report, typename Operation>
+inline constexpr int stepsAtOnce<Reporting<Report, Operation>> = stepsAtOnce<Operation>;
+
+template <typename Report, typename Operation>
 TARN_INLINE Reporting<Report, Operation> reportingTo(Report& report, Operation operation)
 {
     return {&report, operation};
@@ -49,15 +52,17 @@ private:
     template <int N>
     TARN_INLINE void gather(Pack<Tarn8u, N> mask)
     {
-        if constexpr (N > registerLanes<Tarn8u>) {
+        if constexpr (N > vectorBytes) {
             gather(mask.lo);
             gather(mask.hi);
-        } else {
+        } else if constexpr (N == vectorBytes) {
             inPacks = bitOr(inPacks, mask);
+        } else {
+            inElements |= anyOf(mask);
         }
     }
 
-    Register<Tarn8u> inPacks = splat<Register<Tarn8u>>(0);
+    Vector<Tarn8u> inPacks = splat<Vector<Tarn8u>>(0);
     bool inElements = false;
 };
 

@@ -50,7 +50,7 @@ struct Source24 {
     using Element = Stored24;
     const Tarn8u* bytes;
 
-    TARN_INLINE Source24 operator+(int elements) const { return {bytes + std::ptrdiff_t{3} * elements}; }
+    TARN_INLINE Source24 operator+(std::ptrdiff_t elements) const { return {bytes + 3 * elements}; }
 };
 
 template <Integer W>

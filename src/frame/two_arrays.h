@@ -6,7 +6,7 @@
 // destination may be any of the sources.
 #pragma once
 
-#include "frame/reduce.h"
+#include "frame/walk.h"
 
 namespace tarn {
 

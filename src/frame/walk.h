@@ -5,6 +5,9 @@
 
 #include <cstddef>
 
+// In front of a loop that is to stay one: compilers spread out those of which they know that they turn few times.
+#define TARN_ROLLED _Pragma("GCC unroll 1")
+
 namespace tarn {
 
 // Destinations of this many bytes and more are written past the caches. Below it a result is likely to be read again
@@ -15,25 +18,39 @@ inline constexpr std::size_t streamBytes = std::size_t{8} << 20;
 // From this many vectors on it pays to bring the destination to a vector boundary first.
 inline constexpr int vectorsWorthAligning = 32;
 
-// How many vectors are written between two tests of the loop's end.
+// How many steps are written between two tests of the loop's end, unless the operation knows better.
 inline constexpr int unrolledSteps = 4;
 
+// Of an element. A complex array is taken as its parts, of which there may be more than an int counts.
+using Index = std::ptrdiff_t;
+
+// f of 0, 1, ... count - 1, as constants.
+template <int count, typename F>
+TARN_INLINE void repeat(F f)
+{
+    [&]<int... k>(std::integer_sequence<int, k...>) __attribute__((always_inline))
+    {
+        (f(std::integral_constant<int, k>{}), ...);
+    }
+    (std::make_integer_sequence<int, count>{});
+}
+
 // A source is a pointer to elements, or a view: a type with a member type Element, with + to advance by elements, and
-// with loadElement and loadPack.
+// with loadElement and loadPack. A destination is a pointer, or a view for which the functions below are there too.
 template <typename S>
-struct SourceElementOf {
+struct ViewedElement {
     using type = typename S::Element;
 };
 template <typename T>
-struct SourceElementOf<const T*> {
+struct ViewedElement<const T*> {
     using type = T;
 };
 template <typename T>
-struct SourceElementOf<T*> {
+struct ViewedElement<T*> {
     using type = T;
 };
 template <typename S>
-using SourceElement = typename SourceElementOf<S>::type;
+using SourceElement = typename ViewedElement<S>::type;
 
 // The elements of one step: one register of the narrowest type, as many registers as it takes of the others.
 template <typename... T>
@@ -45,8 +62,8 @@ TARN_INLINE std::uintptr_t addressOf(const T* p)
     return reinterpret_cast<std::uintptr_t>(p);
 }
 
-// How many elements lie before the next boundary of so many bytes, of a vector if nothing is said; 0 if no element
-// starts on one.
+// How many elements lie before the next boundary of so many bytes; 0 if no element starts on one. Where the boundary is
+// part of a result it is a constant of the family's: the register's width changes from level to level.
 template <int boundary = vectorBytes, typename T>
 TARN_INLINE int elementsToBoundary(const T* p)
 {
@@ -62,95 +79,85 @@ TARN_INLINE bool isOnBoundary(const T* p)
 
 // True if a destination of that many elements is to be written past the caches.
 template <typename T>
-TARN_INLINE bool streams(int len)
+TARN_INLINE bool streams(Index len)
 {
     return static_cast<std::size_t>(len) >= streamBytes / sizeof(T);
 }
 
-// True if the source is not the destination itself.
-template <typename S, typename D>
-TARN_INLINE bool isApart(S src, D* dst)
-{
-    if constexpr (std::is_pointer_v<S>) {
-        return addressOf(src) != addressOf(dst);
-    } else {
-        return true;
-    }
-}
-
-// One step of a walk: the elements from k on.
-template <int step, typename Operation, typename... S>
-TARN_INLINE auto stepAt(int k, Operation operation, S... src)
-{
-    return operation(loadPack<step>(src + k)...);
-}
+// How many steps of an operation to write side by side. One that takes a few instructions gains from it; one that takes
+// twenty has enough to do between two tests, and each copy costs a cache of instructions that others need.
+template <typename Operation>
+inline constexpr int stepsAtOnce = unrolledSteps;
+template <typename Operation>
+    requires(Operation::stepsAtOnce > 0)
+inline constexpr int stepsAtOnce<Operation> = Operation::stepsAtOnce;
 
 // The elements from i to end, one at a time.
-template <typename D, typename Operation, typename... S>
-TARN_INLINE void walkElements(D* dst, int i, int end, Operation operation, S... src)
+template <typename Destination, typename Operation, typename... S>
+TARN_INLINE void walkElements(Destination dst, Index i, Index end, Operation operation, S... src)
 {
+    TARN_ROLLED
     for (; i < end; ++i) {
         store(dst + i, operation(loadElement(src + i)...));
     }
 }
 
-// Brings the destination to a vector boundary; answers how many elements are done then.
-template <int step, typename D, typename Operation, typename... S>
-TARN_INLINE int walkToBoundary(D* dst, Operation operation, S... src)
-{
-    const int head = elementsToBoundary(dst);
-    if ((isApart(src, dst) && ...)) {
-        store(dst, stepAt<step>(0, operation, src...));
-    } else {
-        walkElements(dst, 0, head, operation, src...);
-    }
-    return head;
-}
-
-// What is left behind the last whole step before i.
-template <int step, typename D, typename Operation, typename... S>
-TARN_INLINE void walkTail(D* dst, int i, int len, Operation operation, S... src)
-{
-    if (len >= step && (isApart(src, dst) && ...)) {
-        store(dst + len - step, stepAt<step>(len - step, operation, src...));
-    } else {
-        walkElements(dst, i, len, operation, src...);
-    }
-}
-
 // dst[i] = operation(src[i]...) for all i below len. A source may be the destination itself; other overlap is not
-// defined. The operation is called with elements or with packs of stepSize elements and answers in kind. Where no
-// source is the destination, writing an element twice does no harm: then the ends of the array are vectors that overlap
-// their neighbours, and single elements are left to arrays shorter than a step.
-template <typename D, typename Operation, typename... S>
-TARN_INLINE void walk(D* dst, int len, Operation operation, S... src)
+// defined. The operation is called with elements or with packs of stepSize elements and answers in kind, in no stated
+// order.
+//
+// The ends of the array are vectors that overlap their neighbours, so that single elements are left to arrays shorter
+// than a step. Since a source may be the destination, the ends are found before anything is written, and written last.
+template <typename Destination, typename Operation, typename... S>
+TARN_INLINE void walk(Destination dst, Index len, Operation operation, S... src)
 {
+    using D = SourceElement<Destination>;
     constexpr int step = stepSize<D, SourceElement<S>...>;
-    constexpr int block = unrolledSteps * step;
+    constexpr int steps = stepsAtOnce<Operation>;
+    const auto stepAt = [&](Index k) __attribute__((always_inline)) { return operation(loadPack<step>(src + k)...); };
 
-    int i = 0;
-    if (len >= vectorsWorthAligning * lanes<D>) {
-        if (!isOnBoundary(dst)) {
-            i = walkToBoundary<step>(dst, operation, src...);
-        }
-        if (streams<D>(len) && isOnBoundary(dst + i)) {
-            for (; i <= len - step; i += step) {
-                storeStream(dst + i, stepAt<step>(i, operation, src...));
-            }
-            streamFence();
-        }
+    if (len < step) {
+        walkElements(dst, 0, len, operation, src...);
+        return;
     }
-    for (; i <= len - block; i += block) {
-        store(dst + i, stepAt<step>(i, operation, src...));
-        store(dst + i + step, stepAt<step>(i + step, operation, src...));
-        store(dst + i + 2 * step, stepAt<step>(i + 2 * step, operation, src...));
-        store(dst + i + 3 * step, stepAt<step>(i + 3 * step, operation, src...));
+
+    Index i = 0;
+    if (len >= vectorsWorthAligning * lanes<D> && !isOnBoundary(dst)) {
+        i = elementsToBoundary(dst);
+    }
+    decltype(stepAt(0)) ends[2];
+    Index placeOfEnd[2];
+    int countOfEnds = 0;
+    if (i > 0) {
+        placeOfEnd[countOfEnds++] = 0;
+    }
+    if ((len - i) % step != 0) {
+        placeOfEnd[countOfEnds++] = len - step;
+    }
+    TARN_ROLLED
+    for (int k = 0; k < countOfEnds; ++k) {
+        ends[k] = stepAt(placeOfEnd[k]);
+    }
+
+    if (streams<D>(len) && isOnBoundary(dst + i)) {
+        for (; i <= len - step; i += step) {
+            storeStream(dst + i, stepAt(i));
+        }
+        streamFence();
+    }
+    if constexpr (steps > 1) {
+        for (; i <= len - steps * step; i += steps * step) {
+            repeat<steps>([&](auto k)
+                              __attribute__((always_inline)) { store(dst + (i + k * step), stepAt(i + k * step)); });
+        }
     }
     for (; i <= len - step; i += step) {
-        store(dst + i, stepAt<step>(i, operation, src...));
+        store(dst + i, stepAt(i));
     }
-    if (i < len) {
-        walkTail<step>(dst, i, len, operation, src...);
+
+    TARN_ROLLED
+    for (int k = 0; k < countOfEnds; ++k) {
+        store(dst + placeOfEnd[k], ends[k]);
     }
 }
 
@@ -160,7 +167,7 @@ struct Everywhere {
     using Element = T;
     T value;
 
-    TARN_INLINE Everywhere operator+(int /*elements*/) const { return *this; }
+    TARN_INLINE Everywhere operator+(Index /*elements*/) const { return *this; }
 };
 template <typename T>
 TARN_INLINE T loadElement(Everywhere<T> source)
@@ -185,5 +192,8 @@ struct WithConstant {
         return operation(x, splat<Like<X, T>>(constant));
     }
 };
+
+template <typename Operation, typename T>
+inline constexpr int stepsAtOnce<WithConstant<Operation, T>> = stepsAtOnce<Operation>;
 
 } // namespace tarn

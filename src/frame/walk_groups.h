@@ -2,7 +2,7 @@
 // them and what is left over by another.
 #pragma once
 
-#include "frame/reduce.h"
+#include "frame/walk.h"
 
 #include <array>
 

@@ -21,6 +21,23 @@ TEST(Walk, EveryElementAtEveryAddress)
     sweepElementwise<Tarn64f, Tarn64f>(call, [](Tarn64f x) { return x + x; });
 }
 
+// An operation that asks for one step at a time.
+struct OneByOne : Twice {
+    static constexpr int stepsAtOnce = 1;
+};
+
+TEST(Walk, OneStepBetweenTwoTests)
+{
+    static_assert(stepsAtOnce<OneByOne> == 1 && stepsAtOnce<Twice> == unrolledSteps);
+    static_assert(stepsAtOnce<WithConstant<OneByOne, Tarn16u>> == 1);
+    sweepElementwise<Tarn16u, Tarn16u>(
+        [](const Tarn16u* src, Tarn16u* dst, int len) {
+            walk(dst, len, OneByOne{}, src);
+            return tarnStsNoErr;
+        },
+        [](Tarn16u x) { return static_cast<Tarn16u>(x + x); });
+}
+
 TEST(Walk, InPlace)
 {
     sweepInPlace<Tarn16u>(
@@ -105,6 +122,12 @@ TEST(Walk, LongArrays)
                 wrong += loadElement(dst + i) != swapBytes(loadElement(src + i));
             EXPECT_EQ(0, wrong) << "len " << len << " offset " << offset;
             EXPECT_EQ(0x5A5A5A5AU, loadElement(dst + len)) << "len " << len << " offset " << offset;
+            walk(dst, len, swapBytes, static_cast<const Tarn32u*>(dst));
+            wrong = 0;
+            for (int i = 0; i < len; ++i)
+                wrong += loadElement(dst + i) != loadElement(src + i);
+            EXPECT_EQ(0, wrong) << "in place, len " << len << " offset " << offset;
+            EXPECT_EQ(0x5A5A5A5AU, loadElement(dst + len)) << "in place, len " << len << " offset " << offset;
         }
     }
 }

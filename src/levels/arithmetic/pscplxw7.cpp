@@ -11,7 +11,7 @@ struct EverySecond_64f {
     using Element = Tarn64f;
     const Tarn64f* p;
 
-    TARN_INLINE EverySecond_64f operator+(int elements) const { return {p + 2 * elements}; }
+    TARN_INLINE EverySecond_64f operator+(Index elements) const { return {p + 2 * elements}; }
 };
 TARN_INLINE Tarn64f loadElement(EverySecond_64f source) { return tarn::loadElement(source.p); }
 template <int N>
