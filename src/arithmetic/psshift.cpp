@@ -34,19 +34,6 @@ TarnStatus shiftOut(void (*kernel)(const T*, int, T*, int), const T* pSrc, int v
     }
     return tarnStsNoErr;
 }
-template <typename T>
-TarnStatus shiftOut(void (*kernel)(int, T*, int), int val, T* pSrcDst, int len)
-{
-    if (const TarnStatus status = checkShift(val, len, pSrcDst)) {
-        return status;
-    }
-    if (val >= width<T>) {
-        zeroFill(pSrcDst, len);
-    } else {
-        kernel(val, pSrcDst, len);
-    }
-    return tarnStsNoErr;
-}
 
 // Shifts that leave the sign: one place less than the width is as far as any count goes.
 template <typename T>
@@ -58,35 +45,20 @@ TarnStatus shiftToSign(void (*kernel)(const T*, int, T*, int), const T* pSrc, in
     kernel(pSrc, std::min(val, width<T> - 1), pDst, len);
     return tarnStsNoErr;
 }
-template <typename T>
-TarnStatus shiftToSign(void (*kernel)(int, T*, int), int val, T* pSrcDst, int len)
-{
-    if (const TarnStatus status = checkShift(val, len, pSrcDst)) {
-        return status;
-    }
-    kernel(std::min(val, width<T> - 1), pSrcDst, len);
-    return tarnStsNoErr;
-}
 
 } // namespace
 
-#define TARN_SHIFT_FRONT_ENDS(NAME, TAG, RUN, KERNEL)                                        \
-    TarnStatus tarns##NAME##_##TAG(const Tarn##TAG* pSrc, int val, Tarn##TAG* pDst, int len) \
-    {                                                                                        \
-        return RUN(KERNEL, pSrc, val, pDst, len);                                            \
-    }                                                                                        \
-    TarnStatus tarns##NAME##_##TAG##_I(int val, Tarn##TAG* pSrcDst, int len)                 \
-    {                                                                                        \
-        return RUN(KERNEL##_I, val, pSrcDst, len);                                           \
+#define TARN_SHIFT_FRONT_ENDS(OP, TAG, WORD, BEYOND)                                        \
+    TarnStatus tarns##OP##C_##TAG(const Tarn##TAG* pSrc, int val, Tarn##TAG* pDst, int len) \
+    {                                                                                       \
+        return BEYOND(ownps_##OP##_##TAG, pSrc, val, pDst, len);                            \
+    }                                                                                       \
+    TarnStatus tarns##OP##C_##TAG##_I(int val, Tarn##TAG* pSrcDst, int len)                 \
+    {                                                                                       \
+        return tarns##OP##C_##TAG(pSrcDst, val, pSrcDst, len);                              \
     }
 
-TARN_SHIFT_FRONT_ENDS(LShiftC, 8u, shiftOut, ownps_LShift_8u)
-TARN_SHIFT_FRONT_ENDS(LShiftC, 16u, shiftOut, ownps_LShift_16u)
-TARN_SHIFT_FRONT_ENDS(LShiftC, 32s, shiftOut, ownps_LShift_32s)
-TARN_SHIFT_FRONT_ENDS(RShiftC, 8u, shiftOut, ownps_RShift_8u)
-TARN_SHIFT_FRONT_ENDS(RShiftC, 16u, shiftOut, ownps_RShift_16u)
-TARN_SHIFT_FRONT_ENDS(RShiftC, 16s, shiftToSign, ownps_RShift_16s)
-TARN_SHIFT_FRONT_ENDS(RShiftC, 32s, shiftToSign, ownps_RShift_32s)
+TARN_SHIFTS(TARN_SHIFT_FRONT_ENDS)
 
 // A left shift does not look at the sign.
 TarnStatus tarnsLShiftC_16s(const Tarn16s* pSrc, int val, Tarn16s* pDst, int len)

@@ -125,12 +125,7 @@ TarnStatus invert(InverseKernel<T> kernel, const T* pSrc, T* pDst, int len, Part
     TARN_REPLACE_FRONT_ENDS(LT, TAG, LEVEL)                                                                  \
     TARN_REPLACE_FRONT_ENDS(GT, TAG, LEVEL)
 
-TARN_THRESHOLD_FRONT_ENDS(16s, Tarn16s)
-TARN_THRESHOLD_FRONT_ENDS(16sc, Tarn16s)
-TARN_THRESHOLD_FRONT_ENDS(32f, Tarn32f)
-TARN_THRESHOLD_FRONT_ENDS(32fc, Tarn32f)
-TARN_THRESHOLD_FRONT_ENDS(64f, Tarn64f)
-TARN_THRESHOLD_FRONT_ENDS(64fc, Tarn64f)
+TARN_THRESHOLDS(TARN_THRESHOLD_FRONT_ENDS)
 TARN_LIMIT_FRONT_ENDS(LT, 32s, Tarn32s, tarnCmpLess)
 
 #define TARN_BAND_FRONT_ENDS(TAG)                                                                                     \
@@ -145,9 +140,7 @@ TARN_LIMIT_FRONT_ENDS(LT, 32s, Tarn32s, tarnCmpLess)
         return tarnsThreshold_LTValGTVal_##TAG(pSrcDst, pSrcDst, len, levelLT, valueLT, levelGT, valueGT);            \
     }
 
-TARN_BAND_FRONT_ENDS(16s)
-TARN_BAND_FRONT_ENDS(32f)
-TARN_BAND_FRONT_ENDS(64f)
+TARN_BAND_THRESHOLDS(TARN_BAND_FRONT_ENDS)
 
 #define TARN_INVERSE_FRONT_ENDS(TAG, LEVEL)                                                             \
     TarnStatus tarnsThreshold_LTInv_##TAG(const Tarn##TAG* pSrc, Tarn##TAG* pDst, int len, LEVEL level) \
@@ -159,7 +152,4 @@ TARN_BAND_FRONT_ENDS(64f)
         return tarnsThreshold_LTInv_##TAG(pSrcDst, pSrcDst, len, level);                                \
     }
 
-TARN_INVERSE_FRONT_ENDS(32f, Tarn32f)
-TARN_INVERSE_FRONT_ENDS(32fc, Tarn32f)
-TARN_INVERSE_FRONT_ENDS(64f, Tarn64f)
-TARN_INVERSE_FRONT_ENDS(64fc, Tarn64f)
+TARN_INVERSE_THRESHOLDS(TARN_INVERSE_FRONT_ENDS)

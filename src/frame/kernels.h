@@ -53,6 +53,12 @@ TARN_INLINE void apply(Operation operation, T val, T* pSrcDst, int len)
 #define TARN_DEFINE_KERNEL(NAME, SHAPE, T, OPERATION) \
     void NAME(TARN_##SHAPE##_PARAMETERS(T)) { tarn::apply(OPERATION, TARN_##SHAPE##_ARGUMENTS); }
 
+// The same in place, which is the kernel with its last operand as the destination.
+#define TARN_VECTORS_IN_PLACE pSrc, pSrcDst, pSrcDst, len
+#define TARN_CONSTANT_IN_PLACE pSrcDst, val, pSrcDst, len
+#define TARN_DEFINE_KERNEL_IN_PLACE(NAME, SHAPE, T) \
+    void NAME##_I(TARN_##SHAPE##_I_PARAMETERS(T)) { NAME(TARN_##SHAPE##_IN_PLACE); }
+
 // The kernels of a scaled operation. The case in which the sign decides stands apart, since not every type exports it.
 #define TARN_DECLARE_SCALED_KERNELS(NAME, SHAPE, T)                                \
     TARN_KERNEL void NAME(TARN_##SHAPE##_PARAMETERS(T));                           \
@@ -70,3 +76,22 @@ TARN_INLINE void apply(Operation operation, T val, T* pSrcDst, int len)
     {                                                                         \
         tarn::apply(__VA_ARGS__::Neg{shift}, TARN_##SHAPE##_ARGUMENTS);       \
     }
+#define TARN_DEFINE_SCALED_KERNELS_IN_PLACE(NAME, SHAPE, T)                                      \
+    TARN_DEFINE_KERNEL_IN_PLACE(NAME, SHAPE, T)                                                  \
+    void NAME##_I_1Sfs(TARN_##SHAPE##_I_PARAMETERS(T)) { NAME##_1Sfs(TARN_##SHAPE##_IN_PLACE); } \
+    void NAME##_I_PosSfs(TARN_##SHAPE##_I_PARAMETERS(T), int scaleFactor)                        \
+    {                                                                                            \
+        NAME##_PosSfs(TARN_##SHAPE##_IN_PLACE, scaleFactor);                                     \
+    }                                                                                            \
+    void NAME##_I_NegSfs(TARN_##SHAPE##_I_PARAMETERS(T), int shift) { NAME##_NegSfs(TARN_##SHAPE##_IN_PLACE, shift); }
+
+// The same for kernels of which only those in place have exported names: the others stand in a table.
+#define TARN_DEFINE_SCALED_KERNELS_IN_PLACE_OF(NAME, SHAPE, T, TABLE)                                              \
+    void NAME##_I(TARN_##SHAPE##_I_PARAMETERS(T)) { TABLE.plain(TARN_##SHAPE##_IN_PLACE); }                        \
+    void NAME##_I_1Sfs(TARN_##SHAPE##_I_PARAMETERS(T)) { TABLE.one(TARN_##SHAPE##_IN_PLACE); }                     \
+    void NAME##_I_PosSfs(TARN_##SHAPE##_I_PARAMETERS(T), int scaleFactor)                                          \
+    {                                                                                                              \
+        TABLE.pos(TARN_##SHAPE##_IN_PLACE, scaleFactor);                                                           \
+    }                                                                                                              \
+    void NAME##_I_NegSfs(TARN_##SHAPE##_I_PARAMETERS(T), int shift) { TABLE.neg(TARN_##SHAPE##_IN_PLACE, shift); } \
+    void NAME##_I_Bound(TARN_##SHAPE##_I_PARAMETERS(T)) { TABLE.bound(TARN_##SHAPE##_IN_PLACE); }

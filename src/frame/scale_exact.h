@@ -174,6 +174,7 @@ struct SignStep {
 // An operation followed by a step. The step comes first, since its count is what differs from call to call.
 template <typename D, typename Operation, typename Step>
 struct Chain {
+    static constexpr int stepsAtOnce = 1;
     Step step{};
     Operation operation{};
 

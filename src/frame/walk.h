@@ -91,6 +91,8 @@ inline constexpr int stepsAtOnce = unrolledSteps;
 template <typename Operation>
     requires(Operation::stepsAtOnce > 0)
 inline constexpr int stepsAtOnce<Operation> = Operation::stepsAtOnce;
+template <typename Operation>
+inline constexpr int stepsAtOnce<PerPart<Operation>> = stepsAtOnce<Operation>;
 
 // The elements from i to end, one at a time.
 template <typename Destination, typename Operation, typename... S>

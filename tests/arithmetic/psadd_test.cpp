@@ -4,6 +4,7 @@
 #include "model/scale.h"
 #include "support/checks.h"
 #include "support/fpstate.h"
+#include "support/nans.h"
 #include "support/sweep.h"
 
 #include <cmath>
@@ -315,6 +316,23 @@ TEST(AddC, ChecksInOrder)
         expectChecks(tarnsAddC_64fc, {}, array, Tarn64fc{val, 1}, array, length);
         expectChecks(tarnsAddC_64fc_I, {}, Tarn64fc{val, 1}, array, length);
     }
+}
+
+// Of two NaNs the first operand's survives, wherever in an array the element lies.
+TEST(Add, TwoNans)
+{
+    const auto first = [](auto a, auto /*b*/) { return a; };
+    sweepNans<Tarn32f>(tarnsAdd_32f, tarnsAdd_32f_I, first);
+    sweepNans<Tarn64f>(tarnsAdd_64f, tarnsAdd_64f_I, first);
+    sweepNans<Tarn32fc>(tarnsAdd_32fc, tarnsAdd_32fc_I, first);
+    sweepNans<Tarn64fc>(tarnsAdd_64fc, tarnsAdd_64fc_I, first);
+}
+
+TEST(AddC, TwoNans)
+{
+    const auto first = [](auto a, auto /*b*/) { return a; };
+    sweepNansWithConstant<Tarn32fc>(tarnsAddC_32fc, first);
+    sweepNansWithConstant<Tarn64fc>(tarnsAddC_64fc, first);
 }
 
 } // namespace

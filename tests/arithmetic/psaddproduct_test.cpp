@@ -4,6 +4,7 @@
 #include "model/product.h"
 #include "support/checks.h"
 #include "support/fpstate.h"
+#include "support/nans.h"
 #include "support/scaled.h"
 
 #include <cmath>
@@ -157,6 +158,23 @@ TEST(AddProduct, ChecksInOrder)
     expectChecks(tarnsAddProduct_64f);
     expectChecks(tarnsAddProduct_32fc);
     expectChecks(tarnsAddProduct_64fc);
+}
+
+// The product comes first, and its first operand in it.
+template <class T, class Call, class Survivor>
+void sweepThreeNans(Call call, Survivor survivor)
+{
+    sweepInPlace<T, T, T>(call, survivor, {.match = {.nan = NanRule::sameBits}}, nanColumns<T, T, T>());
+}
+
+TEST(AddProduct, ThreeNans)
+{
+    const auto first = [](auto a, auto /*b*/, auto /*sum*/) { return a; };
+    sweepThreeNans<Tarn32f>(tarnsAddProduct_32f, first);
+    sweepThreeNans<Tarn64f>(tarnsAddProduct_64f, first);
+    const auto realOfSecond = [](auto /*a*/, auto b, auto /*sum*/) { return decltype(b){b.re, b.re}; };
+    sweepThreeNans<Tarn32fc>(tarnsAddProduct_32fc, realOfSecond);
+    sweepThreeNans<Tarn64fc>(tarnsAddProduct_64fc, realOfSecond);
 }
 
 } // namespace

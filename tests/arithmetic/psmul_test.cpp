@@ -4,6 +4,7 @@
 #include "model/product.h"
 #include "support/checks.h"
 #include "support/fpstate.h"
+#include "support/nans.h"
 #include "support/scaled.h"
 
 namespace tarn::test {
@@ -268,6 +269,18 @@ TEST(Mul, ChecksInOrder)
     expectChecks(tarnsMul_64fc_I);
     for (const int s : {100, -100})
         expectChecks(tarnsMul_32s_Sfs, {}, array, array, array, length, s);
+}
+
+// Of two NaNs the first operand's survives, wherever in an array the element lies; in complex products, which start
+// with the second operand, the real part of that one.
+TEST(Mul, TwoNans)
+{
+    const auto first = [](auto a, auto /*b*/) { return a; };
+    sweepNans<Tarn32f>(tarnsMul_32f, tarnsMul_32f_I, first);
+    sweepNans<Tarn64f>(tarnsMul_64f, tarnsMul_64f_I, first);
+    const auto realOfSecond = [](auto /*a*/, auto b) { return decltype(b){b.re, b.re}; };
+    sweepNans<Tarn32fc>(tarnsMul_32fc, tarnsMul_32fc_I, realOfSecond);
+    sweepNans<Tarn64fc>(tarnsMul_64fc, tarnsMul_64fc_I, realOfSecond);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "model/product.h"
 #include "support/checks.h"
 #include "support/fpstate.h"
+#include "support/nans.h"
 #include "support/scaled.h"
 
 #include <cmath>
@@ -282,6 +283,14 @@ TEST(MulC, ChecksInOrder)
         expectChecks(tarnsMulC_32f16s_Sfs, {}, array, val, array, length, 1000);
         expectChecks(tarnsMulC_Low_32f16s, {}, array, val, array, length);
     }
+}
+
+// Of two NaNs the real part of the constant survives.
+TEST(MulC, TwoNans)
+{
+    const auto realOfSecond = [](auto /*a*/, auto b) { return decltype(b){b.re, b.re}; };
+    sweepNansWithConstant<Tarn32fc>(tarnsMulC_32fc, realOfSecond);
+    sweepNansWithConstant<Tarn64fc>(tarnsMulC_64fc, realOfSecond);
 }
 
 } // namespace

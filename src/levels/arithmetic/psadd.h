@@ -1,60 +1,39 @@
 // Kernels of the Add family.
 #pragma once
 
-#include "frame/kernels.h"
+#include "frame/family.h"
 
-TARN_DECLARE_SCALED_KERNELS(ownsAdd_8u, VECTORS, Tarn8u);
-TARN_DECLARE_SCALED_KERNELS(ownsAdd_8u_I, VECTORS_I, Tarn8u);
-TARN_DECLARE_SCALED_KERNELS(ownsAdd_16s, VECTORS, Tarn16s);
-TARN_DECLARE_SCALED_KERNELS(ownsAdd_16s_I, VECTORS_I, Tarn16s);
-TARN_DECLARE_SCALED_KERNELS(ownsAdd_32s, VECTORS, Tarn32s);
-TARN_DECLARE_SCALED_KERNELS(ownsAdd_32s_I, VECTORS_I, Tarn32s);
-TARN_DECLARE_KERNEL(ownsAdd_8u_Bound, VECTORS, Tarn8u);
-TARN_DECLARE_KERNEL(ownsAdd_8u_I_Bound, VECTORS_I, Tarn8u);
-TARN_DECLARE_KERNEL(ownsAdd_16s_Bound, VECTORS, Tarn16s);
-TARN_DECLARE_KERNEL(ownsAdd_16s_I_Bound, VECTORS_I, Tarn16s);
+namespace tarn {
+
+// A sum has one bit more than its operands.
+inline constexpr ScaleLimits sumLimits_8u{9, 7};
+inline constexpr ScaleLimits sumLimits_16s{16, 15};
+inline constexpr ScaleLimits sumLimits_32s{32, 30};
+
+} // namespace tarn
+
+#define TARN_ADD_SCALED(X)                                    \
+    X(Add, VECTORS, 8u, Real, sumLimits_8u, EXPORTED)         \
+    X(Add, VECTORS, 16s, Real, sumLimits_16s, EXPORTED)       \
+    X(Add, VECTORS, 32s, Real, sumLimits_32s, HIDDEN)         \
+    X(AddC, CONSTANT, 8u, Real, sumLimits_8u, EXPORTED)       \
+    X(AddC, CONSTANT, 16s, Real, sumLimits_16s, EXPORTED)     \
+    X(AddC, CONSTANT, 16sc, Complex, sumLimits_16s, EXPORTED) \
+    X(AddC, CONSTANT, 32s, Real, sumLimits_32s, HIDDEN)       \
+    X(AddC, CONSTANT, 32sc, Complex, sumLimits_32s, HIDDEN)
+
+#define TARN_ADD_PLAIN(X)                    \
+    X(Add, VECTORS, 32f, addInOrder)         \
+    X(Add, VECTORS, 64f, addInOrder)         \
+    X(AddC, CONSTANT, 32f, addInOrder)       \
+    X(AddC, CONSTANT, 64f, addInOrder)       \
+    X(AddC, CONSTANT, 32fc, addPartsInOrder) \
+    X(AddC, CONSTANT, 64fc, addPartsInOrder)
+
+TARN_ADD_SCALED(TARN_DECLARE_SCALED_MEMBER)
+TARN_ADD_PLAIN(TARN_DECLARE_PLAIN_MEMBER)
 
 TARN_KERNEL void ownsAdd_8u16u(const Tarn8u* pSrc1, const Tarn8u* pSrc2, Tarn16u* pDst, int len);
 TARN_KERNEL void ownsAdd_16s32f(const Tarn16s* pSrc1, const Tarn16s* pSrc2, Tarn32f* pDst, int len);
 TARN_DECLARE_KERNEL(ownsAdd_16u, VECTORS, Tarn16u);
 TARN_DECLARE_KERNEL(ownsAdd_32u, VECTORS, Tarn32u);
-TARN_DECLARE_KERNEL(ownsAdd_32f, VECTORS, Tarn32f);
-TARN_DECLARE_KERNEL(ownsAdd_32f_I, VECTORS_I, Tarn32f);
-TARN_DECLARE_KERNEL(ownsAdd_64f, VECTORS, Tarn64f);
-TARN_DECLARE_KERNEL(ownsAdd_64f_I, VECTORS_I, Tarn64f);
-
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_8u, CONSTANT, Tarn8u);
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_8u_I, CONSTANT_I, Tarn8u);
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_16s, CONSTANT, Tarn16s);
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_16s_I, CONSTANT_I, Tarn16s);
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_16sc, CONSTANT, Tarn16sc);
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_16sc_I, CONSTANT_I, Tarn16sc);
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_32s, CONSTANT, Tarn32s);
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_32s_I, CONSTANT_I, Tarn32s);
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_32sc, CONSTANT, Tarn32sc);
-TARN_DECLARE_SCALED_KERNELS(ownsAddC_32sc_I, CONSTANT_I, Tarn32sc);
-TARN_DECLARE_KERNEL(ownsAddC_8u_Bound, CONSTANT, Tarn8u);
-TARN_DECLARE_KERNEL(ownsAddC_8u_I_Bound, CONSTANT_I, Tarn8u);
-TARN_DECLARE_KERNEL(ownsAddC_16s_Bound, CONSTANT, Tarn16s);
-TARN_DECLARE_KERNEL(ownsAddC_16s_I_Bound, CONSTANT_I, Tarn16s);
-TARN_DECLARE_KERNEL(ownsAddC_16sc_Bound, CONSTANT, Tarn16sc);
-TARN_DECLARE_KERNEL(ownsAddC_16sc_I_Bound, CONSTANT_I, Tarn16sc);
-
-TARN_DECLARE_KERNEL(ownsAddC_32f, CONSTANT, Tarn32f);
-TARN_DECLARE_KERNEL(ownsAddC_32f_I, CONSTANT_I, Tarn32f);
-TARN_DECLARE_KERNEL(ownsAddC_64f, CONSTANT, Tarn64f);
-TARN_DECLARE_KERNEL(ownsAddC_64f_I, CONSTANT_I, Tarn64f);
-TARN_DECLARE_KERNEL(ownsAddC_32fc, CONSTANT, Tarn32fc);
-TARN_DECLARE_KERNEL(ownsAddC_32fc_I, CONSTANT_I, Tarn32fc);
-TARN_DECLARE_KERNEL(ownsAddC_64fc, CONSTANT, Tarn64fc);
-TARN_DECLARE_KERNEL(ownsAddC_64fc_I, CONSTANT_I, Tarn64fc);
-
-// The case that the sign decides, where it has no exported name.
-namespace tarn {
-void addBound_32s(TARN_VECTORS_PARAMETERS(Tarn32s));
-void addBound_32s_I(TARN_VECTORS_I_PARAMETERS(Tarn32s));
-void addCBound_32s(TARN_CONSTANT_PARAMETERS(Tarn32s));
-void addCBound_32s_I(TARN_CONSTANT_I_PARAMETERS(Tarn32s));
-void addCBound_32sc(TARN_CONSTANT_PARAMETERS(Tarn32sc));
-void addCBound_32sc_I(TARN_CONSTANT_I_PARAMETERS(Tarn32sc));
-} // namespace tarn

@@ -1,6 +1,7 @@
 // Kernels that add a product of two vectors to a third one.
 #include "levels/arithmetic/psaddproduct.h"
 
+#include "frame/simd_ordered.h"
 #include "levels/arithmetic/psproducts.h"
 
 namespace {
@@ -42,7 +43,7 @@ struct FloatSum {
     template <typename X>
     TARN_INLINE X operator()(X a, X b, X sum) const
     {
-        return add(mul(a, b), sum);
+        return addInOrder(mulInOrder(a, b), sum);
     }
 };
 
@@ -50,8 +51,7 @@ struct ComplexSum {
     template <typename X>
     TARN_INLINE X operator()(X a, X b, X sum) const
     {
-        constexpr PerPart<Word<Add>> addParts{add};
-        return addParts(mulComplex(a, b), sum);
+        return addPartsInOrder(mulComplexInOrder(a, b), sum);
     }
 };
 

@@ -3,55 +3,38 @@
 
 #include "frame/kernels.h"
 
-TARN_DECLARE_KERNEL(ownps_And_8u, VECTORS, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_And_8u_I, VECTORS_I, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_And_16u, VECTORS, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_And_16u_I, VECTORS_I, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_And_32u, VECTORS, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_And_32u_I, VECTORS_I, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_Or_8u, VECTORS, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_Or_8u_I, VECTORS_I, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_Or_16u, VECTORS, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_Or_16u_I, VECTORS_I, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_Or_32u, VECTORS, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_Or_32u_I, VECTORS_I, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_Xor_8u, VECTORS, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_Xor_8u_I, VECTORS_I, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_Xor_16u, VECTORS, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_Xor_16u_I, VECTORS_I, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_Xor_32u, VECTORS, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_Xor_32u_I, VECTORS_I, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_AndC_8u, CONSTANT, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_AndC_8u_I, CONSTANT_I, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_AndC_16u, CONSTANT, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_AndC_16u_I, CONSTANT_I, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_AndC_32u, CONSTANT, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_AndC_32u_I, CONSTANT_I, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_OrC_8u, CONSTANT, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_OrC_8u_I, CONSTANT_I, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_OrC_16u, CONSTANT, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_OrC_16u_I, CONSTANT_I, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_OrC_32u, CONSTANT, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_OrC_32u_I, CONSTANT_I, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_XorC_8u, CONSTANT, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_XorC_8u_I, CONSTANT_I, Tarn8u);
-TARN_DECLARE_KERNEL(ownps_XorC_16u, CONSTANT, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_XorC_16u_I, CONSTANT_I, Tarn16u);
-TARN_DECLARE_KERNEL(ownps_XorC_32u, CONSTANT, Tarn32u);
-TARN_DECLARE_KERNEL(ownps_XorC_32u_I, CONSTANT_I, Tarn32u);
+// Each with a vector and with a constant, out of place and in place: the operation, the tag, the word of the
+// vocabulary.
+#define TARN_LOGIC(X)   \
+    X(And, 8u, bitAnd)  \
+    X(And, 16u, bitAnd) \
+    X(And, 32u, bitAnd) \
+    X(Or, 8u, bitOr)    \
+    X(Or, 16u, bitOr)   \
+    X(Or, 32u, bitOr)   \
+    X(Xor, 8u, bitXor)  \
+    X(Xor, 16u, bitXor) \
+    X(Xor, 32u, bitXor)
+
+// The same for shifts, and what a front end does where the count is the width or more.
+#define TARN_SHIFTS(X)                      \
+    X(LShift, 8u, shiftLeft, shiftOut)      \
+    X(LShift, 16u, shiftLeft, shiftOut)     \
+    X(LShift, 32s, shiftLeft, shiftOut)     \
+    X(RShift, 8u, shiftRight, shiftOut)     \
+    X(RShift, 16u, shiftRight, shiftOut)    \
+    X(RShift, 16s, shiftRight, shiftToSign) \
+    X(RShift, 32s, shiftRight, shiftToSign)
+
+#define TARN_DECLARE_LOGIC(OP, TAG, WORD)                              \
+    TARN_DECLARE_KERNEL(ownps_##OP##_##TAG, VECTORS, Tarn##TAG);       \
+    TARN_DECLARE_KERNEL(ownps_##OP##_##TAG##_I, VECTORS_I, Tarn##TAG); \
+    TARN_DECLARE_KERNEL(ownps_##OP##C_##TAG, CONSTANT, Tarn##TAG);     \
+    TARN_DECLARE_KERNEL(ownps_##OP##C_##TAG##_I, CONSTANT_I, Tarn##TAG);
+TARN_LOGIC(TARN_DECLARE_LOGIC)
 
 // Shifts by counts below the width.
-TARN_KERNEL void ownps_LShift_8u(const Tarn8u* pSrc, int val, Tarn8u* pDst, int len);
-TARN_KERNEL void ownps_LShift_8u_I(int val, Tarn8u* pSrcDst, int len);
-TARN_KERNEL void ownps_LShift_16u(const Tarn16u* pSrc, int val, Tarn16u* pDst, int len);
-TARN_KERNEL void ownps_LShift_16u_I(int val, Tarn16u* pSrcDst, int len);
-TARN_KERNEL void ownps_LShift_32s(const Tarn32s* pSrc, int val, Tarn32s* pDst, int len);
-TARN_KERNEL void ownps_LShift_32s_I(int val, Tarn32s* pSrcDst, int len);
-TARN_KERNEL void ownps_RShift_8u(const Tarn8u* pSrc, int val, Tarn8u* pDst, int len);
-TARN_KERNEL void ownps_RShift_8u_I(int val, Tarn8u* pSrcDst, int len);
-TARN_KERNEL void ownps_RShift_16u(const Tarn16u* pSrc, int val, Tarn16u* pDst, int len);
-TARN_KERNEL void ownps_RShift_16u_I(int val, Tarn16u* pSrcDst, int len);
-TARN_KERNEL void ownps_RShift_16s(const Tarn16s* pSrc, int val, Tarn16s* pDst, int len);
-TARN_KERNEL void ownps_RShift_16s_I(int val, Tarn16s* pSrcDst, int len);
-TARN_KERNEL void ownps_RShift_32s(const Tarn32s* pSrc, int val, Tarn32s* pDst, int len);
-TARN_KERNEL void ownps_RShift_32s_I(int val, Tarn32s* pSrcDst, int len);
+#define TARN_DECLARE_SHIFT(OP, TAG, WORD, BEYOND)                                                  \
+    TARN_KERNEL void ownps_##OP##_##TAG(const Tarn##TAG* pSrc, int val, Tarn##TAG* pDst, int len); \
+    TARN_KERNEL void ownps_##OP##_##TAG##_I(int val, Tarn##TAG* pSrcDst, int len);
+TARN_SHIFTS(TARN_DECLARE_SHIFT)

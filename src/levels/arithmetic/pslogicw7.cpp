@@ -3,18 +3,10 @@
 
 using namespace tarn;
 
-#define TARN_LOGIC_KERNELS(OP, TAG, OPERATION)                                  \
-    TARN_DEFINE_KERNEL(ownps_##OP##_##TAG, VECTORS, Tarn##TAG, OPERATION)       \
-    TARN_DEFINE_KERNEL(ownps_##OP##_##TAG##_I, VECTORS_I, Tarn##TAG, OPERATION) \
-    TARN_DEFINE_KERNEL(ownps_##OP##C_##TAG, CONSTANT, Tarn##TAG, OPERATION)     \
-    TARN_DEFINE_KERNEL(ownps_##OP##C_##TAG##_I, CONSTANT_I, Tarn##TAG, OPERATION)
+#define TARN_DEFINE_LOGIC(OP, TAG, WORD)                                \
+    TARN_DEFINE_KERNEL(ownps_##OP##_##TAG, VECTORS, Tarn##TAG, WORD)    \
+    TARN_DEFINE_KERNEL_IN_PLACE(ownps_##OP##_##TAG, VECTORS, Tarn##TAG) \
+    TARN_DEFINE_KERNEL(ownps_##OP##C_##TAG, CONSTANT, Tarn##TAG, WORD)  \
+    TARN_DEFINE_KERNEL_IN_PLACE(ownps_##OP##C_##TAG, CONSTANT, Tarn##TAG)
 
-TARN_LOGIC_KERNELS(And, 8u, bitAnd)
-TARN_LOGIC_KERNELS(And, 16u, bitAnd)
-TARN_LOGIC_KERNELS(And, 32u, bitAnd)
-TARN_LOGIC_KERNELS(Or, 8u, bitOr)
-TARN_LOGIC_KERNELS(Or, 16u, bitOr)
-TARN_LOGIC_KERNELS(Or, 32u, bitOr)
-TARN_LOGIC_KERNELS(Xor, 8u, bitXor)
-TARN_LOGIC_KERNELS(Xor, 16u, bitXor)
-TARN_LOGIC_KERNELS(Xor, 32u, bitXor)
+TARN_LOGIC(TARN_DEFINE_LOGIC)

@@ -4,15 +4,23 @@
 #include "frame/kernels.h"
 #include "levels/arithmetic/psmul.h"
 
+#define TARN_MULC_SCALED(X) X(MulC, CONSTANT, 16sc, ComplexWords, productLimits_16sc, EXPORTED)
+
+#define TARN_MULC_PLAIN(X)                     \
+    X(MulC, CONSTANT, 32f, mulInOrder)         \
+    X(MulC, CONSTANT, 64f, mulInOrder)         \
+    X(MulC, CONSTANT, 32fc, mulComplexInOrder) \
+    X(MulC, CONSTANT, 64fc, mulComplexInOrder)
+
+TARN_MULC_SCALED(TARN_DECLARE_SCALED_MEMBER)
+TARN_MULC_PLAIN(TARN_DECLARE_PLAIN_MEMBER)
+
+// Where the sign decides bytes, the kernel of another family serves out of place.
 TARN_DECLARE_SCALED_KERNELS(ownsMulC_8u, CONSTANT, Tarn8u);
 TARN_DECLARE_SCALED_KERNELS(ownsMulC_8u_I, CONSTANT_I, Tarn8u);
-TARN_DECLARE_SCALED_KERNELS(ownsMulC_16s_I, CONSTANT_I, Tarn16s);
-TARN_DECLARE_SCALED_KERNELS(ownsMulC_16sc, CONSTANT, Tarn16sc);
-TARN_DECLARE_SCALED_KERNELS(ownsMulC_16sc_I, CONSTANT_I, Tarn16sc);
 TARN_DECLARE_KERNEL(ownsMulC_8u_I_Bound, CONSTANT_I, Tarn8u);
+TARN_DECLARE_SCALED_KERNELS(ownsMulC_16s_I, CONSTANT_I, Tarn16s);
 TARN_DECLARE_KERNEL(ownsMulC_16s_I_Bound, CONSTANT_I, Tarn16s);
-TARN_DECLARE_KERNEL(ownsMulC_16sc_Bound, CONSTANT, Tarn16sc);
-TARN_DECLARE_KERNEL(ownsMulC_16sc_I_Bound, CONSTANT_I, Tarn16sc);
 
 // Halving is a shift like any other here.
 TARN_DECLARE_KERNEL(ownsMulC_16s, CONSTANT, Tarn16s);
@@ -32,21 +40,11 @@ TARN_DECLARE_OVERFLOW_KERNELS(ownsMulC_16sc_I, CONSTANT_I);
 
 TARN_KERNEL void ownsMulC_32f16s(const Tarn32f* pSrc, Tarn32f val, Tarn16s* pDst, int len);
 TARN_KERNEL void ownsMulC_Low_32f16s(const Tarn32f* pSrc, Tarn32f val, Tarn16s* pDst, int len);
-TARN_DECLARE_KERNEL(ownsMulC_32f, CONSTANT, Tarn32f);
-TARN_DECLARE_KERNEL(ownsMulC_32f_I, CONSTANT_I, Tarn32f);
-TARN_DECLARE_KERNEL(ownsMulC_64f, CONSTANT, Tarn64f);
-TARN_DECLARE_KERNEL(ownsMulC_64f_I, CONSTANT_I, Tarn64f);
-TARN_DECLARE_KERNEL(ownsMulC_32fc, CONSTANT, Tarn32fc);
-TARN_DECLARE_KERNEL(ownsMulC_32fc_I, CONSTANT_I, Tarn32fc);
-TARN_DECLARE_KERNEL(ownsMulC_64fc, CONSTANT, Tarn64fc);
-TARN_DECLARE_KERNEL(ownsMulC_64fc_I, CONSTANT_I, Tarn64fc);
 
 namespace tarn {
 
 // The kernels without exported names, as tables: the exact products of 32-bit integers.
 extern const ConstantKernels<Tarn32s> mulC_32s;
-extern const ConstantKernels_I<Tarn32s> mulC_32s_I;
 extern const ConstantKernels<Tarn32sc> mulC_32sc;
-extern const ConstantKernels_I<Tarn32sc> mulC_32sc_I;
 
 } // namespace tarn

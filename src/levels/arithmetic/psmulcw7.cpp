@@ -2,6 +2,7 @@
 #include "levels/arithmetic/psmulc.h"
 
 #include "frame/kernel_table.h"
+#include "frame/simd_ordered.h"
 #include "frame/simd_round.h"
 #include "levels/arithmetic/psproducts.h"
 
@@ -46,15 +47,12 @@ using Complex32s = ExactCases<Tarn32sc, ComplexProduct>;
 
 } // namespace
 
+TARN_MULC_SCALED(TARN_DEFINE_SCALED_MEMBER)
+TARN_MULC_PLAIN(TARN_DEFINE_PLAIN_MEMBER)
+
 TARN_DEFINE_SCALED_KERNELS(ownsMulC_8u, CONSTANT, Tarn8u, Bytes)
-TARN_DEFINE_SCALED_KERNELS(ownsMulC_8u_I, CONSTANT_I, Tarn8u, Bytes)
-TARN_DEFINE_SCALED_KERNELS(ownsMulC_16s_I, CONSTANT_I, Tarn16s, Words)
-TARN_DEFINE_SCALED_KERNELS(ownsMulC_16sc, CONSTANT, Tarn16sc, ComplexWords)
-TARN_DEFINE_SCALED_KERNELS(ownsMulC_16sc_I, CONSTANT_I, Tarn16sc, ComplexWords)
+TARN_DEFINE_SCALED_KERNELS_IN_PLACE(ownsMulC_8u, CONSTANT, Tarn8u)
 TARN_DEFINE_KERNEL(ownsMulC_8u_I_Bound, CONSTANT_I, Tarn8u, Bytes::Sign{})
-TARN_DEFINE_KERNEL(ownsMulC_16s_I_Bound, CONSTANT_I, Tarn16s, Words::Sign{})
-TARN_DEFINE_KERNEL(ownsMulC_16sc_Bound, CONSTANT, Tarn16sc, ComplexWords::Sign{})
-TARN_DEFINE_KERNEL(ownsMulC_16sc_I_Bound, CONSTANT_I, Tarn16sc, ComplexWords::Sign{})
 
 TARN_DEFINE_KERNEL(ownsMulC_16s, CONSTANT, Tarn16s, Words::Plain{})
 TARN_DEFINE_KERNEL(ownsMulC_16s_Bound, CONSTANT, Tarn16s, Words::Sign{})
@@ -69,13 +67,25 @@ void ownsMulC_16s_NegSfs(const Tarn16s* pSrc, Tarn16s val, Tarn16s* pDst, int le
     apply(Words::Neg{shift}, pSrc, val, pDst, len);
 }
 
+void ownsMulC_16s_I(Tarn16s val, Tarn16s* pSrcDst, int len) { ownsMulC_16s(pSrcDst, val, pSrcDst, len); }
+
+void ownsMulC_16s_I_1Sfs(Tarn16s val, Tarn16s* pSrcDst, int len) { ownsMulC_16s_PosSfs(pSrcDst, val, pSrcDst, len, 1); }
+
+void ownsMulC_16s_I_PosSfs(Tarn16s val, Tarn16s* pSrcDst, int len, int scaleFactor)
+{
+    ownsMulC_16s_PosSfs(pSrcDst, val, pSrcDst, len, scaleFactor);
+}
+
+void ownsMulC_16s_I_NegSfs(Tarn16s val, Tarn16s* pSrcDst, int len, int shift)
+{
+    ownsMulC_16s_NegSfs(pSrcDst, val, pSrcDst, len, shift);
+}
+
+void ownsMulC_16s_I_Bound(Tarn16s val, Tarn16s* pSrcDst, int len) { ownsMulC_16s_Bound(pSrcDst, val, pSrcDst, len); }
+
 constinit const ConstantKernels<Tarn32s> tarn::mulC_32s = tableOf<ConstantKernels<Tarn32s>, Real32s>(productLimits_32s);
-constinit const ConstantKernels_I<Tarn32s> tarn::mulC_32s_I =
-    tableOf<ConstantKernels_I<Tarn32s>, Real32s>(productLimits_32s);
 constinit const ConstantKernels<Tarn32sc> tarn::mulC_32sc =
     tableOf<ConstantKernels<Tarn32sc>, Complex32s>(productLimits_32sc);
-constinit const ConstantKernels_I<Tarn32sc> tarn::mulC_32sc_I =
-    tableOf<ConstantKernels_I<Tarn32sc>, Complex32s>(productLimits_32sc);
 
 void ownsMulC_32f16s(const Tarn32f* pSrc, Tarn32f val, Tarn16s* pDst, int len)
 {
@@ -88,26 +98,20 @@ void ownsMulC_Low_32f16s(const Tarn32f* pSrc, Tarn32f val, Tarn16s* pDst, int le
     walk(pDst, len, WithConstant<ProductTo16s, Tarn32f>{{}, val}, pSrc);
 }
 
-TARN_DEFINE_KERNEL(ownsMulC_32f, CONSTANT, Tarn32f, mul)
-TARN_DEFINE_KERNEL(ownsMulC_32f_I, CONSTANT_I, Tarn32f, mul)
-TARN_DEFINE_KERNEL(ownsMulC_64f, CONSTANT, Tarn64f, mul)
-TARN_DEFINE_KERNEL(ownsMulC_64f_I, CONSTANT_I, Tarn64f, mul)
-TARN_DEFINE_KERNEL(ownsMulC_32fc, CONSTANT, Tarn32fc, mulComplex)
-TARN_DEFINE_KERNEL(ownsMulC_32fc_I, CONSTANT_I, Tarn32fc, mulComplex)
-TARN_DEFINE_KERNEL(ownsMulC_64fc, CONSTANT, Tarn64fc, mulComplex)
-TARN_DEFINE_KERNEL(ownsMulC_64fc_I, CONSTANT_I, Tarn64fc, mulComplex)
+// For a constant whose imaginary part lacks a negative.
+#define TARN_DEFINE_OVERFLOW_KERNELS(SHAPE, NAME, ...)                                                          \
+    void NAME##_Ovf(TARN_##SHAPE##_PARAMETERS(Tarn16sc)) { overflow.plain(__VA_ARGS__); }                       \
+    void NAME##_1OvfSfs(TARN_##SHAPE##_PARAMETERS(Tarn16sc)) { overflow.one(__VA_ARGS__); }                     \
+    void NAME##_PosOvfSfs(TARN_##SHAPE##_PARAMETERS(Tarn16sc), int scaleFactor)                                 \
+    {                                                                                                           \
+        overflow.pos(__VA_ARGS__, scaleFactor);                                                                 \
+    }                                                                                                           \
+    void NAME##_NegOvfSfs(TARN_##SHAPE##_PARAMETERS(Tarn16sc), int shift) { overflow.neg(__VA_ARGS__, shift); } \
+    void NAME##_BoundOvf(TARN_##SHAPE##_PARAMETERS(Tarn16sc)) { overflow.bound(__VA_ARGS__); }
 
-#define TARN_DEFINE_OVERFLOW_KERNELS(NAME, SHAPE)                               \
-    TARN_DEFINE_KERNEL(NAME##_Ovf, SHAPE, Tarn16sc, ComplexWordsOvf::Plain{})   \
-    TARN_DEFINE_KERNEL(NAME##_1OvfSfs, SHAPE, Tarn16sc, ComplexWordsOvf::One{}) \
-    void NAME##_PosOvfSfs(TARN_##SHAPE##_PARAMETERS(Tarn16sc), int scaleFactor) \
-    {                                                                           \
-        apply(ComplexWordsOvf::Pos{scaleFactor}, TARN_##SHAPE##_ARGUMENTS);     \
-    }                                                                           \
-    void NAME##_NegOvfSfs(TARN_##SHAPE##_PARAMETERS(Tarn16sc), int shift)       \
-    {                                                                           \
-        apply(ComplexWordsOvf::Neg{shift}, TARN_##SHAPE##_ARGUMENTS);           \
-    }                                                                           \
-    TARN_DEFINE_KERNEL(NAME##_BoundOvf, SHAPE, Tarn16sc, ComplexWordsOvf::Sign{})
-TARN_DEFINE_OVERFLOW_KERNELS(ownsMulC_16sc, CONSTANT)
-TARN_DEFINE_OVERFLOW_KERNELS(ownsMulC_16sc_I, CONSTANT_I)
+namespace {
+constexpr auto overflow = tableOf<ConstantKernels<Tarn16sc>, ComplexWordsOvf>(productLimits_16sc);
+} // namespace
+
+TARN_DEFINE_OVERFLOW_KERNELS(CONSTANT, ownsMulC_16sc, TARN_CONSTANT_ARGUMENTS)
+TARN_DEFINE_OVERFLOW_KERNELS(CONSTANT_I, ownsMulC_16sc_I, TARN_CONSTANT_IN_PLACE)

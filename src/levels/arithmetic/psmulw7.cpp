@@ -2,6 +2,7 @@
 #include "levels/arithmetic/psmul.h"
 
 #include "frame/kernel_table.h"
+#include "frame/simd_ordered.h"
 #include "levels/arithmetic/psproducts.h"
 
 namespace {
@@ -55,33 +56,20 @@ using Mixed32s = ExactCases<Tarn32sc, MixedProduct>;
 
 } // namespace
 
-TARN_DEFINE_SCALED_KERNELS(ownsMul_8u, VECTORS, Tarn8u, Bytes)
-TARN_DEFINE_SCALED_KERNELS(ownsMul_8u_I, VECTORS_I, Tarn8u, Bytes)
-TARN_DEFINE_SCALED_KERNELS(ownsMul_16s, VECTORS, Tarn16s, Words)
-TARN_DEFINE_SCALED_KERNELS(ownsMul_16s_I, VECTORS_I, Tarn16s, Words)
-TARN_DEFINE_SCALED_KERNELS(ownsMul_16s32s, TO_32S, Tarn16s, WordsTo32s)
-TARN_DEFINE_SCALED_KERNELS(ownsMul_16u16s, WITH_16U, Tarn16s, UnsignedWords)
-TARN_DEFINE_SCALED_KERNELS(ownsMul_16sc, VECTORS, Tarn16sc, ComplexWords)
-TARN_DEFINE_SCALED_KERNELS(ownsMul_16sc_I, VECTORS_I, Tarn16sc, ComplexWords)
+TARN_MUL_SCALED(TARN_DEFINE_SCALED_MEMBER)
+TARN_MUL_PLAIN(TARN_DEFINE_PLAIN_MEMBER)
+
 TARN_DEFINE_SCALED_KERNELS_BY_DOUBLES(ownsMul_32s, VECTORS, ProductByDoubles)
-TARN_DEFINE_SCALED_KERNELS_BY_DOUBLES(ownsMul_32s_I, VECTORS_I, ProductByDoubles)
-TARN_DEFINE_KERNEL(ownsMul_8u_Bound, VECTORS, Tarn8u, Bytes::Sign{})
-TARN_DEFINE_KERNEL(ownsMul_8u_I_Bound, VECTORS_I, Tarn8u, Bytes::Sign{})
-TARN_DEFINE_KERNEL(ownsMul_16s_Bound, VECTORS, Tarn16s, Words::Sign{})
-TARN_DEFINE_KERNEL(ownsMul_16s_I_Bound, VECTORS_I, Tarn16s, Words::Sign{})
-TARN_DEFINE_KERNEL(tarn::mulBound_16s32s, TO_32S, Tarn16s, WordsTo32s::Sign{})
+TARN_DEFINE_SCALED_KERNELS_IN_PLACE(ownsMul_32s, VECTORS, Tarn32s)
+TARN_DEFINE_KERNEL(tarn::ownsMul_32s_Bound, VECTORS, Tarn32s, SignOfWhole<ProductByDoubles>{})
+TARN_DEFINE_SCALED_KERNELS(ownsMul_16s32s, TO_32S, Tarn16s, WordsTo32s)
+TARN_DEFINE_KERNEL(tarn::ownsMul_16s32s_Bound, TO_32S, Tarn16s, WordsTo32s::Sign{})
+TARN_DEFINE_SCALED_KERNELS(ownsMul_16u16s, WITH_16U, Tarn16s, UnsignedWords)
 TARN_DEFINE_KERNEL(ownsMul_16u16s_Bound, WITH_16U, Tarn16s, UnsignedWords::Sign{})
-TARN_DEFINE_KERNEL(ownsMul_16sc_Bound, VECTORS, Tarn16sc, ComplexWords::Sign{})
-TARN_DEFINE_KERNEL(ownsMul_16sc_I_Bound, VECTORS_I, Tarn16sc, ComplexWords::Sign{})
-TARN_DEFINE_KERNEL(tarn::mulBound_32s, VECTORS, Tarn32s, SignOfWhole<ProductByDoubles>{})
-TARN_DEFINE_KERNEL(tarn::mulBound_32s_I, VECTORS_I, Tarn32s, SignOfWhole<ProductByDoubles>{})
 
 constinit const MixedKernels tarn::mul_32s32sc = tableOf<MixedKernels, Mixed32s>(productLimits_32s);
-constinit const MixedKernels_I tarn::mul_32s32sc_I = tableOf<MixedKernels_I, Mixed32s>(productLimits_32s);
 constinit const VectorKernels<Tarn32sc> tarn::mul_32sc =
     tableOf<VectorKernels<Tarn32sc>, Complex32s>(productLimits_32sc);
-constinit const VectorKernels_I<Tarn32sc> tarn::mul_32sc_I =
-    tableOf<VectorKernels_I<Tarn32sc>, Complex32s>(productLimits_32sc);
 
 void ownsMul_8u16u(const Tarn8u* pSrc1, const Tarn8u* pSrc2, Tarn16u* pDst, int len)
 {
@@ -92,12 +80,3 @@ void ownsMul_16s32f(const Tarn16s* pSrc1, const Tarn16s* pSrc2, Tarn32f* pDst, i
 {
     walk(pDst, len, ProductToFloat{}, pSrc1, pSrc2);
 }
-
-TARN_DEFINE_KERNEL(ownsMul_32f, VECTORS, Tarn32f, mul)
-TARN_DEFINE_KERNEL(ownsMul_32f_I, VECTORS_I, Tarn32f, mul)
-TARN_DEFINE_KERNEL(ownsMul_64f, VECTORS, Tarn64f, mul)
-TARN_DEFINE_KERNEL(ownsMul_64f_I, VECTORS_I, Tarn64f, mul)
-TARN_DEFINE_KERNEL(ownsMul_32fc, VECTORS, Tarn32fc, mulComplex)
-TARN_DEFINE_KERNEL(ownsMul_32fc_I, VECTORS_I, Tarn32fc, mulComplex)
-TARN_DEFINE_KERNEL(ownsMul_64fc, VECTORS, Tarn64fc, mulComplex)
-TARN_DEFINE_KERNEL(ownsMul_64fc_I, VECTORS_I, Tarn64fc, mulComplex)

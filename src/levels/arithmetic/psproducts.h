@@ -53,6 +53,8 @@ TARN_INLINE X limitTo32s(X t)
 // What an operation on doubles gives, as an integer. Operation::plain is the unscaled result.
 template <typename Operation>
 struct WholeOf {
+    static constexpr int stepsAtOnce = 1;
+
     template <typename... X>
     TARN_INLINE auto operator()(X... x) const
     {
@@ -64,6 +66,7 @@ struct WholeOf {
 template <typename Operation>
 struct ScaledWholeOf {
     Tarn64f factor;
+    static constexpr int stepsAtOnce = 1;
 
     template <typename... X>
     TARN_INLINE auto operator()(X... x) const
@@ -75,6 +78,8 @@ struct ScaledWholeOf {
 // The sign of the result, and zero, survive the limits.
 template <typename Operation>
 struct SignOfWhole {
+    static constexpr int stepsAtOnce = 1;
+
     template <typename... X>
     TARN_INLINE auto operator()(X... x) const
     {

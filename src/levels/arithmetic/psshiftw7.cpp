@@ -45,20 +45,14 @@ void shiftAll(Word shift, const T* pSrc, int val, T* pDst, int len)
 
 } // namespace
 
-#define TARN_SHIFT_KERNELS(OP, TAG, WORD)                                             \
+#define TARN_DEFINE_SHIFT(OP, TAG, WORD, BEYOND)                                      \
     void ownps_##OP##_##TAG(const Tarn##TAG* pSrc, int val, Tarn##TAG* pDst, int len) \
     {                                                                                 \
         shiftAll(WORD, pSrc, val, pDst, len);                                         \
     }                                                                                 \
     void ownps_##OP##_##TAG##_I(int val, Tarn##TAG* pSrcDst, int len)                 \
     {                                                                                 \
-        shiftAll(WORD, static_cast<const Tarn##TAG*>(pSrcDst), val, pSrcDst, len);    \
+        ownps_##OP##_##TAG(pSrcDst, val, pSrcDst, len);                               \
     }
 
-TARN_SHIFT_KERNELS(LShift, 8u, shiftLeft)
-TARN_SHIFT_KERNELS(LShift, 16u, shiftLeft)
-TARN_SHIFT_KERNELS(LShift, 32s, shiftLeft)
-TARN_SHIFT_KERNELS(RShift, 8u, shiftRight)
-TARN_SHIFT_KERNELS(RShift, 16u, shiftRight)
-TARN_SHIFT_KERNELS(RShift, 16s, shiftRight)
-TARN_SHIFT_KERNELS(RShift, 32s, shiftRight)
+TARN_SHIFTS(TARN_DEFINE_SHIFT)

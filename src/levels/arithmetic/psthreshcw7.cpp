@@ -36,6 +36,8 @@ TARN_INLINE D scaledTo(Tarn64f level, Measured<D, S> z)
 
 template <typename Comparison, typename T>
 struct MagnitudeLimited {
+    static constexpr int stepsAtOnce = 1;
+
     Comparison comparison;
     Part<T> level;
 

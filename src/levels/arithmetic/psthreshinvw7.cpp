@@ -1,4 +1,5 @@
 // Kernels of the thresholds that invert.
+#include "frame/report.h"
 #include "frame/rounding.h"
 #include "levels/arithmetic/psthresh_magnitude.h"
 #include "levels/arithmetic/psthreshold.h"
@@ -15,11 +16,11 @@ TARN_INLINE X raised(X x, Element<X> level)
 }
 
 struct Inverted_32f {
+    static constexpr int stepsAtOnce = 1;
     Tarn32f level;
-    bool* sawZero;
 
     template <typename X>
-    TARN_INLINE X operator()(X x) const
+    TARN_INLINE X operator()(bool& sawZero, X x) const
     {
         const auto divisor = raised(x, level);
         const auto estimate = approxReciprocal(divisor);
@@ -31,20 +32,20 @@ struct Inverted_32f {
         if (!anyOf(useless)) {
             return inverse;
         }
-        *sawZero = *sawZero || anyOf(equal(divisor, splat<X>(0)));
+        sawZero = sawZero || anyOf(equal(divisor, splat<X>(0)));
         return tarn::select(useless, tarn::div(splat<X>(1), divisor), inverse);
     }
 };
 
 struct Inverted_64f {
+    static constexpr int stepsAtOnce = 1;
     Tarn64f level;
-    bool* sawZero;
 
     template <typename X>
-    TARN_INLINE X operator()(X x) const
+    TARN_INLINE X operator()(bool& sawZero, X x) const
     {
         const auto divisor = raised(x, level);
-        *sawZero = *sawZero || anyOf(equal(divisor, splat<X>(0)));
+        sawZero = sawZero || anyOf(equal(divisor, splat<X>(0)));
         return tarn::div(splat<X>(1), divisor);
     }
 };
@@ -52,11 +53,11 @@ struct Inverted_64f {
 // 1 / z is the conjugate over the square. Below the level it is the conjugate at magnitude 1, over the level.
 template <typename T>
 struct InvertedComplex {
+    static constexpr int stepsAtOnce = 1;
     Part<T> level;
-    bool* sawZero;
 
     template <typename X>
-    TARN_INLINE X operator()(X x) const
+    TARN_INLINE X operator()(bool& sawZero, X x) const
     {
         const auto z = measure(x);
         using D = decltype(z.parts);
@@ -70,7 +71,7 @@ struct InvertedComplex {
         }
         const auto zero = equal(z.squares, splat<S>(0));
         if (anyOf(zero)) {
-            inverse = tarn::select(inBothParts<D>(zero), ofZero(conjugates), inverse);
+            inverse = tarn::select(inBothParts<D>(zero), ofZero(sawZero, conjugates), inverse);
         }
         return fromDoubles<X>(inverse);
     }
@@ -78,10 +79,10 @@ struct InvertedComplex {
 private:
     // A zero is raised to the level along the real axis.
     template <typename D>
-    TARN_INLINE D ofZero(D conjugates) const
+    TARN_INLINE D ofZero(bool& sawZero, D conjugates) const
     {
         if (level == 0) {
-            *sawZero = true;
+            sawZero = true;
             return splat<D>(tarnConstantOfINF_64f);
         }
         return copySign(realParts<D>(1 / Tarn64f{level}), conjugates);
@@ -93,7 +94,7 @@ int invert(const T* pSrc, T* pDst, int len, Part<T> level)
 {
     const MaskedExceptions masked;
     bool sawZero = false;
-    walk(pDst, len, Operation{level, &sawZero}, pSrc);
+    walk(pDst, len, reportingTo(sawZero, Operation{level}), pSrc);
     return sawZero;
 }
 

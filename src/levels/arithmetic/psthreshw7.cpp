@@ -90,12 +90,7 @@ TARN_LIMIT_KERNEL(64f)
         replace(greater, pSrc, pDst, len, level, value);                                                            \
     }
 
-TARN_REPLACE_KERNELS(16s, Tarn16s)
-TARN_REPLACE_KERNELS(16sc, Tarn16s)
-TARN_REPLACE_KERNELS(32f, Tarn32f)
-TARN_REPLACE_KERNELS(32fc, Tarn32f)
-TARN_REPLACE_KERNELS(64f, Tarn64f)
-TARN_REPLACE_KERNELS(64fc, Tarn64f)
+TARN_THRESHOLDS(TARN_REPLACE_KERNELS)
 
 #define TARN_BAND_KERNEL(TAG)                                                                                   \
     void owntarnsThreshLTValueGTValue_##TAG(const Tarn##TAG* pSrc, Tarn##TAG* pDst, int len, Tarn##TAG levelLT, \
@@ -104,6 +99,4 @@ TARN_REPLACE_KERNELS(64fc, Tarn64f)
         walk(pDst, len, Banded<Tarn##TAG>{levelLT, valueLT, levelGT, valueGT}, pSrc);                           \
     }
 
-TARN_BAND_KERNEL(16s)
-TARN_BAND_KERNEL(32f)
-TARN_BAND_KERNEL(64f)
+TARN_BAND_THRESHOLDS(TARN_BAND_KERNEL)
