@@ -2,7 +2,7 @@
 #include "levels/arithmetic/pssqrt.h"
 
 #include "frame/factor.h"
-#include "frame/masked.h"
+#include "frame/rounding.h"
 #include "frame/narrow_float.h"
 #include "frame/newton_root.h"
 #include "frame/report.h"
