@@ -96,7 +96,7 @@ TARN_INLINE Lanes<Tarn32f> exponentialOf(Lanes<Tarn32f> x)
     const X even = mul(splat<X>(12), add(square, splat<X>(10)));
     const X quotient = mul(add(even, odd), refinedReciprocal(sub(even, odd)));
     // The last bits of `spaced` are k.
-    return floatOf<X>(add(bitsOf(quotient), shiftLeft(bitsOf(spaced), 23)));
+    return floatOfBits(add(bitsOf(quotient), shiftLeft(bitsOf(spaced), 23)));
 }
 
 TARN_INLINE Lanes<Tarn32f> besselOfLarge(Lanes<Tarn32f> r)
