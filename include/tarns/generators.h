@@ -239,7 +239,7 @@ TARN_API TarnStatus tarnsVectorRamp_64f(Tarn64f* pDst, int len, Tarn32f offset, 
     of 8 bytes an element.
 
     Floats from a 16-byte boundary on are computed in groups of 16 bytes, `32f` with phases in single precision: their
-    error grows with the phase, to some len 2^-24 of the amplitude at the end of the array. Elements before and behind
+    error grows with the phase, to 5 len 2^-24 of the amplitude at the end of the array. Elements before and behind
     the groups, arrays of fewer than 7 elements (3 of `64f`) and arrays at odd addresses are computed in double
    precision and rounded once.
 
