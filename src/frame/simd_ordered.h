@@ -7,7 +7,8 @@
 
 namespace tarn {
 
-// Stamps an operation on elements and on registers of 16 bytes from the stem of its instruction.
+// Stamps an operation on elements and on registers of 16 bytes from the stem of its instruction. A register's operand
+// is never in memory: the compiler would put an array there, of which nothing says that it is aligned.
 #define TARN_ORDERED_OPERATION(NAME, STEM)                           \
     struct NAME {                                                    \
         static TARN_INLINE Tarn32f of(Tarn32f a, Tarn32f b)          \
