@@ -34,8 +34,10 @@ TARN_INLINE void apply(Operation operation, T val, T* pSrcDst, int len)
 
 } // namespace tarn
 
-// A kernel: a global symbol of the shared object, though no part of the interface.
-#define TARN_KERNEL extern "C" __attribute__((visibility("protected")))
+// A kernel: a global symbol of the shared object, though no part of the interface. Calls within the library are bound
+// to its own kernels when it is linked (-Bsymbolic-functions); protected visibility would do so too, but then linkers
+// refuse programs that are not position-independent and take a kernel's address.
+#define TARN_KERNEL extern "C" __attribute__((visibility("default")))
 
 // The shapes: two vectors, or a vector and a constant, each out of place and in place. In place the operand that is
 // also the destination comes last, and it stands first in a subtraction's place: see the operations themselves.

@@ -1,6 +1,4 @@
 // The kernels of the power-of-two transforms called as they are: cores, working arrangement, recombination, columns.
-#include "support/imported_kernels.h"
-
 #include "levels/fft/psfft.h"
 #include "model/fft.h"
 #include "support/compare.h"

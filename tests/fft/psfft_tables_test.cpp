@@ -1,6 +1,4 @@
 // Tables of the power-of-two transforms, and bit reversal.
-#include "support/imported_kernels.h"
-
 #include "levels/fft/psfft.h"
 #include "support/compare.h"
 #include "support/guarded.h"

@@ -1,6 +1,4 @@
 // The precise scalar functions against the C library's extended precision.
-#include "support/imported_kernels.h"
-
 #include "frame/precise.h"
 #include "frame/trigonometry.h"
 #include "support/compare.h"

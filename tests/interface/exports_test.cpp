@@ -137,6 +137,18 @@ TEST(Exports, AreAllDeclared)
     }
 }
 
+/// A symbol of protected visibility cannot be taken the address of by every program: see TARN_KERNEL.
+TEST(Exports, HaveDefaultVisibility)
+{
+    std::istringstream lines(outputOf(std::string("readelf --dyn-syms --wide '") + TARNS_LIBRARY_PATH + "'"));
+    int kernels = 0;
+    for (std::string line; std::getline(lines, line);) {
+        kernels += line.find(" owns") != std::string::npos ? 1 : 0;
+        EXPECT_EQ(std::string::npos, line.find("PROTECTED")) << line;
+    }
+    EXPECT_GT(kernels, 100);
+}
+
 TEST(Declarations, AreFoundInEveryForm)
 {
     const char* source = R"(
