@@ -92,8 +92,7 @@ struct NewtonRoot {
     template <typename X>
     TARN_INLINE X operator()(Met& negatives, X x) const
     {
-        negatives.note(less(x, splat<X>(0)));
-        return newtonRoot(x);
+        return newtonRoot(x, [&negatives](X rare) { negatives.note(less(rare, splat<X>(0))); });
     }
 };
 
