@@ -2,10 +2,10 @@
 #include "levels/arithmetic/pssqrt.h"
 
 #include "frame/factor.h"
-#include "frame/rounding.h"
 #include "frame/narrow_float.h"
 #include "frame/newton_root.h"
 #include "frame/report.h"
+#include "frame/rounding.h"
 #include "frame/simd.h"
 #include "frame/simd_extended_root.h"
 #include "frame/walk_groups.h"
