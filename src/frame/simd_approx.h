@@ -112,7 +112,7 @@ struct Approximation {
     template <typename X>
     TARN_INLINE X operator()(X x) const
     {
-        return byRegister(x, [this](auto r) { return ofRegister(r); });
+        return byRegister(x, [this](auto r) { return this->ofRegister(r); });
     }
 
 private:
