@@ -146,6 +146,16 @@ TEST(Ramp, DoublePrecisionFromNineElements)
     EXPECT_EQ(lineAt(8, third, third), ramp[8]);
 }
 
+// Beyond 2^24 single precision does not count every integer: an index that went on by additions would stand still.
+TEST(Ramp, LongerThanSinglePrecisionCounts)
+{
+    constexpr int len = (1 << 24) + 1003;
+    std::vector<Tarn32f> ramp(len);
+    ASSERT_EQ(tarnStsNoErr, tarnsVectorRamp_32f(ramp.data(), len, 0.5F, 1));
+    for (int n = len - 2000; n < len; ++n)
+        ASSERT_EQ(lineAt(n, 0.5F, 1), ramp[static_cast<std::size_t>(n)]) << n;
+}
+
 TEST(Ramp, Limits)
 {
     Tarn8u bytes[3];
