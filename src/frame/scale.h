@@ -87,7 +87,7 @@ struct Saturated {
 
 template <typename Operation>
 struct Halved {
-    static constexpr int stepsAtOnce = 1;
+    static constexpr int stepsAtOnce = 2;
     template <typename X>
     TARN_INLINE X operator()(X a, X b) const
     {
@@ -98,7 +98,7 @@ struct Halved {
 template <typename Operation>
 struct ShiftedDown {
     int s;
-    static constexpr int stepsAtOnce = 1;
+    static constexpr int stepsAtOnce = 2;
     template <typename X>
     TARN_INLINE X operator()(X a, X b) const
     {
@@ -109,7 +109,7 @@ struct ShiftedDown {
 template <typename Operation>
 struct ShiftedUp {
     int n;
-    static constexpr int stepsAtOnce = 1;
+    static constexpr int stepsAtOnce = 2;
     template <typename X>
     TARN_INLINE X operator()(X a, X b) const
     {
@@ -133,7 +133,7 @@ TARN_INLINE X signBound(X x)
 
 template <typename Operation>
 struct Bound {
-    static constexpr int stepsAtOnce = 1;
+    static constexpr int stepsAtOnce = 2;
     template <typename X>
     TARN_INLINE X operator()(X a, X b) const
     {

@@ -174,7 +174,7 @@ struct SignStep {
 // An operation followed by a step. The step comes first, since its count is what differs from call to call.
 template <typename D, typename Operation, typename Step>
 struct Chain {
-    static constexpr int stepsAtOnce = 1;
+    static constexpr int stepsAtOnce = std::is_same_v<Step, LimitStep<Part<D>>> ? 4 : 2;
     Step step{};
     Operation operation{};
 
