@@ -9,7 +9,7 @@ struct Counting {
     using Element = Tarn32s;
     Tarn32s first;
 
-    TARN_INLINE Counting operator+(int elements) const { return {first + elements}; }
+    TARN_INLINE Counting operator+(Index elements) const { return {first + static_cast<Tarn32s>(elements)}; }
 };
 
 TARN_INLINE Tarn32s loadElement(Counting source) { return source.first; }

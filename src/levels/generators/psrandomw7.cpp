@@ -86,7 +86,7 @@ struct UniformTo {
     template <typename X>
     TARN_INLINE auto operator()(X draws) const
     {
-        return byRegister(draws, [this](auto r) { return one(r); });
+        return byRegister(draws, [this](auto r) { return this->one(r); });
     }
 
 private:
