@@ -1,7 +1,6 @@
 // The Kaiser window: each weight against its polynomial in extended precision, and against the true Bessel function.
 #include "tarns.h"
 
-
 #include "levels/generators/pskaiser.h"
 #include "model/windows.h"
 #include "support/checks.h"
