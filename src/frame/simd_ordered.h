@@ -26,9 +26,9 @@ namespace tarn {
         static TARN_INLINE Pack<T, N> of(Pack<T, N> a, Pack<T, N> b) \
         {                                                            \
             if constexpr (isSingle<T>) {                             \
-                __asm__(STEM "ps\t%1, %0" : "+x"(a.v) : "xm"(b.v));  \
+                __asm__(STEM "ps\t%1, %0" : "+x"(a.v) : "x"(b.v));   \
             } else {                                                 \
-                __asm__(STEM "pd\t%1, %0" : "+x"(a.v) : "xm"(b.v));  \
+                __asm__(STEM "pd\t%1, %0" : "+x"(a.v) : "x"(b.v));   \
             }                                                        \
             return a;                                                \
         }                                                            \
