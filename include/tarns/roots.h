@@ -124,7 +124,7 @@ TARN_API TarnStatus tarnsSqrt_64fc_I(Tarn64fc* pSrcDst, int len);
 /** Cube roots: pDst[i] = cbrt(pSrc[i]) * 2^-scaleFactor, with the sign of the element.
 
     `32f` is a polynomial and two Newton steps by the processor's approximate reciprocal, for groups of four elements
-    from the start: within 2 units in the last place for all 2^32 arguments. What is left over of the groups is the
+    from the start: within 1 unit in the last place of normal arguments. What is left over of the groups is the
     nearest float. Infinities, zeros and NaN are their own roots. `32s16s` rounds the nearest float's multiple to the
     nearest integer, ties to the even one, and saturates it. Neither depends on the caller's rounding mode.
 
