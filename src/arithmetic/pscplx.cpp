@@ -11,7 +11,7 @@ namespace {
 // The imaginary parts of doubles lie one double behind the real ones.
 void imaginaryParts_64fc(const Tarn64fc* pSrc, Tarn64f* pDst, int len)
 {
-    ownsReal_64fc_W7(reinterpret_cast<const Tarn64fc*>(&pSrc->im), pDst, len);
+    ownsReal_64fc_W7(reinterpret_cast<const Tarn64fc*>(asParts(pSrc) + 1), pDst, len);
 }
 
 template <typename C>
