@@ -14,6 +14,7 @@
 #include "tarns/firdesign.h"
 #include "tarns/firstate.h"
 #include "tarns/generators.h"
+#include "tarns/goertzel.h"
 #include "tarns/logic.h"
 #include "tarns/magnitude.h"
 #include "tarns/memory.h"

@@ -74,11 +74,12 @@ bool isDataNumber(const std::string& name)
 
 bool isDataArray(const std::string& name)
 {
-    return contains({"pDlyLine",    "pDp",       "pDst",     "pDstIm",   "pDstMagn", "pDstPhase",   "pSeed",
-                     "pSrcMagn",    "pSrcPhase", "pDstLen",  "pDstRe",   "pDstVal",  "pIndx",       "pMax",
-                     "pMaxIndx",    "pMean",     "pMin",     "pMinIndx", "pNorm",    "pOrder",      "pOutIndex",
-                     "pOutIndexes", "pOutVal",   "pOutVals", "pSrc",     "pSrc1",    "pSrc2",       "pSrcDst",
-                     "pSrcIm",      "pSrcRe",    "pStdDev",  "pSum",     "pTaps",    "pTapsFactor", "pVals"},
+    return contains({"pDlyLine", "pDp",      "pDst",      "pDstIm",      "pDstMagn", "pDstPhase",
+                     "pSeed",    "pSrcMagn", "pSrcPhase", "pDstLen",     "pDstRe",   "pDstVal",
+                     "pIndx",    "pMax",     "pMaxIndx",  "pMean",       "pMin",     "pMinIndx",
+                     "pNorm",    "pOrder",   "pOutIndex", "pOutIndexes", "pOutVal",  "pOutVals",
+                     "pSrc",     "pSrc1",    "pSrc2",     "pSrcDst",     "pSrcIm",   "pSrcRe",
+                     "pStdDev",  "pSum",     "pTaps",     "pTapsFactor", "pVal",     "pVals"},
                     name);
 }
 
