@@ -2,9 +2,7 @@
 #pragma once
 
 #include "frame/frontend.h"
-#include "frame/packing.h"
-#include "frame/spec.h"
-#include "frame/workbuf.h"
+#include "frame/transform.h"
 #include "levels/fft/psfft_calls.h"
 #include "levels/fft/psfft_small.h"
 #include "tarns/fft.h"
@@ -110,20 +108,7 @@ TarnStatus initAlloc(Object** ppSpec, int order, int flag, TarnHintAlgorithm hin
     });
 }
 
-// -- Transforms
-// --------------------------------------------------------------------------------------------------------
-
-// The small transform that the object asks for, with its factor if it has one.
-template <bool forward, typename T, typename Plain, typename Norm, typename... Array>
-void runSmall(const Spec<T>& spec, const Plain& plain, const Norm& norm, Array*... arrays)
-{
-    const auto order = static_cast<std::size_t>(spec.order);
-    if (isScaled<forward>(spec)) {
-        norm[order](arrays..., spec.normFactor);
-    } else {
-        plain[order](arrays...);
-    }
-}
+// -- Transforms ------------------------------------------------------------------------------------------------------
 
 // The complex transform of 2^order points of interleaved data, scaled as the object says.
 template <bool forward, typename Object, typename T>
@@ -149,158 +134,92 @@ void transformPairs(const Object& spec, const T* src, T* dst, int order, T* work
 template <bool forward, typename Object, typename T>
 TarnStatus complexTransform(const T* pSrc, T* pDst, const Object* pSpec, Tarn8u* pBuffer)
 {
-    if (const TarnStatus status = checkTransform(pSpec, pSrc, pDst)) {
-        return status;
-    }
-    if (pSpec->order < smallOrders) {
-        runSmall<forward>(*pSpec, tbl_cFFT_small<forward, T>, tbl_cFFT_norm_small<forward, T>, pSrc, pDst);
-        return tarnStsNoErr;
-    }
-    const WorkBuffer work(pBuffer, pSpec->bufSize);
-    if (work.failed()) {
-        return tarnStsNoMemErr;
-    }
-    transformPairs<forward>(*pSpec, pSrc, pDst, pSpec->order, work.as<T>());
-    return tarnStsNoErr;
+    return callTransform(
+        pSpec, pBuffer,
+        [](const Object& spec, const T* src, T* dst) {
+            return runSmall<forward>(spec, spec.order, tbl_cFFT_small<forward, T>, tbl_cFFT_norm_small<forward, T>, src,
+                                     dst);
+        },
+        [](const Object& spec, const WorkBuffer& work, const T* src, T* dst) {
+            transformPairs<forward>(spec, src, dst, spec.order, work.as<T>());
+            return tarnStsNoErr;
+        },
+        pSrc, pDst);
 }
 
 template <bool forward, typename Object, typename T>
 TarnStatus splitTransform(const T* pSrcRe, const T* pSrcIm, T* pDstRe, T* pDstIm, const Object* pSpec, Tarn8u* pBuffer)
 {
-    if (const TarnStatus status = checkTransform(pSpec, pSrcRe, pSrcIm, pDstRe, pDstIm)) {
-        return status;
-    }
-    const int order = pSpec->order;
-    if (order < smallOrders) {
-        runSmall<forward>(*pSpec, tbl_crFFT_small<forward, T>, tbl_crFFT_norm_small<forward, T>, pSrcRe, pSrcIm, pDstRe,
-                          pDstIm);
-        return tarnStsNoErr;
-    }
-    const WorkBuffer work(pBuffer, pSpec->bufSize);
-    if (work.failed()) {
-        return tarnStsNoMemErr;
-    }
-    const int size = 1 << order;
-    if (order > routes<Object>.last) {
-        reverseParts(pSrcRe, pDstRe, size, pSpec->reversal());
-        reverseParts(pSrcIm, pDstIm, size, pSpec->reversal());
-        directed<T, forward>.largeParts(pSpec, pDstRe, pDstIm, order, work.as<T>());
-        return tarnStsNoErr;
-    }
-    directed<T, forward>.readingParts(pSrcRe, pSrcIm, pDstRe, pDstIm, size, pSpec->table(twdTab), pSpec->reversal(),
-                                      work.as<T>());
-    if (isScaled<forward>(*pSpec)) {
-        kernels<T>.scale(pSpec->normFactor, pDstRe, size);
-        kernels<T>.scale(pSpec->normFactor, pDstIm, size);
-    }
-    return tarnStsNoErr;
+    return callTransform(
+        pSpec, pBuffer,
+        [](const Object& spec, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm) {
+            return runSmall<forward>(spec, spec.order, tbl_crFFT_small<forward, T>, tbl_crFFT_norm_small<forward, T>,
+                                     srcRe, srcIm, dstRe, dstIm);
+        },
+        [](const Object& spec, const WorkBuffer& work, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm) {
+            const int size = 1 << spec.order;
+            if (spec.order > routes<Object>.last) {
+                reverseParts(srcRe, dstRe, size, spec.reversal());
+                reverseParts(srcIm, dstIm, size, spec.reversal());
+                directed<T, forward>.largeParts(&spec, dstRe, dstIm, spec.order, work.as<T>());
+                return tarnStsNoErr;
+            }
+            directed<T, forward>.readingParts(srcRe, srcIm, dstRe, dstIm, size, spec.table(twdTab), spec.reversal(),
+                                              work.as<T>());
+            if (isScaled<forward>(spec)) {
+                kernels<T>.scale(spec.normFactor, dstRe, size);
+                kernels<T>.scale(spec.normFactor, dstIm, size);
+            }
+            return tarnStsNoErr;
+        },
+        pSrcRe, pSrcIm, pDstRe, pDstIm);
 }
 
 // -- Real signals ----------------------------------------------------------------------------------------------------
 
-// Slot 0 of the half-length transform and the first two reals of Perm order are each other's sum and difference, up to
-// a factor of 2.
-template <typename T>
-void storeSumAndDifference(T* dst, T a, T b)
-{
-    store(dst, a + b);
-    store(dst + 1, a - b);
-}
-
 template <typename Packing, typename Object, typename T>
 TarnStatus realForward(const T* pSrc, T* pDst, const Object* pSpec, Tarn8u* pBuffer)
 {
-    if (const TarnStatus status = checkTransform(pSpec, pSrc, pDst)) {
-        return status;
+    const TarnStatus status = callTransform(
+        pSpec, pBuffer,
+        [](const Object& spec, const T* src, T* dst) {
+            return runSmall<true>(spec, spec.order, tbl_rFFT_small<true, T>, tbl_rFFT_norm_small<true, T>, src, dst);
+        },
+        [](const Object& spec, const WorkBuffer& work, const T* src, T* dst) {
+            transformPairs<true>(spec, src, dst, spec.order - 1, work.as<T>());
+            storeSumAndDifference(dst, loadElement(dst), loadElement(dst + 1));
+            kernels<T>.recombineReal(dst, (1 << spec.order) / 2, 1, spec.table(realRecTab));
+            return tarnStsNoErr;
+        },
+        pSrc, pDst);
+    if (status == tarnStsNoErr) {
+        Packing::finish(pDst, 1 << pSpec->order);
     }
-    const int size = 1 << pSpec->order;
-    if (pSpec->order < smallOrders) {
-        runSmall<true>(*pSpec, tbl_rFFT_small<true, T>, tbl_rFFT_norm_small<true, T>, pSrc, pDst);
-    } else {
-        const WorkBuffer work(pBuffer, pSpec->bufSize);
-        if (work.failed()) {
-            return tarnStsNoMemErr;
-        }
-        transformPairs<true>(*pSpec, pSrc, pDst, pSpec->order - 1, work.as<T>());
-        storeSumAndDifference(pDst, loadElement(pDst), loadElement(pDst + 1));
-        kernels<T>.recombineReal(pDst, size / 2, 1, pSpec->table(realRecTab));
-    }
-    Packing::finish(pDst, size);
-    return tarnStsNoErr;
+    return status;
 }
 
 template <typename Packing, typename Object, typename T>
 TarnStatus realInverse(const T* pSrc, T* pDst, const Object* pSpec, Tarn8u* pBuffer)
 {
-    if (const TarnStatus status = checkTransform(pSpec, pSrc, pDst)) {
-        return status;
-    }
-    const int size = 1 << pSpec->order;
-    if (pSpec->order < smallOrders) {
-        T perm[1 << (smallOrders - 1)];
-        copyToPerm<Packing>(pSrc, static_cast<T*>(perm), size);
-        runSmall<false>(*pSpec, tbl_rFFT_small<false, T>, tbl_rFFT_norm_small<false, T>, static_cast<const T*>(perm),
-                        pDst);
-        return tarnStsNoErr;
-    }
-    const WorkBuffer work(pBuffer, pSpec->bufSize);
-    if (work.failed()) {
-        return tarnStsNoMemErr;
-    }
-    const T first = loadElement(pSrc);
-    const T last = loadElement(pSrc + Packing::positionOfLast(size));
-    const T* perm = Packing::toPerm(pSrc, pDst, size);
-    storeSumAndDifference(pDst, first, last);
-    kernels<T>.recombineCcs(perm, pDst, size / 2, -1, pSpec->table(ccsRecTab));
-    transformPairs<false>(*pSpec, static_cast<const T*>(pDst), pDst, pSpec->order - 1, work.as<T>());
-    return tarnStsNoErr;
+    return callTransform(
+        pSpec, pBuffer,
+        [](const Object& spec, const T* src, T* dst) {
+            return runSmallFromPerm<Packing>(spec, spec.order, 1 << spec.order, tbl_rFFT_small<false, T>,
+                                             tbl_rFFT_norm_small<false, T>, src, dst);
+        },
+        [](const Object& spec, const WorkBuffer& work, const T* src, T* dst) {
+            const int size = 1 << spec.order;
+            const T first = loadElement(src);
+            const T last = loadElement(src + Packing::positionOfLast(size));
+            const T* perm = Packing::toPerm(src, dst, size);
+            storeSumAndDifference(dst, first, last);
+            kernels<T>.recombineCcs(perm, dst, size / 2, -1, spec.table(ccsRecTab));
+            transformPairs<false>(spec, static_cast<const T*>(dst), dst, spec.order - 1, work.as<T>());
+            return tarnStsNoErr;
+        },
+        pSrc, pDst);
 }
 
 } // namespace tarn::fft
 
-// The functions of one precision.
-
-#define TARN_FFT_OBJECT_FRONT_ENDS(KIND)                                                                           \
-    TarnStatus tarnsFFTInitAlloc_##KIND(TarnsFFTSpec_##KIND** ppSpec, int order, int flag, TarnHintAlgorithm hint) \
-    {                                                                                                              \
-        return tarn::fft::initAlloc(ppSpec, order, flag, hint);                                                    \
-    }                                                                                                              \
-    TarnStatus tarnsFFTFree_##KIND(TarnsFFTSpec_##KIND* pSpec) { return tarn::freeSpec(pSpec); }                   \
-    TarnStatus tarnsFFTGetBufSize_##KIND(const TarnsFFTSpec_##KIND* pSpec, int* pSize)                             \
-    {                                                                                                              \
-        return tarn::getBufSize(pSpec, pSize);                                                                     \
-    }
-
-#define TARN_FFT_COMPLEX_FRONT_ENDS(T, DIRECTION, FORWARD)                                                       \
-    TarnStatus tarnsFFT##DIRECTION##_CToC_##T##c(const Tarn##T##c* pSrc, Tarn##T##c* pDst,                       \
-                                                 const TarnsFFTSpec_C_##T##c* pSpec, Tarn8u* pBuffer)            \
-    {                                                                                                            \
-        return tarn::fft::complexTransform<FORWARD>(tarn::asParts(pSrc), tarn::asParts(pDst), pSpec, pBuffer);   \
-    }                                                                                                            \
-    TarnStatus tarnsFFT##DIRECTION##_CToC_##T(const Tarn##T* pSrcRe, const Tarn##T* pSrcIm, Tarn##T* pDstRe,     \
-                                              Tarn##T* pDstIm, const TarnsFFTSpec_C_##T* pSpec, Tarn8u* pBuffer) \
-    {                                                                                                            \
-        return tarn::fft::splitTransform<FORWARD>(pSrcRe, pSrcIm, pDstRe, pDstIm, pSpec, pBuffer);               \
-    }
-
-#define TARN_FFT_REAL_FRONT_ENDS(T, PACKED, PACKING)                                                              \
-    TarnStatus tarnsFFTFwd_RTo##PACKED##_##T(const Tarn##T* pSrc, Tarn##T* pDst, const TarnsFFTSpec_R_##T* pSpec, \
-                                             Tarn8u* pBuffer)                                                     \
-    {                                                                                                             \
-        return tarn::fft::realForward<tarn::PACKING>(pSrc, pDst, pSpec, pBuffer);                                 \
-    }                                                                                                             \
-    TarnStatus tarnsFFTInv_##PACKED##ToR_##T(const Tarn##T* pSrc, Tarn##T* pDst, const TarnsFFTSpec_R_##T* pSpec, \
-                                             Tarn8u* pBuffer)                                                     \
-    {                                                                                                             \
-        return tarn::fft::realInverse<tarn::PACKING>(pSrc, pDst, pSpec, pBuffer);                                 \
-    }
-
-#define TARN_FFT_FRONT_ENDS(T)                     \
-    TARN_FFT_OBJECT_FRONT_ENDS(C_##T##c)           \
-    TARN_FFT_OBJECT_FRONT_ENDS(C_##T)              \
-    TARN_FFT_OBJECT_FRONT_ENDS(R_##T)              \
-    TARN_FFT_COMPLEX_FRONT_ENDS(T, Fwd, true)      \
-    TARN_FFT_COMPLEX_FRONT_ENDS(T, Inv, false)     \
-    TARN_FFT_REAL_FRONT_ENDS(T, Perm, PermPacking) \
-    TARN_FFT_REAL_FRONT_ENDS(T, Pack, PackPacking) \
-    TARN_FFT_REAL_FRONT_ENDS(T, CCS, CcsPacking)
+#define TARN_FFT_FRONT_ENDS(T) TARN_TRANSFORM_FRONT_ENDS(FFT, fft, T, order)

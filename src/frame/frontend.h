@@ -3,6 +3,7 @@
 
 #include "frame/bytes.h"
 #include "frame/checks.h"
+#include "frame/pairs.h"
 #include "frame/scale.h"
 
 namespace tarn {
@@ -12,18 +13,6 @@ template <typename T>
 constexpr bool equalOrUnordered(T x, std::type_identity_t<T> value)
 {
     return !(x < value || x > value);
-}
-
-// Complex arrays as real ones of twice the length.
-template <typename T>
-inline const Part<T>* asParts(const T* p)
-{
-    return reinterpret_cast<const Part<T>*>(p);
-}
-template <typename T>
-inline Part<T>* asParts(T* p)
-{
-    return reinterpret_cast<Part<T>*>(p);
 }
 
 // Hands a complex call on to the real function at twice the length, which makes the checks of the pointers: here, and

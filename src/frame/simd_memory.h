@@ -77,6 +77,30 @@ TARN_INLINE void storeHalves(T* low, T* high, Register<T> x)
     _mm_storeh_pi(reinterpret_cast<__m64*>(high), reinterpret_cast<__m128>(x.v));
 }
 
+// -- Pairs of elements ------------------------------------------------------------------------------------------------
+
+// A pair from one place, twice, and two pairs from two places.
+template <typename T>
+TARN_INLINE Pack<T, 4> loadPairTwice(const T* p)
+{
+    if constexpr (isSingle<T>) {
+        return {_mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)))};
+    } else {
+        const auto pair = loadPack<2>(p);
+        return {pair, pair};
+    }
+}
+template <typename T>
+TARN_INLINE Pack<T, 4> loadTwoPairs(const T* p, const T* q)
+{
+    if constexpr (isSingle<T>) {
+        const __m128d first = _mm_load_sd(reinterpret_cast<const double*>(p));
+        return {_mm_castpd_ps(_mm_loadh_pd(first, reinterpret_cast<const double*>(q)))};
+    } else {
+        return {loadPack<2>(p), loadPack<2>(q)};
+    }
+}
+
 // -- One element, in a register that takes it whole -------------------------------------------------------------------
 
 // The compiler may copy a double of a 32-bit program in two halves, and reading it back at once would wait until both

@@ -1,23 +1,10 @@
 // The kernels of the power-of-two transforms by precision and direction.
 #pragma once
 
+#include "frame/pairs.h"
 #include "levels/fft/psfft.h"
 
 namespace tarn::fft {
-
-template <typename T>
-using PairOf = std::conditional_t<std::is_same_v<T, Tarn32f>, Tarn32fc, Tarn64fc>;
-
-template <typename T>
-inline const PairOf<T>* asPairs(const T* p)
-{
-    return reinterpret_cast<const PairOf<T>*>(p);
-}
-template <typename T>
-inline PairOf<T>* asPairs(T* p)
-{
-    return reinterpret_cast<PairOf<T>*>(p);
-}
 
 // What there is once for a precision.
 template <typename T>
