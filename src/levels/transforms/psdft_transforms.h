@@ -1,0 +1,188 @@
+// The transforms by direct sums: what goes into the sums, and what becomes of them.
+#pragma once
+
+#include "levels/transforms/psdft_direct.h"
+
+namespace tarn::dft {
+
+// -- Where points come from and results go to: arrays of pairs, or of parts
+// --------------------------------------------
+
+template <typename T>
+struct PairsIn {
+    const T* pairs;
+
+    TARN_INLINE Complex<T> operator[](int j) const
+    {
+        return {loadElement(pairs + 2 * j), loadElement(pairs + 2 * j + 1)};
+    }
+};
+template <typename T>
+struct PairsOut {
+    T* pairs;
+
+    TARN_INLINE void put(int k, Complex<T> x) const
+    {
+        store(pairs + 2 * k, x.re);
+        store(pairs + 2 * k + 1, x.im);
+    }
+};
+template <typename T>
+struct PartsIn {
+    const T* re;
+    const T* im;
+
+    TARN_INLINE Complex<T> operator[](int j) const { return {loadElement(re + j), loadElement(im + j)}; }
+};
+template <typename T>
+struct PartsOut {
+    T* re;
+    T* im;
+
+    TARN_INLINE void put(int k, Complex<T> x) const
+    {
+        store(re + k, x.re);
+        store(im + k, x.im);
+    }
+};
+
+// -- Complex data
+// ------------------------------------------------------------------------------------------------------
+
+// Results k and N - k, of sums (a.re, b.re, a.im, b.im).
+template <bool forward, typename T, typename Out>
+TARN_INLINE void putPair(Out y, int N, int k, Pack<T, 4> sums)
+{
+    alignas(vectorBytes) T s[4];
+    storeAligned(s, sums);
+    const Complex<T> a = {s[0], s[2]};
+    const Complex<T> b = {s[1], s[3]};
+    y.put(k, forward ? plusTurned(a, b) : minusTurned(a, b));
+    y.put(N - k, forward ? minusTurned(a, b) : plusTurned(a, b));
+}
+
+// N points. All of them are read before a result is written.
+template <bool forward, typename T, typename In, typename Out>
+TARN_INLINE void directSums(In x, Out y, int N, Roots<T> roots, T* work)
+{
+    const int h = (N - 1) / 2;
+    const bool even = N % 2 == 0;
+    const Complex<T> first = x[0];
+    const Complex<T> middle = even ? x[N / 2] : Complex<T>{};
+    // What the sums of even and of odd results begin with.
+    const auto startOf = [](Complex<T> a) {
+        alignas(vectorBytes) const T start[] = {a.re, 0, a.im, 0};
+        return loadAligned<4>(static_cast<const T*>(start));
+    };
+    const Pack<T, 4> starts[] = {startOf(even ? first + middle : first), startOf(even ? first - middle : first)};
+    Complex<T> total = first;
+    Complex<T> alternating = first;
+    for (int j = 1; j <= h; ++j) {
+        const Complex<T> low = x[j];
+        const Complex<T> high = x[N - j];
+        const Complex<T> s = low + high;
+        const Complex<T> d = low - high;
+        T* const term = work + ComplexTerms::reals * (j - 1);
+        term[0] = s.re;
+        term[1] = d.re;
+        term[2] = s.im;
+        term[3] = d.im;
+        total = total + s;
+        alternating = j % 2 == 0 ? alternating + s : alternating - s;
+    }
+    forAllResults<ComplexTerms>(
+        static_cast<const T*>(work), h, roots, [&](int k) { return starts[k % 2]; },
+        [&](int k, const auto& sums) {
+            for (std::size_t i = 0; i < sums.size(); ++i) {
+                putPair<forward>(y, N, k + static_cast<int>(i), sums[i]);
+            }
+        });
+    if (even) {
+        y.put(0, total + middle);
+        if (N > 1) {
+            y.put(N / 2, N / 2 % 2 == 0 ? alternating + middle : alternating - middle);
+        }
+    } else {
+        y.put(0, total);
+    }
+}
+
+// `direction` is 1 forward and -1 inverse.
+template <typename T, typename In, typename Out>
+inline void directTransform(In x, Out y, int N, int direction, Roots<T> roots, T* work)
+{
+    if (direction > 0) {
+        directSums<true>(x, y, N, roots, work);
+    } else {
+        directSums<false>(x, y, N, roots, work);
+    }
+}
+
+// -- Real data and the spectrum in Perm order, odd N
+// -------------------------------------------------------------------
+
+template <typename T>
+inline void directToPerm(const T* x, T* y, int N, Roots<T> roots, T* work)
+{
+    const int h = (N - 1) / 2;
+    const T first = loadElement(x);
+    T total = first;
+    for (int j = 1; j <= h; ++j) {
+        const T low = loadElement(x + j);
+        const T high = loadElement(x + N - j);
+        work[2 * (j - 1)] = low + high;
+        work[2 * (j - 1) + 1] = low - high;
+        total += low + high;
+    }
+    alignas(vectorBytes) const T starts[] = {first, 0, first, 0};
+    const auto start = loadAligned<4>(static_cast<const T*>(starts));
+    forAllResults<RealTerms>(
+        static_cast<const T*>(work), h, roots, [&](int /*k*/) { return start; },
+        [&](int k, const auto& sums) {
+            for (std::size_t i = 0; i < sums.size(); ++i) {
+                T* const to = y + 2 * (k + 2 * static_cast<int>(i)) - 1;
+                if (sums.size() > 1 || k < h) {
+                    store(to, sums[i]);
+                } else {
+                    alignas(vectorBytes) T s[4];
+                    storeAligned(s, sums[i]);
+                    store(to, s[0]);
+                    store(to + 1, s[1]);
+                }
+            }
+        });
+    store(y, total);
+}
+
+// The terms are (2 R[k], 2 I[k]), and a + b and a - b are points n and N - n.
+template <typename T>
+inline void directFromPerm(const T* y, T* x, int N, Roots<T> roots, T* work)
+{
+    const int h = (N - 1) / 2;
+    const T first = loadElement(y);
+    T total = first;
+    for (int k = 1; k <= h; ++k) {
+        const T re = 2 * loadElement(y + 2 * k - 1);
+        work[2 * (k - 1)] = re;
+        work[2 * (k - 1) + 1] = 2 * loadElement(y + 2 * k);
+        total += re;
+    }
+    alignas(vectorBytes) const T starts[] = {first, 0, first, 0};
+    const auto start = loadAligned<4>(static_cast<const T*>(starts));
+    forAllResults<RealTerms>(
+        static_cast<const T*>(work), h, roots, [&](int /*n*/) { return start; },
+        [&](int n, const auto& sums) {
+            for (std::size_t i = 0; i < sums.size(); ++i) {
+                alignas(vectorBytes) T s[4];
+                storeAligned(s, sums[i]);
+                for (int lane = 0; lane < (sums.size() > 1 || n < h ? 2 : 1); ++lane) {
+                    const int at = n + 2 * static_cast<int>(i) + lane;
+                    store(x + at, s[2 * lane] + s[2 * lane + 1]);
+                    store(x + N - at, s[2 * lane] - s[2 * lane + 1]);
+                }
+            }
+        });
+    store(x, total);
+}
+
+} // namespace tarn::dft
