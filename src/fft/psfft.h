@@ -1,6 +1,7 @@
 // Front ends of the power-of-two transforms, for one precision at a time.
 #pragma once
 
+#include "fft/psfft_creation.h"
 #include "frame/frontend.h"
 #include "frame/transform.h"
 #include "levels/fft/psfft_calls.h"
@@ -93,16 +94,7 @@ TarnStatus createTables(Object& spec)
 template <typename Object>
 TarnStatus initAlloc(Object** ppSpec, int order, int flag, TarnHintAlgorithm hint)
 {
-    constexpr int largestOrder = 30;
-    if (ppSpec == nullptr) {
-        return tarnStsNullPtrErr;
-    }
-    if (order < 0 || order > largestOrder) {
-        return tarnStsFftOrderErr;
-    }
-    return createSpec(ppSpec, [=](Object& object) {
-        object.order = order;
-        object.hint = hint;
+    return createForOrder(ppSpec, order, hint, [=](Object& object) {
         const TarnStatus status = setScaling(object, flag, 1 << order);
         return status == tarnStsNoErr && order >= smallOrders ? createTables(object) : status;
     });
