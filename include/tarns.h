@@ -10,6 +10,7 @@
 #include "tarns/divide.h"
 #include "tarns/exponential.h"
 #include "tarns/fft.h"
+#include "tarns/fftfixed.h"
 #include "tarns/fir.h"
 #include "tarns/firdesign.h"
 #include "tarns/firstate.h"

@@ -33,8 +33,23 @@ private:
     int reversed = 0;
 };
 
-// table[i] = sin(argument(i)) or cos(argument(i)) for i from `first` to `last`, rounded to the element type: the
-// single-precision tables are made in double precision too, so that no rounding of an argument shows in them.
+// One in units of the words that stand for factors of transforms in fixed point.
+inline constexpr int fixedOneBits = 14;
+inline constexpr Tarn16s fixedOne = 1 << fixedOneBits;
+
+// A sine or cosine between 0 and 1 as an entry of a table: rounded to the element type, words half up.
+template <typename T>
+inline T tableEntry(Tarn64f value)
+{
+    if constexpr (std::is_same_v<T, Tarn16s>) {
+        return static_cast<Tarn16s>(value * fixedOne + 0.5);
+    } else {
+        return static_cast<T>(value);
+    }
+}
+
+// table[i] = sin(argument(i)) or cos(argument(i)) for i from `first` to `last`: the single-precision tables are made in
+// double precision too, so that no rounding of an argument shows in them.
 template <bool sine, typename T, typename Argument>
 inline void fillRun(T* table, int first, int last, Argument argument)
 {
@@ -42,8 +57,8 @@ inline void fillRun(T* table, int first, int last, Argument argument)
         const Tarn64f arguments[] = {argument(i), argument(std::min(i + 1, last))};
         Tarn64f values[2];
         (sine ? zpldSin2 : zpldCos2)(arguments, values);
-        table[i] = static_cast<T>(values[0]);
-        table[std::min(i + 1, last)] = static_cast<T>(values[i < last ? 1 : 0]);
+        table[i] = tableEntry<T>(values[0]);
+        table[std::min(i + 1, last)] = tableEntry<T>(values[i < last ? 1 : 0]);
     }
 }
 
@@ -81,15 +96,18 @@ struct Circle {
         const int at = m * stride;
         switch ((at - (at > 0)) / quarter) {
         case 0:
-            return {base[quarter - at], -base[at]};
+            return {base[quarter - at], minus(at)};
         case 1:
-            return {-base[at - quarter], -base[2 * quarter - at]};
+            return {minus(at - quarter), minus(2 * quarter - at)};
         case 2:
-            return {-base[3 * quarter - at], base[at - 2 * quarter]};
+            return {minus(3 * quarter - at), base[at - 2 * quarter]};
         default:
             return {base[at - 3 * quarter], base[4 * quarter - at]};
         }
     }
+
+private:
+    T minus(int entry) const { return static_cast<T>(-base[entry]); }
 };
 
 // The factors of all the stages of one length, from the shortest up. A stage of length L holds W(k), W(2k) and W(3k)
