@@ -1,0 +1,7 @@
+// The mixed-radix transforms in single precision.
+#include "frame/frontend.h"
+#include "levels/transforms/psdftfact_calls.h"
+
+using tarn::asParts;
+
+TARN_DFT_DEFINE_PRIME_FACT(32f)
