@@ -5,6 +5,8 @@
 #include "tarncore.h"
 #include "tarns/arithmetic.h"
 #include "tarns/convert.h"
+#include "tarns/convolution.h"
+#include "tarns/correlation.h"
 #include "tarns/cplx.h"
 #include "tarns/data.h"
 #include "tarns/divide.h"
