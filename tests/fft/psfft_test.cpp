@@ -2,13 +2,11 @@
 // neither on where the arrays lie nor on where the work buffer comes from.
 #include "support/compare.h"
 #include "support/fpstate.h"
-#include "support/guarded.h"
-#include "support/transforms.h"
+#include "support/transform_runs.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <random>
 #include <thread>
 
 namespace tarn::test {
@@ -22,59 +20,6 @@ TYPED_TEST_SUITE(Fft, Precisions);
 
 template <class T>
 inline constexpr bool isSinglePrecision = std::is_same_v<T, Tarn32f>;
-
-template <class T>
-std::vector<T> signal(std::size_t count, unsigned seed)
-{
-    std::mt19937 random(seed);
-    std::uniform_real_distribution<double> uniform(-1, 1);
-    std::vector<T> values(count);
-    for (T& value : values)
-        value = static_cast<T>(uniform(random));
-    return values;
-}
-
-template <class T>
-Arrays<T> inputFor(const TransformCase<T>& transform, int order)
-{
-    Arrays<T> src;
-    for (int i = 0; i < transform.arrays; ++i)
-        src.push_back(
-            signal<T>(transform.srcReals(order), 17u * static_cast<unsigned>(order) + static_cast<unsigned>(i)));
-    return src;
-}
-
-/// Runs a transform on aligned arrays of its own.
-template <class T>
-Arrays<T> run(const TransformCase<T>& transform, const Arrays<T>& src, const TransformSpec& spec, int order)
-{
-    Arrays<T> dst(static_cast<std::size_t>(transform.arrays), std::vector<T>(transform.dstReals(order)));
-    const T* from[2] = {};
-    T* to[2] = {};
-    for (std::size_t i = 0; i < dst.size(); ++i) {
-        from[i] = src[i].data();
-        to[i] = dst[i].data();
-    }
-    EXPECT_EQ(tarnStsNoErr, transform.run(from, to, spec.get(), nullptr)) << transform.name;
-    return dst;
-}
-
-/// Root mean square of the difference, relative to that of what is expected.
-template <class T>
-long double relativeError(const Arrays<long double>& expected, const Arrays<T>& actual, long double scale)
-{
-    long double difference = 0;
-    long double total = 0;
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        EXPECT_EQ(expected[i].size(), actual[i].size());
-        for (std::size_t j = 0; j < expected[i].size(); ++j) {
-            const long double e = scale * expected[i][j];
-            difference += (actual[i][j] - e) * (actual[i][j] - e);
-            total += e * e;
-        }
-    }
-    return std::sqrt(difference / total);
-}
 
 /// Rounding errors of the layers add up like a random walk: so many units of rounding for so many layers. A transform
 /// of this length by a library known for its accuracy comes out within the same bound.
@@ -164,60 +109,11 @@ TYPED_TEST(Fft, ForwardThenInverseRestoresTheSignal)
             }
 }
 
-/// Where the arrays of a call lie; an offset is in bytes from a 64-byte boundary.
-struct Layout {
-    unsigned src;
-    unsigned dst;
-    bool inPlace;
-    enum class Buffer { null, aligned, odd, exact } buffer;
-};
-
-template <class T>
-Arrays<T> runAt(const TransformCase<T>& transform, const Arrays<T>& src, const TransformSpec& spec, int order,
-                const Layout& layout)
-{
-    std::vector<std::unique_ptr<GuardedArray<T>>> from;
-    std::vector<std::unique_ptr<GuardedArray<T>>> to;
-    const T* sources[2] = {};
-    T* destinations[2] = {};
-    const std::size_t dstReals = transform.dstReals(order);
-    for (std::size_t i = 0; i < src.size(); ++i) {
-        const std::size_t reals = layout.inPlace ? std::max(dstReals, src[i].size()) : dstReals;
-        to.push_back(std::make_unique<GuardedArray<T>>(reals, Placement::offset(layout.dst)));
-        destinations[i] = to.back()->data();
-        if (layout.inPlace) {
-            for (std::size_t j = 0; j < src[i].size(); ++j)
-                to.back()->set(j, src[i][j]);
-            sources[i] = destinations[i];
-        } else {
-            from.push_back(std::make_unique<GuardedArray<T>>(src[i], Placement::offset(layout.src)));
-            sources[i] = from.back()->data();
-        }
-    }
-    using Buffer = typename Layout::Buffer;
-    const std::size_t bytes = spec.bufSize();
-    GuardedArray<Tarn8u> work(bytes, layout.buffer == Buffer::exact ? Placement::atEnd()
-                                     : layout.buffer == Buffer::odd ? Placement::offset(13)
-                                                                    : Placement::offset(0));
-    Tarn8u* const buffer = layout.buffer == Buffer::null ? nullptr : work.data();
-    const FpState before = FpState::current();
-    EXPECT_EQ(tarnStsNoErr, transform.run(sources, destinations, spec.get(), buffer));
-    EXPECT_EQ("", before.changesSince());
-    for (std::size_t i = 0; i < from.size(); ++i)
-        EXPECT_TRUE(arraysMatch<T>(src[i], *from[i], {.nan = NanRule::sameBits})) << "the source has changed";
-    Arrays<T> dst;
-    for (const auto& array : to) {
-        dst.push_back(array->copy());
-        dst.back().resize(dstReals);
-    }
-    return dst;
-}
-
 TYPED_TEST(Fft, ResultsDoNotDependOnPlacesAndBuffers)
 {
     using T = TypeParam;
-    using enum Layout::Buffer;
-    const Layout layouts[] = {{0, 0, false, aligned}, {0, 0, false, exact},  {0, 4, false, odd},   {8, 0, false, exact},
+    using enum Places::Buffer;
+    const Places layouts[] = {{0, 0, false, aligned}, {0, 0, false, exact},  {0, 4, false, odd},   {8, 0, false, exact},
                               {1, 0, false, null},    {3, 7, false, odd},    {0, 0, true, null},   {0, 0, true, exact},
                               {0, 8, true, odd},      {0, 5, true, aligned}, {16, 16, false, null}};
     std::vector<int> orders = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17};
@@ -226,7 +122,7 @@ TYPED_TEST(Fft, ResultsDoNotDependOnPlacesAndBuffers)
             const TransformSpec spec(transform.kind, order, TARN_FFT_DIV_BY_SQRTN);
             const auto src = inputFor(transform, order);
             const auto expected = run(transform, src, spec, order);
-            for (const Layout& layout : layouts) {
+            for (const Places& layout : layouts) {
                 const auto actual = runAt(transform, src, spec, order, layout);
                 for (std::size_t i = 0; i < expected.size(); ++i)
                     ASSERT_TRUE(arraysMatch<T>(expected[i].data(), actual[i].data(), expected[i].size()))
@@ -309,7 +205,7 @@ TYPED_TEST(Fft, RoundsAsTheCallerAsks)
                 Arrays<T> actual;
                 {
                     const RoundingModeScope scope(mode);
-                    actual = runAt(transform, src, spec, order, {0, 0, false, Layout::Buffer::null});
+                    actual = runAt(transform, src, spec, order, {0, 0, false, Places::Buffer::null});
                 }
                 // Directed roundings all push one way: the walk is not random.
                 EXPECT_LE(relativeError(expected, actual, 1), 4 * errorBound<T>(order)) << transform.name;
@@ -346,7 +242,7 @@ TYPED_TEST(Fft, ThreadsShareAnObject)
                 threads.emplace_back([&, i] {
                     for (int round = 0; round < 3; ++round)
                         results[i] = runAt(transform, src, spec, order,
-                                           {0, 0, false, i % 2 == 0 ? Layout::Buffer::null : Layout::Buffer::odd});
+                                           {0, 0, false, i % 2 == 0 ? Places::Buffer::null : Places::Buffer::odd});
                 });
             for (std::thread& thread : threads)
                 thread.join();

@@ -1,7 +1,11 @@
 #include "support/transforms.h"
 
+#include "model/chirp.h"
+#include "tarns/dft.h"
+
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <complex>
 
 namespace tarn::test {
@@ -11,8 +15,23 @@ namespace {
 using model::Bin;
 using model::Layout;
 
-std::size_t sizeOf(int order) { return std::size_t{1} << order; }
-std::size_t twiceSizeOf(int order) { return 2 * sizeOf(order); }
+/// What the argument of a creation says of the length.
+using SizeOf = std::size_t (*)(int);
+std::size_t sizeOfOrder(int order) { return std::size_t{1} << order; }
+std::size_t sizeOfLength(int length) { return static_cast<std::size_t>(length); }
+
+std::vector<Bin> transformOf(const std::vector<Bin>& x, int sign)
+{
+    if (std::has_single_bit(x.size()))
+        return model::transform(x, sign);
+    std::vector<std::complex<long double>> points;
+    for (Bin bin : x)
+        points.emplace_back(bin.re, bin.im);
+    std::vector<Bin> result;
+    for (auto value : model::anyTransform(points, sign))
+        result.push_back({value.real(), value.imag()});
+    return result;
+}
 
 template <class T>
 std::vector<Bin> binsOf(const std::vector<T>& pairs)
@@ -27,7 +46,7 @@ template <class T>
 Arrays<long double> modelOfPairs(const Arrays<T>& src, bool forward)
 {
     std::vector<long double> result;
-    for (Bin bin : model::transform(binsOf(src[0]), forward ? -1 : 1)) {
+    for (Bin bin : transformOf(binsOf(src[0]), forward ? -1 : 1)) {
         result.push_back(bin.re);
         result.push_back(bin.im);
     }
@@ -41,7 +60,7 @@ Arrays<long double> modelOfParts(const Arrays<T>& src, bool forward)
     for (std::size_t i = 0; i < bins.size(); ++i)
         bins[i] = {src[0][i], src[1][i]};
     Arrays<long double> result(2);
-    for (Bin bin : model::transform(bins, forward ? -1 : 1)) {
+    for (Bin bin : transformOf(bins, forward ? -1 : 1)) {
         result[0].push_back(bin.re);
         result[1].push_back(bin.im);
     }
@@ -54,7 +73,7 @@ Arrays<long double> modelOfSignal(const std::vector<T>& signal, Layout layout)
     std::vector<Bin> bins(signal.size());
     for (std::size_t i = 0; i < bins.size(); ++i)
         bins[i] = {signal[i], 0};
-    bins = model::transform(bins, -1);
+    bins = transformOf(bins, -1);
     std::vector<long double> packed;
     for (model::Slot slot : model::slots(layout, signal.size())) {
         using enum model::Slot::Part;
@@ -78,7 +97,7 @@ Arrays<long double> modelOfSpectrum(const std::vector<T>& packed, Layout layout,
     for (std::size_t k = 1; 2 * k < size; ++k)
         bins[size - k] = {bins[k].re, -bins[k].im};
     std::vector<long double> signal;
-    for (Bin bin : model::transform(bins, 1))
+    for (Bin bin : transformOf(bins, 1))
         signal.push_back(bin.re);
     return {signal};
 }
@@ -96,8 +115,10 @@ TransformKind makeKind(std::string name, int identifier, TarnStatus (*create)(Sp
 }
 
 template <class T, class C, class Spec>
-TransformCase<T> pairsCase(TransformKind kind, bool forward, TarnStatus (*call)(const C*, C*, const Spec*, Tarn8u*))
+TransformCase<T> pairsCase(SizeOf sizeOf, TransformKind kind, bool forward,
+                           TarnStatus (*call)(const C*, C*, const Spec*, Tarn8u*))
 {
+    const auto twiceSizeOf = [=](int order) { return 2 * sizeOf(order); };
     return {kind.name + (forward ? " Fwd" : " Inv"),
             kind,
             forward,
@@ -112,7 +133,7 @@ TransformCase<T> pairsCase(TransformKind kind, bool forward, TarnStatus (*call)(
 }
 
 template <class T, class Spec>
-TransformCase<T> partsCase(TransformKind kind, bool forward,
+TransformCase<T> partsCase(SizeOf sizeOf, TransformKind kind, bool forward,
                            TarnStatus (*call)(const T*, const T*, T*, T*, const Spec*, Tarn8u*))
 {
     return {kind.name + (forward ? " Fwd" : " Inv"),
@@ -128,12 +149,12 @@ TransformCase<T> partsCase(TransformKind kind, bool forward,
 }
 
 template <class T, class Spec>
-TransformCase<T> realCase(TransformKind kind, bool forward, Layout layout,
+TransformCase<T> realCase(SizeOf sizeOf, TransformKind kind, bool forward, Layout layout,
                           TarnStatus (*call)(const T*, T*, const Spec*, Tarn8u*))
 {
     const auto packed = [=](int order) { return model::slots(layout, sizeOf(order)).size(); };
     // The inverse of a length of 1 reads one real in every layout.
-    const auto read = [=](int order) { return order == 0 ? std::size_t{1} : packed(order); };
+    const auto read = [=](int order) { return sizeOf(order) == 1 ? std::size_t{1} : packed(order); };
     const char* const names[] = {"Perm", "Pack", "CCS"};
     return {kind.name + (forward ? " to " : " from ") + names[static_cast<int>(layout)],
             kind,
@@ -149,25 +170,26 @@ TransformCase<T> realCase(TransformKind kind, bool forward, Layout layout,
             }};
 }
 
-#define TARN_TRANSFORM_KIND(KIND, ID) \
-    makeKind(#KIND, ID, tarnsFFTInitAlloc_##KIND, tarnsFFTFree_##KIND, tarnsFFTGetBufSize_##KIND)
+#define TARN_TRANSFORM_KIND(FAMILY, KIND, ID) \
+    makeKind(#KIND, ID, tarns##FAMILY##InitAlloc_##KIND, tarns##FAMILY##Free_##KIND, tarns##FAMILY##GetBufSize_##KIND)
 
-#define TARN_TRANSFORM_CASES(T, FIRST_ID)                                                                     \
-    [] {                                                                                                      \
-        const TransformKind pairs = TARN_TRANSFORM_KIND(C_##T##c, FIRST_ID);                                  \
-        const TransformKind parts = TARN_TRANSFORM_KIND(C_##T, (FIRST_ID) + 1);                               \
-        const TransformKind real = TARN_TRANSFORM_KIND(R_##T, (FIRST_ID) + 2);                                \
-        using enum Layout;                                                                                    \
-        return std::vector<TransformCase<Tarn##T>>{pairsCase<Tarn##T>(pairs, true, tarnsFFTFwd_CToC_##T##c),  \
-                                                   pairsCase<Tarn##T>(pairs, false, tarnsFFTInv_CToC_##T##c), \
-                                                   partsCase(parts, true, tarnsFFTFwd_CToC_##T),              \
-                                                   partsCase(parts, false, tarnsFFTInv_CToC_##T),             \
-                                                   realCase(real, true, perm, tarnsFFTFwd_RToPerm_##T),       \
-                                                   realCase(real, true, pack, tarnsFFTFwd_RToPack_##T),       \
-                                                   realCase(real, true, ccs, tarnsFFTFwd_RToCCS_##T),         \
-                                                   realCase(real, false, perm, tarnsFFTInv_PermToR_##T),      \
-                                                   realCase(real, false, pack, tarnsFFTInv_PackToR_##T),      \
-                                                   realCase(real, false, ccs, tarnsFFTInv_CCSToR_##T)};       \
+#define TARN_TRANSFORM_CASES(FAMILY, SIZE, T, FIRST_ID)                                 \
+    [] {                                                                                \
+        const TransformKind pairs = TARN_TRANSFORM_KIND(FAMILY, C_##T##c, FIRST_ID);    \
+        const TransformKind parts = TARN_TRANSFORM_KIND(FAMILY, C_##T, (FIRST_ID) + 1); \
+        const TransformKind real = TARN_TRANSFORM_KIND(FAMILY, R_##T, (FIRST_ID) + 2);  \
+        using enum Layout;                                                              \
+        return std::vector<TransformCase<Tarn##T>>{                                     \
+            pairsCase<Tarn##T>(SIZE, pairs, true, tarns##FAMILY##Fwd_CToC_##T##c),      \
+            pairsCase<Tarn##T>(SIZE, pairs, false, tarns##FAMILY##Inv_CToC_##T##c),     \
+            partsCase(SIZE, parts, true, tarns##FAMILY##Fwd_CToC_##T),                  \
+            partsCase(SIZE, parts, false, tarns##FAMILY##Inv_CToC_##T),                 \
+            realCase(SIZE, real, true, perm, tarns##FAMILY##Fwd_RToPerm_##T),           \
+            realCase(SIZE, real, true, pack, tarns##FAMILY##Fwd_RToPack_##T),           \
+            realCase(SIZE, real, true, ccs, tarns##FAMILY##Fwd_RToCCS_##T),             \
+            realCase(SIZE, real, false, perm, tarns##FAMILY##Inv_PermToR_##T),          \
+            realCase(SIZE, real, false, pack, tarns##FAMILY##Inv_PackToR_##T),          \
+            realCase(SIZE, real, false, ccs, tarns##FAMILY##Inv_CCSToR_##T)};           \
     }()
 
 } // namespace
@@ -175,14 +197,28 @@ TransformCase<T> realCase(TransformKind kind, bool forward, Layout layout,
 template <>
 const std::vector<TransformCase<Tarn32f>>& transformCases<Tarn32f>()
 {
-    static const std::vector<TransformCase<Tarn32f>> cases = TARN_TRANSFORM_CASES(32f, 4);
+    static const std::vector<TransformCase<Tarn32f>> cases = TARN_TRANSFORM_CASES(FFT, sizeOfOrder, 32f, 4);
     return cases;
 }
 
 template <>
 const std::vector<TransformCase<Tarn64f>>& transformCases<Tarn64f>()
 {
-    static const std::vector<TransformCase<Tarn64f>> cases = TARN_TRANSFORM_CASES(64f, 7);
+    static const std::vector<TransformCase<Tarn64f>> cases = TARN_TRANSFORM_CASES(FFT, sizeOfOrder, 64f, 7);
+    return cases;
+}
+
+template <>
+const std::vector<TransformCase<Tarn32f>>& anyTransformCases<Tarn32f>()
+{
+    static const std::vector<TransformCase<Tarn32f>> cases = TARN_TRANSFORM_CASES(DFT, sizeOfLength, 32f, 13);
+    return cases;
+}
+
+template <>
+const std::vector<TransformCase<Tarn64f>>& anyTransformCases<Tarn64f>()
+{
+    static const std::vector<TransformCase<Tarn64f>> cases = TARN_TRANSFORM_CASES(DFT, sizeOfLength, 64f, 16);
     return cases;
 }
 

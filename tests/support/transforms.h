@@ -1,4 +1,4 @@
-// The transforms of power-of-two lengths behind one interface: arrays of reals in, arrays of reals out.
+// The Fourier transforms behind one interface: arrays of reals in, arrays of reals out.
 #pragma once
 
 #include "model/fft.h"
@@ -41,9 +41,12 @@ struct TransformCase {
     std::function<Arrays<long double>(const Arrays<T>& src, int order)> model;
 };
 
-/// All transforms of a precision: Tarn32f or Tarn64f.
+/// All transforms of a precision, Tarn32f or Tarn64f: of power-of-two lengths, and of any length, where what is called
+/// an order here is the length itself.
 template <class T>
 const std::vector<TransformCase<T>>& transformCases();
+template <class T>
+const std::vector<TransformCase<T>>& anyTransformCases();
 /// All kinds of a precision.
 template <class T>
 std::vector<TransformKind> transformKinds();
@@ -65,9 +68,8 @@ private:
 };
 
 /// What a flag multiplies the results of a direction by.
-inline long double scaleOf(int flag, bool forward, int order)
+inline long double scaleOf(int flag, bool forward, long double size)
 {
-    const long double size = std::ldexp(1.0L, order);
     switch (flag) {
     case TARN_FFT_DIV_FWD_BY_N:
         return forward ? 1 / size : 1;
@@ -78,6 +80,10 @@ inline long double scaleOf(int flag, bool forward, int order)
     default:
         return 1;
     }
+}
+inline long double scaleOf(int flag, bool forward, int order)
+{
+    return scaleOf(flag, forward, std::ldexp(1.0L, order));
 }
 
 inline constexpr int allFlags[] = {TARN_FFT_DIV_FWD_BY_N, TARN_FFT_DIV_INV_BY_N, TARN_FFT_DIV_BY_SQRTN,

@@ -1,4 +1,4 @@
-// Kernels of the transforms of any length: tables, direct sums, recombination, blocks of elements.
+// Kernels of the transforms of any length: tables, direct sums, convolution with a chirp, recombination.
 #pragma once
 
 #include "frame/kernels.h"
@@ -45,6 +45,26 @@ TARN_KERNEL void tarns_rDftInvRecombine_64f(const Tarn64f* pSrc, Tarn64f* pDst, 
 
 TARN_DFT_DECLARE_DIRECT(32f);
 TARN_DFT_DECLARE_DIRECT(64f);
+
+// -- Convolution with a chirp -----------------------------------------------------------------------------------------
+//
+// The object's tables for N points, from `baseLen` roots, N or 2 N of them. `work` is on a boundary of 16 bytes and
+// holds `convLen` complex elements and the buffer of the convolution's transforms. In place or not.
+#define TARN_DFT_DECLARE_CONVOLUTION(T)                                                                                \
+    TARN_KERNEL TarnStatus tarns_initDftConv_##T(tarn::dft::Spec<Tarn##T>* pSpec, int N, const Tarn##T##c* base,       \
+                                                 int baseLen);                                                         \
+    TARN_KERNEL TarnStatus tarns_cDft_Conv_##T##c(const tarn::dft::Spec<Tarn##T>* pSpec, const Tarn##T##c* pSrc,       \
+                                                  Tarn##T##c* pDst, int N, int direction, Tarn##T* work);              \
+    TARN_KERNEL TarnStatus tarns_cDft_Conv_##T(const tarn::dft::Spec<Tarn##T>* pSpec, const Tarn##T* pSrcRe,           \
+                                               const Tarn##T* pSrcIm, Tarn##T* pDstRe, Tarn##T* pDstIm, int direction, \
+                                               Tarn##T* work);                                                         \
+    TARN_KERNEL TarnStatus tarns_rDftFwd_Conv_##T(const tarn::dft::Spec<Tarn##T>* pSpec, const Tarn##T* pSrc,          \
+                                                  Tarn##T* pDst, Tarn##T* work);                                       \
+    TARN_KERNEL TarnStatus tarns_rDftInv_Conv_##T(const tarn::dft::Spec<Tarn##T>* pSpec, const Tarn##T* pSrc,          \
+                                                  Tarn##T* pDst, Tarn##T* work)
+
+TARN_DFT_DECLARE_CONVOLUTION(32f);
+TARN_DFT_DECLARE_CONVOLUTION(64f);
 
 // -- Blocks of complex elements: product element by element, zeros, conjugates --------------------------------------
 

@@ -1,0 +1,118 @@
+#include "support/transform_runs.h"
+
+#include "support/compare.h"
+#include "support/fpstate.h"
+#include "support/guarded.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace tarn::test {
+
+template <class T>
+std::vector<T> signal(std::size_t count, unsigned seed)
+{
+    std::mt19937 random(seed);
+    std::uniform_real_distribution<double> uniform(-1, 1);
+    std::vector<T> values(count);
+    for (T& value : values)
+        value = static_cast<T>(uniform(random));
+    return values;
+}
+
+template <class T>
+Arrays<T> inputFor(const TransformCase<T>& transform, int order)
+{
+    Arrays<T> src;
+    for (int i = 0; i < transform.arrays; ++i)
+        src.push_back(
+            signal<T>(transform.srcReals(order), 17u * static_cast<unsigned>(order) + static_cast<unsigned>(i)));
+    return src;
+}
+
+template <class T>
+Arrays<T> run(const TransformCase<T>& transform, const Arrays<T>& src, const TransformSpec& spec, int order)
+{
+    Arrays<T> dst(static_cast<std::size_t>(transform.arrays), std::vector<T>(transform.dstReals(order)));
+    const T* from[2] = {};
+    T* to[2] = {};
+    for (std::size_t i = 0; i < dst.size(); ++i) {
+        from[i] = src[i].data();
+        to[i] = dst[i].data();
+    }
+    EXPECT_EQ(tarnStsNoErr, transform.run(from, to, spec.get(), nullptr)) << transform.name;
+    return dst;
+}
+
+template <class T>
+long double relativeError(const Arrays<long double>& expected, const Arrays<T>& actual, long double scale)
+{
+    long double difference = 0;
+    long double total = 0;
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(expected[i].size(), actual[i].size());
+        for (std::size_t j = 0; j < expected[i].size(); ++j) {
+            const long double e = scale * expected[i][j];
+            difference += (actual[i][j] - e) * (actual[i][j] - e);
+            total += e * e;
+        }
+    }
+    return std::sqrt(difference / total);
+}
+
+template <class T>
+Arrays<T> runAt(const TransformCase<T>& transform, const Arrays<T>& src, const TransformSpec& spec, int order,
+                const Places& places)
+{
+    std::vector<std::unique_ptr<GuardedArray<T>>> from;
+    std::vector<std::unique_ptr<GuardedArray<T>>> to;
+    const T* sources[2] = {};
+    T* destinations[2] = {};
+    const std::size_t dstReals = transform.dstReals(order);
+    for (std::size_t i = 0; i < src.size(); ++i) {
+        const std::size_t reals = places.inPlace ? std::max(dstReals, src[i].size()) : dstReals;
+        to.push_back(std::make_unique<GuardedArray<T>>(reals, Placement::offset(places.dst)));
+        destinations[i] = to.back()->data();
+        if (places.inPlace) {
+            for (std::size_t j = 0; j < src[i].size(); ++j)
+                to.back()->set(j, src[i][j]);
+            sources[i] = destinations[i];
+        } else {
+            from.push_back(std::make_unique<GuardedArray<T>>(src[i], Placement::offset(places.src)));
+            sources[i] = from.back()->data();
+        }
+    }
+    using Buffer = Places::Buffer;
+    const std::size_t bytes = spec.bufSize();
+    GuardedArray<Tarn8u> work(bytes, places.buffer == Buffer::exact ? Placement::atEnd()
+                                     : places.buffer == Buffer::odd ? Placement::offset(13)
+                                                                    : Placement::offset(0));
+    Tarn8u* const buffer = places.buffer == Buffer::null ? nullptr : work.data();
+    const FpState before = FpState::current();
+    EXPECT_EQ(tarnStsNoErr, transform.run(sources, destinations, spec.get(), buffer));
+    EXPECT_EQ("", before.changesSince());
+    for (std::size_t i = 0; i < from.size(); ++i)
+        EXPECT_TRUE(arraysMatch<T>(src[i], *from[i], {.nan = NanRule::sameBits})) << "the source has changed";
+    Arrays<T> dst;
+    for (const auto& array : to) {
+        dst.push_back(array->copy());
+        dst.back().resize(dstReals);
+    }
+    return dst;
+}
+
+template std::vector<Tarn32f> signal<Tarn32f>(std::size_t, unsigned);
+template Arrays<Tarn32f> inputFor(const TransformCase<Tarn32f>&, int);
+template Arrays<Tarn32f> run(const TransformCase<Tarn32f>&, const Arrays<Tarn32f>&, const TransformSpec&, int);
+template long double relativeError(const Arrays<long double>&, const Arrays<Tarn32f>&, long double);
+template Arrays<Tarn32f> runAt(const TransformCase<Tarn32f>&, const Arrays<Tarn32f>&, const TransformSpec&, int,
+                               const Places&);
+template std::vector<Tarn64f> signal<Tarn64f>(std::size_t, unsigned);
+template Arrays<Tarn64f> inputFor(const TransformCase<Tarn64f>&, int);
+template Arrays<Tarn64f> run(const TransformCase<Tarn64f>&, const Arrays<Tarn64f>&, const TransformSpec&, int);
+template long double relativeError(const Arrays<long double>&, const Arrays<Tarn64f>&, long double);
+template Arrays<Tarn64f> runAt(const TransformCase<Tarn64f>&, const Arrays<Tarn64f>&, const TransformSpec&, int,
+                               const Places&);
+
+} // namespace tarn::test

@@ -1,0 +1,36 @@
+// Runs of transforms on arrays of their own, at chosen places, and how far off the results are.
+#pragma once
+
+#include "support/transforms.h"
+
+namespace tarn::test {
+
+/// Reals between -1 and 1.
+template <class T>
+std::vector<T> signal(std::size_t count, unsigned seed);
+
+template <class T>
+Arrays<T> inputFor(const TransformCase<T>& transform, int order);
+
+/// Runs a transform on aligned arrays of its own.
+template <class T>
+Arrays<T> run(const TransformCase<T>& transform, const Arrays<T>& src, const TransformSpec& spec, int order);
+
+/// Root mean square of the difference, relative to that of what is expected.
+template <class T>
+long double relativeError(const Arrays<long double>& expected, const Arrays<T>& actual, long double scale);
+
+/// Where the arrays of a call lie; an offset is in bytes from a 64-byte boundary.
+struct Places {
+    unsigned src;
+    unsigned dst;
+    bool inPlace;
+    enum class Buffer { null, aligned, odd, exact } buffer;
+};
+
+/// The same between pages that must not be touched. The source is to stay as it is, and so is the floating-point state.
+template <class T>
+Arrays<T> runAt(const TransformCase<T>& transform, const Arrays<T>& src, const TransformSpec& spec, int order,
+                const Places& places);
+
+} // namespace tarn::test
