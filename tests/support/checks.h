@@ -14,17 +14,12 @@
 // buffers have to keep every byte. At last the call without a fault has to succeed.
 #pragma once
 
-#include "support/guarded.h"
 #include "tarncore.h"
 
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <functional>
+#include <cstddef>
+#include <cstring>
 #include <initializer_list>
-#include <memory>
 #include <string>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -86,101 +81,113 @@ ParameterArgument<T> param(T good, std::initializer_list<std::type_identity_t<T>
 
 namespace detail {
 
-/// One way to spoil one argument.
-struct Fault {
-    std::string text;
-    int status;
-    Check check;
-    bool last = false; ///< comes behind all the other checks
-    std::size_t argument;
-    std::function<void()> apply;
-    std::function<void()> undo;
+// Arguments are bytes, so that everything behind a signature is compiled once.
+
+/// Room for an argument of any type.
+struct Slot {
+    alignas(16) unsigned char bytes[16] = {};
+
+    template <class Parameter>
+    static Slot of(Parameter value)
+    {
+        static_assert(sizeof value <= sizeof bytes && std::is_trivially_copyable_v<Parameter>);
+        Slot slot;
+        std::memcpy(slot.bytes, &value, sizeof value);
+        return slot;
+    }
+    template <class Parameter>
+    Parameter as() const
+    {
+        Parameter value;
+        std::memcpy(&value, bytes, sizeof value);
+        return value;
+    }
 };
 
-struct ChecksRun {
-    const ChecksOptions& options;
-    std::vector<Fault> faults;
-    std::vector<std::unique_ptr<GuardedBytes>> buffers;
-    std::function<int()> call;
+enum class ArgumentKind : char { value, array, object, length, parameter };
 
-    void* newBuffer();
-    void run();
-    void expectStatus(int status, const std::string& faultsText);
+/// What a placeholder is for an argument of its type.
+struct AnyArgument {
+    ArgumentKind kind = ArgumentKind::value;
+    Slot good;
+    std::vector<Slot> bad;
+    int status = 0;
 };
 
-/// What a placeholder is when the function is called.
+enum class ParameterKind : char { pointer, integer, other };
+
+template <class Parameter>
+constexpr ParameterKind parameterKind = std::is_pointer_v<Parameter>     ? ParameterKind::pointer
+                                        : std::is_same_v<Parameter, int> ? ParameterKind::integer
+                                                                         : ParameterKind::other;
+
 template <class Parameter, class Argument>
-void prepare(ChecksRun& run, std::size_t index, Parameter& value, const Argument& argument)
+AnyArgument describe(const Argument& argument)
 {
-    const std::string where = "argument " + std::to_string(index);
-    auto addFault = [&](const std::string& text, int status, Check check, Parameter bad, bool last = false) {
-        run.faults.push_back({where + text, status, check, last, index, [&value, bad] { value = bad; },
-                              [&value, good = value] { value = good; }});
-    };
     if constexpr (std::is_same_v<Argument, ArrayArgument>) {
-        value = static_cast<Parameter>(run.newBuffer());
-        addFault(" null", run.options.pointerStatus, Check::pointer, nullptr);
+        static_assert(std::is_pointer_v<Parameter>);
+        return {ArgumentKind::array, {}, {}, 0};
     } else if constexpr (std::is_same_v<Argument, LengthArgument>) {
-        value = static_cast<Parameter>(argument.good);
-        const int status = argument.status != 0 ? argument.status : run.options.lengthStatus;
-        for (int bad : {0, -1, INT_MIN})
-            addFault(" = " + std::to_string(bad), status, Check::length, static_cast<Parameter>(bad));
-        for (int bad : run.options.wrappedLengths)
-            addFault(" = " + std::to_string(bad), status, Check::length, static_cast<Parameter>(bad), true);
+        static_assert(std::is_same_v<Parameter, int>);
+        return {ArgumentKind::length, Slot::of(argument.good), {}, argument.status};
     } else if constexpr (requires { argument.pointer; }) {
-        value = argument.pointer;
-        addFault(" null", run.options.pointerStatus, Check::pointer, nullptr);
+        return {ArgumentKind::object, Slot::of<Parameter>(argument.pointer), {}, 0};
     } else if constexpr (requires { argument.bad; }) {
-        value = static_cast<Parameter>(argument.good);
+        AnyArgument any{ArgumentKind::parameter, Slot::of(static_cast<Parameter>(argument.good)), {}, argument.status};
         for (const auto& bad : argument.bad)
-            addFault(" a bad parameter", argument.status, Check::parameter, static_cast<Parameter>(bad));
+            any.bad.push_back(Slot::of(static_cast<Parameter>(bad)));
+        return any;
     } else {
-        value = static_cast<Parameter>(argument);
+        return {ArgumentKind::value, Slot::of(static_cast<Parameter>(argument)), {}, 0};
     }
 }
 
 /// Where the length stands in a signature: the first int behind the last pointer, or between pointers if none is
 /// behind. None (the number of parameters) if there are both, since one of them may be a constant or a further
 /// parameter.
-template <class... Parameters>
-constexpr std::size_t lengthIndex()
+constexpr std::size_t lengthIndex(std::initializer_list<ParameterKind> kinds)
 {
-    constexpr std::size_t count = sizeof...(Parameters);
-    constexpr bool isPointer[] = {std::is_pointer_v<Parameters>...};
-    constexpr bool isInt[] = {std::is_same_v<Parameters, int>...};
+    const std::size_t count = kinds.size();
     std::size_t between = count;
     std::size_t behind = count;
     bool pointerSeen = false;
     for (std::size_t i = 0; i < count; ++i) {
-        if (isPointer[i]) {
+        const ParameterKind kind = kinds.begin()[i];
+        if (kind == ParameterKind::pointer) {
             pointerSeen = true;
             if (behind < between)
                 between = behind;
             behind = count;
-        } else if (isInt[i] && pointerSeen && behind == count) {
+        } else if (kind == ParameterKind::integer && pointerSeen && behind == count) {
             behind = i;
         }
     }
     return between == count ? behind : (behind == count ? between : count);
 }
 
-/// The placeholders that a signature suggests: pointers are arrays, one int is the length, the rest is zero.
-template <class... Parameters>
-void prepareFromSignature(ChecksRun& run, std::tuple<Parameters...>& values)
+/// A function of any signature.
+struct AnyFunction {
+    void (*function)();
+    int (*thunk)(void (*function)(), const Slot* arguments);
+};
+
+template <class Result, class... Parameters>
+AnyFunction erase(Result (*function)(Parameters...))
 {
-    static_assert(lengthIndex<Parameters...>() < sizeof...(Parameters),
-                  "the signature does not tell which int is the length: name the arguments");
-    std::size_t index = 0;
-    auto one = [&]<class Parameter>(Parameter& value) {
-        if constexpr (std::is_pointer_v<Parameter>)
-            prepare(run, index, value, array);
-        else if constexpr (std::is_same_v<Parameter, int>)
-            if (index == lengthIndex<Parameters...>())
-                prepare(run, index, value, length);
-        ++index;
-    };
-    std::apply([&](auto&... value) { (one(value), ...); }, values);
+    return {reinterpret_cast<void (*)()>(function), [](void (*f)(), const Slot* arguments) {
+                return [&]<std::size_t... K>(std::index_sequence<K...>)
+                {
+                    return static_cast<int>(
+                        reinterpret_cast<Result (*)(Parameters...)>(f)(arguments[K].as<Parameters>()...));
+                }
+                (std::index_sequence_for<Parameters...>{});
+            }};
 }
+
+void runChecks(AnyFunction function, std::initializer_list<AnyArgument> arguments, const ChecksOptions& options);
+
+/// The placeholders that a signature suggests: pointers are arrays, one int is the length, the rest is zero.
+void runChecks(AnyFunction function, std::initializer_list<ParameterKind> kinds, const ChecksOptions& options);
 
 } // namespace detail
 
@@ -189,19 +196,13 @@ void expectChecks(Result (*function)(Parameters...), const ChecksOptions& option
 {
     static_assert(sizeof...(Arguments) == 0 || sizeof...(Arguments) == sizeof...(Parameters),
                   "one placeholder or value for each parameter, or none at all");
-    detail::ChecksRun run{options, {}, {}, {}};
-    std::tuple<Parameters...> values{};
     if constexpr (sizeof...(Arguments) == 0) {
-        detail::prepareFromSignature(run, values);
+        static_assert(detail::lengthIndex({detail::parameterKind<Parameters>...}) < sizeof...(Parameters),
+                      "the signature does not tell which int is the length: name the arguments");
+        detail::runChecks(detail::erase(function), {detail::parameterKind<Parameters>...}, options);
     } else {
-        [&]<std::size_t... K>(std::index_sequence<K...>)
-        {
-            (detail::prepare(run, K, std::get<K>(values), arguments), ...);
-        }
-        (std::index_sequence_for<Arguments...>{});
+        detail::runChecks(detail::erase(function), {detail::describe<Parameters>(arguments)...}, options);
     }
-    run.call = [&] { return static_cast<int>(std::apply(function, values)); };
-    run.run();
 }
 
 } // namespace tarn::test

@@ -34,7 +34,8 @@
 namespace tarn::test {
 
 enum class Depth {
-    full, ///< every length to 70 at every byte offset of the destination times every one of the sources
+    full, ///< every length to 70 at every byte offset of the destination times every one of the sources; quick if the
+          ///< environment has TARNS_TEST_DEPTH=quick
     quick ///< every length to 70, few offsets each, all offsets in turn: some 350 calls
 };
 
