@@ -30,15 +30,18 @@ const std::vector<int>* integersFor(const std::string& name)
         {"alphaQ15", range(-3, 3, {32767, -32768, 16384, -16384, 5243, 70000, -70000})},
         {"chanLen", range(1, 70, {300})},
         {"doNormal", {0, 1}},
+        {"dstLen", range(1, 40, {64, 100, 151, 152, 153, 367, 368, 500, 855, 856, 857, 1200, 3000})},
         {"factor", range(1, 6, {0})},
         {"flag", {1, 2, 4, 8, 1, 2, 4, 8, 1, 2, 4, 8, 0}},
         {"hint", {0, 1, 2, 3}},
+        {"lowLag", range(-12, 12, {-40, -100, -300, -900, 30, 64, 200, 600, -1000000})},
         {"nChannels", range(1, 5)},
         {"order", range(0, 11, {0, 1, 2, 3, 4, 5, 6, 7, 8, 12, 13, 15, 17})},
         {"relOp", range(0, 5, {0, 4})},
         {"rndMode", {0, 1, 0, 1, 2}},
         {"scaleFactor", range(-36, 36, {0, 0, 0, 0, 0,  0,  0,  0,  1,  1,  1,  1,  1,  1,   1,   1,   2,   2,
                                         2, 3, 5, 8, 15, 16, -1, -1, -1, -1, -2, -3, -8, -15, -16, 100, -100})},
+        {"src2Len", range(1, 40, {40, 50, 62, 63, 64, 65, 66, 100, 128, 200, 256, 300, 500, 1400})},
         {"tapsFactor", range(-18, 18, {0, 0, 0})},
         {"tapsLen",
          range(1, 40, {5, 6, 7, 8, 9, 10, 15, 16, 17, 31, 33, 63, 64, 65, 66, 100, 127, 128, 255, 300, 700})},
@@ -63,7 +66,7 @@ const std::pair<double, double>* intervalFor(const std::string& name)
     return found == intervals.end() ? nullptr : &found->second;
 }
 
-bool isLength(const std::string& name) { return contains({"len", "srcLen", "numIters"}, name); }
+bool isLength(const std::string& name) { return contains({"len", "srcLen", "src1Len", "numIters"}, name); }
 
 bool isDataNumber(const std::string& name)
 {
