@@ -9,6 +9,7 @@
 #include "tarns/correlation.h"
 #include "tarns/cplx.h"
 #include "tarns/data.h"
+#include "tarns/dct.h"
 #include "tarns/dft.h"
 #include "tarns/divide.h"
 #include "tarns/exponential.h"
