@@ -20,6 +20,7 @@
 #include "tarns/firstate.h"
 #include "tarns/generators.h"
 #include "tarns/goertzel.h"
+#include "tarns/hilbert.h"
 #include "tarns/logic.h"
 #include "tarns/magnitude.h"
 #include "tarns/memory.h"

@@ -126,7 +126,7 @@ void expectReturn(int N, TarnHintAlgorithm hint)
 
 TEST(Dct, TheInverseGivesTheSignalBack)
 {
-    for (int N : {1000, 1024, 2048, 5000, 16384, 65537, 1 << 17})
+    for (int N : {1000, 1024, 2048, 5000, 16384, 33333, 1 << 16})
         for (TarnHintAlgorithm hint : {tarnAlgHintNone, tarnAlgHintAccurate}) {
             expectReturn<Tarn32f>(N, hint);
             expectReturn<Tarn64f>(N, hint);
