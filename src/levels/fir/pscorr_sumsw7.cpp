@@ -24,155 +24,25 @@ Terms spanOf(Terms a, Terms b) { return {std::min(a.first, b.first), std::max(a.
 template <typename T>
 inline constexpr int registersAtOnce = isComplex<T> ? 2 : 4;
 
-// The sums of one block of outputs; n names one of them, and its term i is the product of x[i] and s[n + direction i].
-template <typename T, int direction>
-class Block {
-    using P = Part<T>;
-    using V = Vector<P>;
-    static constexpr int parts = isComplex<T> ? 2 : 1;
-
-public:
-    static constexpr int perRegister = V::size / parts;
-    static constexpr int size = registersAtOnce<T> * perRegister;
-
-    Block(const T* factors, int factorsLen, const T* samples, int samplesLen)
-        : x(factors), xLen(factorsLen), s(samples), sLen(samplesLen)
+// A result of its sums: complex ones are those with real parts, (xr sr, xr si), and with imaginary ones, (xi sr, xi
+// si).
+template <typename T, typename P>
+TARN_INLINE auto resultOf(const P (&sums)[isComplex<T> ? 2 : 1])
+{
+    const auto asResult = [](const P& sum) __attribute__((always_inline))
     {
-    }
-
-    // The terms that outputs from n to `last` have.
-    Terms termsOf(long long n, long long last) const { return spanOf(termsOf(n), termsOf(last)); }
-
-    // Sums such terms of the outputs from n on.
-    void sum(long long n, Terms terms)
-    {
-        begin = n;
-        for (auto& plane : sums) {
-            std::fill(std::begin(plane), std::end(plane), P{0});
-        }
-        take<registersAtOnce<T>>(0, terms);
-    }
-
-    // The results, as many as X has.
-    template <typename X>
-    TARN_INLINE X result(int lane) const
-    {
-        if constexpr (isComplex<T>) {
-            // Products with real parts are (xr sr, xr si), those with imaginary ones (xi sr, xi si).
-            return add(load<X>(sums[0], lane), conjugate(swapParts(load<X>(sums[1], lane))));
+        if constexpr (isPack<P>) {
+            return reinterpretPack<T>(sum);
         } else {
-            return load<X>(sums[0], lane);
+            return sum;
         }
+    };
+    if constexpr (isComplex<T>) {
+        return add(asResult(sums[0]), conjugate(swapParts(asResult(sums[1]))));
+    } else {
+        return asResult(sums[0]);
     }
-
-private:
-    Terms termsOf(long long n) const
-    {
-        if constexpr (direction > 0) {
-            return {std::max(0LL, -n), std::min<long long>(xLen, sLen - n)};
-        } else {
-            return {std::max(0LL, n - sLen + 1), std::min<long long>(xLen, n + 1)};
-        }
-    }
-
-    // The outputs in so many registers. The terms that all of them have are taken together; those before and behind
-    // belong to fewer of them.
-    template <int registers>
-    void take(int lane, Terms terms)
-    {
-        const Terms ofFirst = termsOf(begin + lane);
-        const Terms ofLast = termsOf(begin + lane + registers * perRegister - 1);
-        terms = commonOf(terms, spanOf(ofFirst, ofLast));
-        const Terms common = commonOf(terms, commonOf(ofFirst, ofLast));
-        if (common.empty()) {
-            takeApart<registers>(lane, terms);
-            return;
-        }
-        takeApart<registers>(lane, {terms.first, common.first});
-        takeTogether<registers>(lane, static_cast<Index>(common.first), static_cast<Index>(common.end));
-        takeApart<registers>(lane, {common.end, terms.end});
-    }
-
-    template <int registers>
-    void takeApart(int lane, Terms terms)
-    {
-        if (terms.empty()) {
-            return;
-        }
-        if constexpr (registers > 1) {
-            for (int r = 0; r < registers; ++r) {
-                take<1>(lane + r * perRegister, terms);
-            }
-        } else {
-            for (int k = lane; k < lane + perRegister; ++k) {
-                takeOne(k, commonOf(terms, termsOf(begin + k)));
-            }
-        }
-    }
-
-    // What stands against x[i] in the sum of an output, and in those behind it.
-    const P* partner(int lane, Index i) const
-    {
-        return reinterpret_cast<const P*>(s + (static_cast<Index>(begin) + lane + direction * i));
-    }
-
-    template <int registers>
-    TARN_INLINE void takeTogether(int lane, Index first, Index end)
-    {
-        V held[parts][registers];
-        repeat<parts>([&](auto plane) {
-            repeat<registers>(
-                [&](auto r) { held[plane][r] = loadPack<V::size>(&sums[plane][lane * parts + r * V::size]); });
-        });
-        const P* factor = reinterpret_cast<const P*>(x + first);
-        const P* against = partner(lane, first);
-        for (Index i = first; i < end; ++i) {
-            V factors[parts];
-            repeat<parts>([&](auto plane) { factors[plane] = splat<V>(loadElement(factor + plane)); });
-            repeat<registers>([&](auto r) {
-                const V samples = loadPack<V::size>(against + r * V::size);
-                repeat<parts>([&](auto plane) { held[plane][r] = add(held[plane][r], mul(samples, factors[plane])); });
-            });
-            factor += parts;
-            against += direction * parts;
-        }
-        repeat<parts>([&](auto plane) {
-            repeat<registers>([&](auto r) { store(&sums[plane][lane * parts + r * V::size], held[plane][r]); });
-        });
-    }
-
-    void takeOne(int lane, Terms terms)
-    {
-        for (auto i = static_cast<Index>(terms.first); i < terms.end; ++i) {
-            const P* const factor = reinterpret_cast<const P*>(x + i);
-            const P* const sample = partner(lane, i);
-            repeat<parts>([&](auto plane) {
-                repeat<parts>([&](auto part) {
-                    P& total = sums[plane][lane * parts + part];
-                    total = add(total, mul(loadElement(sample + part), loadElement(factor + plane)));
-                });
-            });
-        }
-    }
-
-    template <typename X>
-    static TARN_INLINE X load(const P* plane, int lane)
-    {
-        const T* const p = reinterpret_cast<const T*>(plane) + lane;
-        if constexpr (isPack<X>) {
-            return loadPack<X::size>(p);
-        } else {
-            return loadElement(p);
-        }
-    }
-
-    const T* x;
-    int xLen;
-    const T* s;
-    int sLen;
-    long long begin = 0;
-    alignas(vectorBytes) P sums[parts][size * parts];
-};
+}
 
 // A result as it goes to the destination: conjugated and in the opposite order, or as it is.
 template <Results results, typename X>
@@ -187,36 +57,216 @@ TARN_INLINE X turned(X x)
     }
 }
 
-// Adds the results of outputs n to n + count - 1, of len.
-template <Results results, typename X, typename T, typename Sums>
-TARN_INLINE void addResults(const Sums& sums, T* dst, int len, int n, int count)
-{
-    constexpr int step = isPack<X> ? Sums::perRegister : 1;
-    for (int lane = 0; lane < count; lane += step) {
-        T* const p = dst + (results == Results::forward ? n + lane : len - n - lane - step);
-        const X result = turned<results>(sums.template result<X>(lane));
-        if constexpr (isPack<X>) {
-            store(p, add(loadPack<step>(p), result));
+// The destination of a run of outputs, which has `len` elements and is filled from its beginning or from its end.
+template <Results results, typename T>
+struct Destination {
+    T* dst;
+    int len;
+
+    TARN_INLINE void add(int n, T result) const
+    {
+        T* const p = at(n, 1);
+        store(p, tarn::add(loadElement(p), turned<results>(result)));
+    }
+    template <int N>
+    TARN_INLINE void add(int n, Pack<T, N> result) const
+    {
+        T* const p = at(n, N);
+        store(p, tarn::add(loadPack<N>(p), turned<results>(result)));
+    }
+
+private:
+    T* at(int n, int count) const { return dst + (results == Results::forward ? n : len - n - count); }
+};
+
+// Sums of neighbouring outputs; n names one of them, and its term i is the product of x[i] and s[n + direction i].
+template <typename T, int direction>
+class Sums {
+    using P = Part<T>;
+    using V = Vector<P>;
+    static constexpr int parts = isComplex<T> ? 2 : 1;
+    static constexpr int perRegister = V::size / parts;
+
+public:
+    static constexpr int perBlock = registersAtOnce<T> * perRegister;
+
+    Sums(const T* factors, int factorsLen, const T* samples, int samplesLen)
+        : x(factors), xLen(factorsLen), s(samples), sLen(samplesLen)
+    {
+    }
+
+    // The terms that outputs from n to `last` have.
+    Terms termsOf(long long n, long long last) const { return spanOf(termsOf(n), termsOf(last)); }
+
+    // The outputs that have all of these terms, the last one and those behind it excepted.
+    Terms outputsOf(Terms terms) const
+    {
+        return direction > 0 ? Terms{-terms.first, sLen - terms.end + 1} : Terms{terms.end - 1, sLen + terms.first};
+    }
+
+    // Adds the sums of these terms of a block that has them all to its place in the destination.
+    template <Results results>
+    TARN_INLINE void addWhole(Terms terms, long long n, const Destination<results, T>& dst, int place) const
+    {
+        V held[registersAtOnce<T>][parts];
+        repeat<registersAtOnce<T>>(
+            [&](auto r) { repeat<parts>([&](auto plane) { held[r][plane] = splat<V>(P{0}); }); });
+        accumulate<registersAtOnce<T>>(held, n, terms);
+        repeat<registersAtOnce<T>>([&](auto r) { dst.add(place + r * perRegister, resultOf<T>(held[r])); });
+    }
+
+    // Those of a block whose outputs have different terms of these, or of which `count` are wanted.
+    template <Results results>
+    void addApart(Terms terms, long long n, const Destination<results, T>& dst, int place, int count)
+    {
+        begin = n;
+        for (auto& register_ : partial) {
+            for (auto& plane : register_) {
+                plane = splat<V>(P{0});
+            }
+        }
+        if (count <= perRegister) {
+            take<1>(0, terms);
         } else {
-            store(p, add(loadElement(p), result));
+            take<registersAtOnce<T>>(0, terms);
+        }
+        for (int k = 0; k < count; ++k) {
+            T ofOne[parts];
+            repeat<parts>([&](auto plane) { ofOne[plane] = loadElement(lane<T>(k, plane)); });
+            dst.add(place + k, resultOf<T>(ofOne));
         }
     }
-}
+
+private:
+    Terms termsOf(long long n) const
+    {
+        if constexpr (direction > 0) {
+            return {std::max(0LL, -n), std::min<long long>(xLen, sLen - n)};
+        } else {
+            return {std::max(0LL, n - sLen + 1), std::min<long long>(xLen, n + 1)};
+        }
+    }
+
+    // The outputs in so many registers, from one of the first on. The terms that all of them have are taken together;
+    // those before and behind belong to fewer of them.
+    template <int registers>
+    void take(int first, Terms terms)
+    {
+        const long long n = begin + first * perRegister;
+        const Terms ofFirst = termsOf(n);
+        const Terms ofLast = termsOf(n + registers * perRegister - 1);
+        terms = commonOf(terms, spanOf(ofFirst, ofLast));
+        const Terms common = commonOf(terms, commonOf(ofFirst, ofLast));
+        if (common.empty()) {
+            takeApart<registers>(first, terms);
+            return;
+        }
+        takeApart<registers>(first, {terms.first, common.first});
+        takeTogether<registers>(first, common);
+        takeApart<registers>(first, {common.end, terms.end});
+    }
+
+    template <int registers>
+    void takeApart(int first, Terms terms)
+    {
+        if (terms.empty()) {
+            return;
+        }
+        if constexpr (registers > 1) {
+            for (int r = 0; r < registers; ++r) {
+                take<1>(first + r, terms);
+            }
+        } else {
+            for (int k = first * perRegister; k < (first + 1) * perRegister; ++k) {
+                takeOne(k, commonOf(terms, termsOf(begin + k)));
+            }
+        }
+    }
+
+    template <int registers>
+    void takeTogether(int first, Terms terms)
+    {
+        V held[registers][parts];
+        repeat<registers>(
+            [&](auto r) { repeat<parts>([&](auto plane) { held[r][plane] = partial[first + r][plane]; }); });
+        accumulate<registers>(held, begin + first * perRegister, terms);
+        repeat<registers>(
+            [&](auto r) { repeat<parts>([&](auto plane) { partial[first + r][plane] = held[r][plane]; }); });
+    }
+
+    void takeOne(int k, Terms terms)
+    {
+        for (auto i = static_cast<Index>(terms.first); i < terms.end; ++i) {
+            repeat<parts>([&](auto plane) {
+                const P factor = loadElement(factors(i) + plane);
+                repeat<parts>([&](auto part) {
+                    P* const total = lane<P>(k, plane) + part;
+                    store(total, add(loadElement(total), mul(loadElement(partners(begin + k, i) + part), factor)));
+                });
+            });
+        }
+    }
+
+    const P* factors(Index i) const { return reinterpret_cast<const P*>(x + i); }
+
+    // What stands against x[i] in the sum of output n, and in those behind it.
+    const P* partners(long long n, Index i) const
+    {
+        return reinterpret_cast<const P*>(s + (static_cast<Index>(n) + direction * i));
+    }
+
+    // The loop of all of it: so many registers of outputs from n on, each of which has these terms.
+    template <int registers>
+    TARN_INLINE void accumulate(V (&held)[registers][parts], long long n, Terms terms) const
+    {
+        const auto first = static_cast<Index>(terms.first);
+        const P* factor = factors(first);
+        const P* partner = partners(n, first);
+        for (auto left = static_cast<Index>(terms.end) - first; left > 0; --left) {
+            V both[parts];
+            repeat<parts>([&](auto plane) { both[plane] = splat<V>(loadElement(factor + plane)); });
+            repeat<registers>([&](auto r) {
+                const V samples = loadPack<V::size>(partner + r * V::size);
+                repeat<parts>([&](auto plane) { held[r][plane] = add(held[r][plane], mul(samples, both[plane])); });
+            });
+            factor += parts;
+            partner += direction * parts;
+        }
+    }
+
+    // One output's place among the partial sums, in parts or as an element.
+    template <typename E>
+    E* lane(int k, int plane)
+    {
+        return reinterpret_cast<E*>(reinterpret_cast<P*>(&partial[k / perRegister][plane]) + k % perRegister * parts);
+    }
+
+    const T* x;
+    int xLen;
+    const T* s;
+    int sLen;
+    long long begin = 0;
+    V partial[registersAtOnce<T>][parts];
+};
 
 // Outputs beyond the last one are summed with the others of their block, as far as they have terms.
 template <int direction, Results results, typename T>
 void addSums(const T* x, int xLen, const T* s, int sLen, T* dst, int len, long long lag)
 {
-    using Sums = Block<T, direction>;
-    Sums sums(x, xLen, s, sLen);
+    using Block = Sums<T, direction>;
+    Block sums(x, xLen, s, sLen);
+    const Destination<results, T> destination{dst, len};
     const Terms all = sums.termsOf(lag, lag + len - 1);
     for (long long run = all.first & -termsOfRun; run < all.end; run += termsOfRun) {
-        for (int n = 0; n < len; n += Sums::size) {
-            sums.sum(lag + n, {run, run + termsOfRun});
-            if (n <= len - Sums::size) {
-                addResults<results, Pack<T, Sums::perRegister>>(sums, dst, len, n, Sums::size);
+        const Terms terms = {run, std::min<long long>(run + termsOfRun, xLen)};
+        const Terms whole = sums.outputsOf(terms);
+        for (int n = 0; n < len; n += std::min(Block::perBlock, len - n)) {
+            const int count = std::min(Block::perBlock, len - n);
+            const long long output = lag + n;
+            if (count == Block::perBlock && output >= whole.first && output + count <= whole.end) {
+                sums.addWhole(terms, output, destination, n);
             } else {
-                addResults<results, T>(sums, dst, len, n, len - n);
+                sums.addApart(terms, output, destination, n, count);
             }
         }
     }
