@@ -130,6 +130,10 @@ inline void transformPairs(const Spec<T>& spec, const T* src, T* dst, T* work)
 {
     using In = PairArray<const T, !forward>;
     using Out = PairArray<T, !forward>;
+    if (spec.laneTab != nullptr) {
+        transformGrid(*static_cast<const Grid<T>*>(spec.laneTab), In{src}, Out{dst}, work);
+        return;
+    }
     const std::ptrdiff_t reals = 2 * std::ptrdiff_t{sizeOf(spec.factors[0])};
     const bool inPlace = src == dst;
     const ComplexLevels<T, In, Out> levels(spec, inPlace ? onBoundary(work + reals) : work);
@@ -141,6 +145,10 @@ inline void transformParts(const Spec<T>& spec, const T* srcRe, const T* srcIm, 
 {
     using In = PartArrays<const T>;
     using Out = PartArrays<T>;
+    if (spec.laneTab != nullptr) {
+        transformGrid(*static_cast<const Grid<T>*>(spec.laneTab), In{srcRe, srcIm}, Out{dstRe, dstIm}, work);
+        return;
+    }
     const std::ptrdiff_t N = sizeOf(spec.factors[0]);
     const bool inPlace = dstRe == srcRe || dstRe == srcIm || dstIm == srcRe || dstIm == srcIm;
     const ComplexLevels<T, In, Out> levels(spec, inPlace ? onBoundary(work + 2 * N) : work);

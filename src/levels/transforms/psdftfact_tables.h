@@ -1,7 +1,7 @@
 // The tables of mixed-radix transforms.
 #pragma once
 
-#include "levels/transforms/psdft_tables.h"
+#include "levels/transforms/psdftfact_gridtables.h"
 
 #include <algorithm>
 
@@ -127,7 +127,14 @@ inline TarnStatus initPrimeFact(Spec<T>& spec, int N, const PairOf<T>* base, int
     if (spec.bufSize == 0) {
         return tarnStsNoMemErr;
     }
-    return setPermutation(spec) ? tarnStsNoErr : tarnStsNoMemErr;
+    if (!setPermutation(spec)) {
+        return tarnStsNoMemErr;
+    }
+    if (const int columns = columnsOf<T>(N, false)) {
+        spec.laneTab = createGrid<T>(N, columns, false, base, baseLen);
+        return spec.laneTab != nullptr ? tarnStsNoErr : tarnStsNoMemErr;
+    }
+    return tarnStsNoErr;
 }
 
 } // namespace tarn::dft
