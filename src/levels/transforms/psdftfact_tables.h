@@ -108,15 +108,97 @@ inline int workBytes(const Spec<T>& spec, int N)
     return bytes > 0x7FFFFFFF ? 0 : static_cast<int>(bytes);
 }
 
-// Completes the records that testDftPrimeFact has begun.
+// -- Out of order ----------------------------------------------------------------------------------------------------
+
+// Rows of factors by block: block b holds results r[b] + n q for all n, in which numbers its row is. Its p parts become
+// blocks b p + j, of the results r[b] + j q.
+template <typename T>
+inline bool setTwiddlesByBlock(Factor& level, const PairOf<T>* base, long long stride, const int* result,
+                               int* resultsOfParts)
+{
+    const int p = level.factor;
+    auto table = allocate<PairOf<T>>(static_cast<long long>(p) * level.remaining);
+    if (!table) {
+        return false;
+    }
+    PairOf<T>* to = table.get();
+    for (int b = 0; b < level.remaining; ++b) {
+        for (int j = p > longestUnrolled ? 0 : 1; j < p; ++j) {
+            *to++ = base[j * static_cast<long long>(result[b]) * level.before * stride];
+        }
+        for (int j = 0; j < p; ++j) {
+            resultsOfParts[b * p + j] = result[b] + j * level.remaining;
+        }
+    }
+    level.twdTab = table.release();
+    return true;
+}
+
+// Blocks of a level that are transformed together: those into which a short block comes apart, and those of the last
+// two levels.
+template <typename T>
+inline void setGroupsOutOfOrder(Spec<T>& spec, int N)
+{
+    int group = 1;
+    int length = N / spec.factors[spec.lastFactor].remaining;
+    for (int i = spec.lastFactor; i >= 0; --i) {
+        Factor& level = spec.factors[i];
+        level.groupCount = group;
+        if (length < depthFirstFrom<T> || i == 1) {
+            group *= level.factor;
+        }
+        length /= level.factor;
+    }
+}
+
+template <typename T>
+inline TarnStatus initOutOfOrder(Spec<T>& spec, int N, const PairOf<T>* base, long long stride)
+{
+    auto results = allocate<int>(N);
+    auto next = allocate<int>(N);
+    if (!results || !next) {
+        return tarnStsNoMemErr;
+    }
+    for (int b = 0; b < spec.factors[spec.lastFactor].remaining; ++b) {
+        results[b] = b;
+    }
+    for (int i = spec.lastFactor; i >= 0; --i) {
+        if (!setTwiddlesByBlock<T>(spec.factors[i], base, stride, results.get(), next.get())) {
+            return tarnStsNoMemErr;
+        }
+        std::swap(results, next);
+    }
+    setGroupsOutOfOrder(spec, N);
+    return tarnStsNoErr;
+}
+
+// -- The whole object ------------------------------------------------------------------------------------------------
+
+template <typename T>
+inline TarnStatus initInOrder(Spec<T>& spec, int N, const PairOf<T>* base, int baseLen)
+{
+    setGroups(spec);
+    for (int i = 0; i <= spec.lastFactor; ++i) {
+        if (!setTwiddles<T>(spec.factors[i], base, baseLen / N)) {
+            return tarnStsNoMemErr;
+        }
+    }
+    if (!setPermutation(spec)) {
+        return tarnStsNoMemErr;
+    }
+    if (const int columns = columnsOf<T>(N, false)) {
+        spec.laneTab = createGrid<T>(N, columns, false, base, baseLen);
+        return spec.laneTab != nullptr ? tarnStsNoErr : tarnStsNoMemErr;
+    }
+    return tarnStsNoErr;
+}
+
+// Completes the records that testDftPrimeFact has begun. Short transforms are never out of order.
 template <typename T>
 inline TarnStatus initPrimeFact(Spec<T>& spec, int N, const PairOf<T>* base, int baseLen)
 {
-    const long long stride = baseLen / N;
-    setGroups(spec);
     for (int i = 0; i <= spec.lastFactor; ++i) {
-        Factor& level = spec.factors[i];
-        if (!setDirectTable(spec, i, level.factor, base, baseLen) || !setTwiddles<T>(level, base, stride)) {
+        if (!setDirectTable(spec, i, spec.factors[i].factor, base, baseLen)) {
             return tarnStsNoMemErr;
         }
     }
@@ -127,14 +209,10 @@ inline TarnStatus initPrimeFact(Spec<T>& spec, int N, const PairOf<T>* base, int
     if (spec.bufSize == 0) {
         return tarnStsNoMemErr;
     }
-    if (!setPermutation(spec)) {
-        return tarnStsNoMemErr;
+    if (N < depthFirstFrom<T>) {
+        spec.outOrdered = 0;
     }
-    if (const int columns = columnsOf<T>(N, false)) {
-        spec.laneTab = createGrid<T>(N, columns, false, base, baseLen);
-        return spec.laneTab != nullptr ? tarnStsNoErr : tarnStsNoMemErr;
-    }
-    return tarnStsNoErr;
+    return spec.outOrdered != 0 ? initOutOfOrder(spec, N, base, baseLen / N) : initInOrder(spec, N, base, baseLen);
 }
 
 } // namespace tarn::dft
