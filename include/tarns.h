@@ -11,6 +11,7 @@
 #include "tarns/data.h"
 #include "tarns/dct.h"
 #include "tarns/dft.h"
+#include "tarns/dftoutord.h"
 #include "tarns/divide.h"
 #include "tarns/exponential.h"
 #include "tarns/fft.h"
