@@ -2,6 +2,7 @@
 #include "levels/arithmetic/psdiv.h"
 
 #include "frame/simd.h"
+#include "frame/walk_ordinary.h"
 #include "levels/arithmetic/psdiv_quotients.h"
 
 #include <array>
@@ -50,10 +51,57 @@ struct RefinedQuotient {
     TARN_INLINE X operator()(X divisor, X dividend) const
     {
         const auto estimate = approxReciprocal(divisor);
-        const auto refined = sub(add(estimate, estimate), mul(mul(divisor, estimate), estimate));
-        return mul(dividend, refined);
+        return refined(dividend, estimate, mul(divisor, estimate));
+    }
+
+    template <typename X>
+    static TARN_INLINE X refined(X dividend, X estimate, X product)
+    {
+        return mul(dividend, sub(add(estimate, estimate), mul(product, estimate)));
     }
 };
+
+// The same for blocks. A divisor times its estimate is positive, or 0, but for zeros, which have an infinite estimate:
+// theirs is the processor's NaN, whose sign is set.
+struct BlocksOfQuotients {
+    Met& zeros;
+
+    template <typename X>
+    TARN_INLINE X ordinary(Doubts& doubts, X divisor, X dividend) const
+    {
+        if constexpr (X::size > registerLanes<Tarn32f>) {
+            const auto low = ordinary(doubts, divisor.lo, dividend.lo);
+            return join(low, ordinary(doubts, divisor.hi, dividend.hi));
+        } else {
+            const auto estimate = approxReciprocal(divisor);
+            const auto product = mul(divisor, estimate);
+            doubts.note(product);
+            return RefinedQuotient::refined(dividend, estimate, product);
+        }
+    }
+    template <typename X>
+    X rare(X divisor, X dividend) const
+    {
+        if constexpr (X::size > divisionGroup) {
+            const auto low = rare(divisor.lo, dividend.lo);
+            return join(low, rare(divisor.hi, dividend.hi));
+        } else {
+            return QuotientOfGroups<RefinedQuotient>{}(zeros, divisor, dividend);
+        }
+    }
+};
+
+constexpr int quotientsAtOnce = 16;
+
+int divideBySteps(const Tarn32f* pSrc1, const Tarn32f* pSrc2, Tarn32f* pDst, int len)
+{
+    Met zeros;
+    const BlocksOfQuotients quotients{zeros};
+    Index i = walkOrdinary<quotientsAtOnce>(pDst, 0, len, quotients, pSrc1, pSrc2);
+    i = walkOrdinary<divisionGroup>(pDst, i, len, quotients, pSrc1, pSrc2);
+    walkElements(pDst, i, len, reportingTo(zeros, QuotientOfElements{}), pSrc1, pSrc2);
+    return zeros.any();
+}
 
 template <typename C>
 struct ComplexQuotient {
@@ -279,8 +327,7 @@ using namespace tarn;
         return met | ownps_dkDiv_PX_##TAG(pSrc1 + whole, pSrc2 + whole, pDst + whole, len - whole);                  \
     }
 
-TARN_DEFINE_FLOAT_DIV(32f, divideGroups(pDst, len, QuotientOfGroups<RefinedQuotient>{}, pSrc1, pSrc2),
-                      QuotientOfElements)
+TARN_DEFINE_FLOAT_DIV(32f, divideBySteps(pSrc1, pSrc2, pDst, len), QuotientOfElements)
 TARN_DEFINE_FLOAT_DIV(64f, divideGroups(pDst, len, QuotientOfGroups<TrueQuotient>{}, pSrc1, pSrc2), QuotientOfElements)
 TARN_DEFINE_FLOAT_DIV(32fc, divideAnywhere(pDst, len, ComplexQuotient<Tarn32fc>{}, pSrc1, pSrc2),
                       ComplexQuotient<Tarn32fc>)

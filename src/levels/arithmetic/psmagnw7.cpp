@@ -136,7 +136,25 @@ struct NewtonMagnitude {
     {
         return newtonRoot(PowerOfFloats{}(z));
     }
+    template <int N>
+    TARN_INLINE auto ordinary(Doubts& doubts, Pack<Tarn32fc, N> z) const
+    {
+        if constexpr (N > registerLanes<Tarn32f>) {
+            return join(ordinary(doubts, z.lo), ordinary(doubts, z.hi));
+        } else {
+            const auto root = ordinaryRoot(PowerOfFloats{}(z));
+            doubts.note(root);
+            return root;
+        }
+    }
+    template <int N>
+    auto rare(Pack<Tarn32fc, N> z) const
+    {
+        return (*this)(z);
+    }
 };
+
+constexpr int magnitudesAtOnce = 16;
 
 struct ScaledMagnitude {
     Tarn32f factor;
@@ -265,7 +283,6 @@ void tarnsPwrStr_16sc_T7(const Tarn16sc* pSrc, Tarn16s* pDst, int len, int scale
 TARN_DEFINE_FROM_PARTS(owntarnsMagn_16s32f, 16s, 32f, MagnitudeToFloat)
 TARN_DEFINE_FROM_COMPLEX(owntarnsMagn_16sc32f, 16sc, 32f, MagnitudeToFloat)
 TARN_DEFINE_FROM_PARTS(owntarnsMagn_32f, 32f, 32f, TrueMagnitude)
-TARN_DEFINE_FROM_COMPLEX(owntarnsMagn_32fc, 32fc, 32f, NewtonMagnitude)
 TARN_DEFINE_FROM_PARTS(owntarnsMagn_64f, 64f, 64f, TrueMagnitude)
 TARN_DEFINE_FROM_COMPLEX(owntarnsMagn_64fc, 64fc, 64f, TrueMagnitude)
 TARN_DEFINE_FROM_PARTS(tarnsPwrStr_16s32f_T7, 16s, 32f, PowerToFloat)
@@ -274,6 +291,12 @@ TARN_DEFINE_FROM_PARTS(tarnsPwrStr_32f_T7, 32f, 32f, PowerOfFloats)
 TARN_DEFINE_FROM_COMPLEX(tarnsPwrStr_32fc_T7, 32fc, 32f, PowerOfFloats)
 TARN_DEFINE_FROM_PARTS(tarnsPwrStr_64f_T7, 64f, 64f, PowerOfFloats)
 TARN_DEFINE_FROM_COMPLEX(tarnsPwrStr_64fc_T7, 64fc, 64f, PowerOfFloats)
+
+void owntarnsMagn_32fc(const Tarn32fc* pSrc, Tarn32f* pDst, int len)
+{
+    const Index whole = walkOrdinary<magnitudesAtOnce>(pDst, 0, len, NewtonMagnitude{}, pSrc);
+    walk(pDst + whole, len - whole, NewtonMagnitude{}, pSrc + whole);
+}
 
 void ownMagSquared_Sfs_W7(const Tarn32sc* pSrc, Tarn32s* pDst, int len, Tarn32f factor)
 {

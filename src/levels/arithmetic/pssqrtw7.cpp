@@ -89,10 +89,22 @@ struct TrueRoot {
 };
 
 struct NewtonRoot {
+    bool& negatives;
+
     template <typename X>
-    TARN_INLINE X operator()(Met& negatives, X x) const
+    TARN_INLINE X ordinary(Doubts& doubts, X x) const
     {
-        return newtonRoot(x, [&negatives](X rare) { negatives.note(less(rare, splat<X>(0))); });
+        return byRegister(x, [&doubts](auto r) {
+            const auto root = ordinaryRoot(r);
+            doubts.note(root);
+            return root;
+        });
+    }
+    template <typename X>
+    X rare(X x) const
+    {
+        negatives |= anyOf(less(x, splat<X>(0)));
+        return byRegister(x, [](auto r) { return newtonRoot(r); });
     }
 };
 
@@ -100,6 +112,7 @@ struct NewtonRoot {
 // as this.
 constexpr int shortestVector = 11;
 constexpr int rootGroup = 8;
+constexpr int rootsAtOnce = 16;
 
 // -- Complex elements -------------------------------------------------------------------------------------------------
 
@@ -244,10 +257,23 @@ int owntarnsSqrt_64s(const Tarn64s* pSrc, Tarn64s* pDst, int len, int scaleFacto
 
 int owntarnsSqrt_32f(const Tarn32f* pSrc, Tarn32f* pDst, int len)
 {
-    Met negatives;
-    walkGroups<rootGroup>(pDst, len, len < shortestVector ? len : headOfGroups(pDst, len),
-                          reportingTo(negatives, NewtonRoot{}), reportingTo(negatives, TrueRoot{}), pSrc);
-    return negatives.any();
+    bool negatives = false;
+    const auto single = [&negatives](Index i, Index end, const Tarn32f* src, Tarn32f* dst) {
+        walkElements(
+            dst, i, end,
+            [&negatives](Tarn32f x) {
+                negatives |= x < 0;
+                return squareRoot(x);
+            },
+            src);
+    };
+    const NewtonRoot root{negatives};
+    Index i = len < shortestVector ? len : headOfGroups(pDst, len);
+    single(0, i, pSrc, pDst);
+    i = walkOrdinary<rootsAtOnce>(pDst, i, len, root, pSrc);
+    i = walkOrdinary<rootGroup>(pDst, i, len, root, pSrc);
+    single(i, len, pSrc, pDst);
+    return negatives;
 }
 
 void owntarnsSqrt_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, int len)
