@@ -15,17 +15,17 @@ void imaginaryParts_64fc(const Tarn64fc* pSrc, Tarn64f* pDst, int len)
 }
 
 template <typename C>
-using SplitKernel = void (*)(const C*, Part<C>*, int);
-
-template <typename C>
-TarnStatus split(SplitKernel<C> real, SplitKernel<C> imaginary, const C* pSrc, Part<C>* pDstRe, Part<C>* pDstIm,
-                 int len)
+TarnStatus split(const C* pSrc, Part<C>* pDstRe, Part<C>* pDstIm, int len)
 {
     if (const TarnStatus status = check(len, pSrc, pDstRe, pDstIm)) {
         return status;
     }
-    real(pSrc, pDstRe, len);
-    imaginary(pSrc, pDstIm, len);
+    if constexpr (isDouble<C>) {
+        ownsReal_64fc_W7(pSrc, pDstRe, len);
+        imaginaryParts_64fc(pSrc, pDstIm, len);
+    } else {
+        splitParts(pSrc, pDstRe, pDstIm, len);
+    }
     return tarnStsNoErr;
 }
 
@@ -78,7 +78,7 @@ TarnStatus joinedParts(void (*both)(const Part<C>*, const Part<C>*, C*, int), Jo
     }                                                                                                              \
     TarnStatus tarnsCplxToReal_##C(const Tarn##C* pSrc, Tarn##T* pDstRe, Tarn##T* pDstIm, int len)                 \
     {                                                                                                              \
-        return split<Tarn##C>(ownsReal_##C##_W7, IMAG, pSrc, pDstRe, pDstIm, len);                                 \
+        return split(pSrc, pDstRe, pDstIm, len);                                                                   \
     }                                                                                                              \
     TarnStatus tarnsRealToCplx_##T(const Tarn##T* pSrcRe, const Tarn##T* pSrcIm, Tarn##C* pDst, int len)           \
     {                                                                                                              \

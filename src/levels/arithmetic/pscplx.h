@@ -19,3 +19,11 @@ TARN_DECLARE_CPLX_KERNELS(64fc, 64f);
 // copies.
 TARN_KERNEL void ownsImag_16sc_W7(const Tarn16sc* pSrc, Tarn16s* pDst, int len);
 TARN_KERNEL void ownsImag_32fc_W7(const Tarn32fc* pSrc, Tarn32f* pDst, int len);
+
+namespace tarn {
+
+// Both parts in one pass, which reads each element once: of 16sc and 32fc. Registers of two doubles gain nothing by it.
+template <typename C>
+void splitParts(const C* src, Part<C>* re, Part<C>* im, int len);
+
+} // namespace tarn

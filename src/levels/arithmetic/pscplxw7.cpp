@@ -2,6 +2,7 @@
 #include "levels/arithmetic/pscplx.h"
 
 #include "frame/simd.h"
+#include "frame/two_arrays.h"
 
 namespace tarn {
 namespace {
@@ -42,7 +43,24 @@ struct FromImaginary {
     }
 };
 
+struct BothParts {
+    template <typename X>
+    TARN_INLINE auto operator()(X z) const
+    {
+        return Both{reOf(z), imOf(z)};
+    }
+};
+
 } // namespace
+
+template <typename C>
+void splitParts(const C* src, Part<C>* re, Part<C>* im, int len)
+{
+    walk(twoArrays(re, im), len, BothParts{}, src);
+}
+template void splitParts(const Tarn16sc*, Tarn16s*, Tarn16s*, int);
+template void splitParts(const Tarn32fc*, Tarn32f*, Tarn32f*, int);
+
 } // namespace tarn
 
 using namespace tarn;

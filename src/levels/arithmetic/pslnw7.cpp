@@ -271,16 +271,16 @@ int tarn::decibels(const Tarn32s* src, Tarn32s* dst, int len, int scaleFactor)
 {
     const int shift = std::min(scaleFactor, 31);
     int met = 0;
-    walkElements(
-        dst, 0, len,
-        [shift, &met](Tarn32s x, Tarn32s old) {
-            if (x < 1) [[unlikely]] {
-                met = met == 0 ? warningOf(x) : met;
-                return 0;
-            }
-            const Tarn32s result = x < std::ssize(decibelsBelow15) ? decibelsBelow15[x] : decibelsFrom15(x);
-            return result == noBracket ? old : result >> shift;
-        },
-        src, static_cast<const Tarn32s*>(dst));
+    for (int i = 0; i < len; ++i) {
+        const Tarn32s x = loadElement(src + i);
+        if (x >= std::ssize(decibelsBelow15)) [[likely]] {
+            store(dst + i, decibelsFrom15(x) >> shift);
+        } else if (x < 1) {
+            met = met == 0 ? warningOf(x) : met;
+            store(dst + i, 0);
+        } else if (decibelsBelow15[x] != noBracket) {
+            store(dst + i, decibelsBelow15[x] >> shift);
+        }
+    }
     return met;
 }
