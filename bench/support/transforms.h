@@ -68,6 +68,30 @@ auto ours(OwnTransform<Spec> transform, TarnStatus (*call)(const T*, const T*, T
     };
 }
 
+// Transforms of samples, at some scale factor: all others take the same time.
+inline constexpr int anyScale = 5;
+template <class Src, class Dst, class Spec>
+auto ours(OwnTransform<Spec> transform, TarnStatus (*call)(const Src*, Dst*, const Spec*, int, Tarn8u*))
+{
+    return [=](int n) {
+        const auto [spec, work] = transform.prepare(n, 2);
+        return [=, spec = spec, work = work, src = filledBuffer<Src>(1, n, Fill::signal),
+                dst = filledBuffer<Dst>(0, n + 2, Fill::signal)] { return call(src, dst, spec, anyScale, work); };
+    };
+}
+
+template <class T, class Spec>
+auto ours(OwnTransform<Spec> transform, TarnStatus (*call)(const T*, const T*, T*, T*, const Spec*, int, Tarn8u*))
+{
+    return [=](int n) {
+        const auto [spec, work] = transform.prepare(n, 4);
+        return
+            [=, spec = spec, work = work, re = filledBuffer<T>(1, n, Fill::signal),
+             im = filledBuffer<T>(2, n, Fill::signal), dstRe = filledBuffer<T>(0, n, Fill::signal),
+             dstIm = filledBuffer<T>(3, n, Fill::signal)] { return call(re, im, dstRe, dstIm, spec, anyScale, work); };
+    };
+}
+
 // -- FFTW
 // --------------------------------------------------------------------------------------------------------------
 
