@@ -12,6 +12,7 @@
 #include "tarns/dct.h"
 #include "tarns/dft.h"
 #include "tarns/dftoutord.h"
+#include "tarns/dftfixed.h"
 #include "tarns/divide.h"
 #include "tarns/exponential.h"
 #include "tarns/fft.h"

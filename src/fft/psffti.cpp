@@ -240,4 +240,4 @@ using Transforms = IntegerTransforms<Family>;
 } // namespace
 } // namespace tarn::fft
 
-TARN_INTEGER_FRONT_ENDS(FFT, fft, fft::Transforms, order)
+TARN_INTEGER_FRONT_ENDS(FFT, fft, order)

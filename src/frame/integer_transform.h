@@ -238,40 +238,41 @@ private:
     TARN_DEFINE_FLOAT_CALLS(FAMILY, C_32f, CToC_32f, CToC_32f)    \
     TARN_DEFINE_FLOAT_CALLS(FAMILY, R_32f, RToPerm_32f, PermToR_32f)
 
-// The functions of a family. CALLS is its IntegerTransforms; initAlloc() is in namespace tarn::SPACE, SIZE its argument
-// that tells the length.
-#define TARN_INTEGER_COMPLEX_FRONT_ENDS(FAMILY, CALLS, DIRECTION, FORWARD)                                            \
+// The functions of a family. Namespace tarn::SPACE has its IntegerTransforms by the name of Transforms, and
+// initAlloc(), whose argument SIZE tells the length.
+#define TARN_INTEGER_COMPLEX_FRONT_ENDS(FAMILY, SPACE, DIRECTION, FORWARD)                                            \
     TarnStatus tarns##FAMILY##DIRECTION##_CToC_16sc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pDst,                         \
                                                         const Tarns##FAMILY##Spec_C_16sc* pSpec, int scaleFactor,     \
                                                         Tarn8u* pBuffer)                                              \
     {                                                                                                                 \
-        return CALLS::pairs<FORWARD>(tarn::asParts(pSrc), tarn::asParts(pDst), pSpec, scaleFactor, pBuffer);          \
+        return tarn::SPACE::Transforms::pairs<FORWARD>(tarn::asParts(pSrc), tarn::asParts(pDst), pSpec, scaleFactor,  \
+                                                       pBuffer);                                                      \
     }                                                                                                                 \
     TarnStatus tarns##FAMILY##DIRECTION##_CToC_16s_Sfs(const Tarn16s* pSrcRe, const Tarn16s* pSrcIm, Tarn16s* pDstRe, \
                                                        Tarn16s* pDstIm, const Tarns##FAMILY##Spec_C_16s* pSpec,       \
                                                        int scaleFactor, Tarn8u* pBuffer)                              \
     {                                                                                                                 \
-        return CALLS::parts<FORWARD>(pSrcRe, pSrcIm, pDstRe, pDstIm, pSpec, scaleFactor, pBuffer);                    \
+        return tarn::SPACE::Transforms::parts<FORWARD>(pSrcRe, pSrcIm, pDstRe, pDstIm, pSpec, scaleFactor, pBuffer);  \
     }
 
-#define TARN_INTEGER_REAL_FRONT_ENDS(FAMILY, CALLS, PACKED, PACKING)                                                  \
+#define TARN_INTEGER_REAL_FRONT_ENDS(FAMILY, SPACE, PACKED, PACKING)                                                  \
     TarnStatus tarns##FAMILY##Fwd_RTo##PACKED##_16s_Sfs(                                                              \
         const Tarn16s* pSrc, Tarn16s* pDst, const Tarns##FAMILY##Spec_R_16s* pSpec, int scaleFactor, Tarn8u* pBuffer) \
     {                                                                                                                 \
-        return CALLS::realForward<tarn::PACKING>(pSrc, pDst, pSpec, scaleFactor, pBuffer);                            \
+        return tarn::SPACE::Transforms::realForward<tarn::PACKING>(pSrc, pDst, pSpec, scaleFactor, pBuffer);          \
     }                                                                                                                 \
     TarnStatus tarns##FAMILY##Inv_##PACKED##ToR_16s_Sfs(                                                              \
         const Tarn16s* pSrc, Tarn16s* pDst, const Tarns##FAMILY##Spec_R_16s* pSpec, int scaleFactor, Tarn8u* pBuffer) \
     {                                                                                                                 \
-        return CALLS::realInverse<tarn::PACKING>(pSrc, pDst, pSpec, scaleFactor, pBuffer);                            \
+        return tarn::SPACE::Transforms::realInverse<tarn::PACKING>(pSrc, pDst, pSpec, scaleFactor, pBuffer);          \
     }
 
-#define TARN_INTEGER_FRONT_ENDS(FAMILY, SPACE, CALLS, SIZE)        \
+#define TARN_INTEGER_FRONT_ENDS(FAMILY, SPACE, SIZE)               \
     TARN_TRANSFORM_OBJECT_FRONT_ENDS(FAMILY, SPACE, C_16sc, SIZE)  \
     TARN_TRANSFORM_OBJECT_FRONT_ENDS(FAMILY, SPACE, C_16s, SIZE)   \
     TARN_TRANSFORM_OBJECT_FRONT_ENDS(FAMILY, SPACE, R_16s, SIZE)   \
-    TARN_INTEGER_COMPLEX_FRONT_ENDS(FAMILY, CALLS, Fwd, true)      \
-    TARN_INTEGER_COMPLEX_FRONT_ENDS(FAMILY, CALLS, Inv, false)     \
-    TARN_INTEGER_REAL_FRONT_ENDS(FAMILY, CALLS, Perm, PermPacking) \
-    TARN_INTEGER_REAL_FRONT_ENDS(FAMILY, CALLS, Pack, PackPacking) \
-    TARN_INTEGER_REAL_FRONT_ENDS(FAMILY, CALLS, CCS, CcsPacking)
+    TARN_INTEGER_COMPLEX_FRONT_ENDS(FAMILY, SPACE, Fwd, true)      \
+    TARN_INTEGER_COMPLEX_FRONT_ENDS(FAMILY, SPACE, Inv, false)     \
+    TARN_INTEGER_REAL_FRONT_ENDS(FAMILY, SPACE, Perm, PermPacking) \
+    TARN_INTEGER_REAL_FRONT_ENDS(FAMILY, SPACE, Pack, PackPacking) \
+    TARN_INTEGER_REAL_FRONT_ENDS(FAMILY, SPACE, CCS, CcsPacking)

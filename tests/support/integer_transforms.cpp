@@ -3,6 +3,7 @@
 #include "support/compare.h"
 #include "support/fpstate.h"
 #include "support/guarded.h"
+#include "tarns/dftfixed.h"
 #include "tarns/fftfixed.h"
 
 #include <climits>
@@ -85,6 +86,15 @@ const std::vector<IntegerCase>& integerFftCases()
         transformCases<Tarn32f>(), transformCases<Tarn64f>(),
         {TARN_INTEGER_KIND(FFT, C_16sc, 1), TARN_INTEGER_KIND(FFT, C_16s, 2), TARN_INTEGER_KIND(FFT, R_16s, 3)},
         TARN_INTEGER_RUNS(FFT));
+    return cases;
+}
+
+const std::vector<IntegerCase>& integerDftCases()
+{
+    static const std::vector<IntegerCase> cases = makeCases(
+        anyTransformCases<Tarn32f>(), anyTransformCases<Tarn64f>(),
+        {TARN_INTEGER_KIND(DFT, C_16sc, 10), TARN_INTEGER_KIND(DFT, C_16s, 11), TARN_INTEGER_KIND(DFT, R_16s, 12)},
+        TARN_INTEGER_RUNS(DFT));
     return cases;
 }
 

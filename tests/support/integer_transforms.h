@@ -22,8 +22,9 @@ struct IntegerCase {
     bool isReal() const { return kind.name[0] == 'R'; }
 };
 
-/// All transforms of power-of-two lengths.
+/// All transforms of power-of-two lengths, and all of any length.
 const std::vector<IntegerCase>& integerFftCases();
+const std::vector<IntegerCase>& integerDftCases();
 /// The kinds of some cases, each once.
 std::vector<TransformKind> kindsOf(const std::vector<IntegerCase>& cases);
 
