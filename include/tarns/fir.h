@@ -32,13 +32,24 @@ extern "C" {
    becomes the lowest integer in either type. Filters with integer taps add products modulo 2^32 and shift the sum by s
    = tapsFactor - scaleFactor, left without saturation, or right with rounding to nearest, ties to even; then they
     saturate.
+
+    With a multi-rate state (firmr.h) an iteration consumes `downFactor` samples and produces `upFactor` outputs. Each
+   is the sum of its products in their order, oldest sample first. Those of four outputs are added together, and where
+   one window serves all four it is multiplied by zeros in place of what is none of an output's; so a NaN may reach the
+    neighbours of the outputs that it is a sample of. Above 1600 iterations (complex filters: 800) a call is shared out
+    as above. Results of integer type are rounded in the current mode and saturate, a NaN becomes the lowest integer;
+    but the last outputs of a call have halves rounded away from zero. These are the last outputs that make no whole
+    cycle of 4 upFactor; in a call of more samples than pass through the delay buffer also the cycle before them, and in
+    one to be shared what does not divide into equal numbers of cycles for OpenMP's number of threads. With integer taps
+    ties go to even everywhere.
     @{ */
 
 /** Filters a block.
 
-    @param pSrc        samples, `numIters` elements; must not overlap `pDst`
-    @param pDst        destination, `numIters` elements
-    @param numIters    number of samples, at least 1
+    @param pSrc        samples, `numIters` elements (of a multi-rate filter numIters downFactor); must not overlap
+   `pDst`
+    @param pDst        destination, `numIters` elements (of a multi-rate filter numIters upFactor)
+    @param numIters    number of samples, or of iterations, at least 1
     @param pState      state of the filter
     @param scaleFactor the result is scaled by 2^-scaleFactor, any integer
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `numIters` below 1;
@@ -79,13 +90,20 @@ TARN_API TarnStatus tarnsFIR32sc_16sc32fc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pD
     part takes the road that suits its own length; otherwise the call's length decides, and parts on the transforms'
     road have 8192 samples.
 
-    @param pSrcDst     samples, and destination, `numIters` elements
-    @param numIters    number of samples, at least 1
+    A multi-rate filter whose `upFactor` is not 1, or whose taps are integers, allocates a copy of all samples. With an
+    `upFactor` of 1 it goes through the buffer, 4096 iterations at a time (8192 where samples are converted). Note that
+    each part begins behind the outputs of the one before, not behind the samples that were consumed for them: with a
+    `downFactor` above 1 use calls of at most one part.
+
+    @param pSrcDst     samples, and destination: `numIters` elements, of a multi-rate filter numIters times the larger
+                       factor
+    @param numIters    number of samples, or of iterations, at least 1
     @param pState      state of the filter
     @param scaleFactor the result is scaled by 2^-scaleFactor, any integer
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `numIters` below 1;
-            tarnStsContextMatchErr for a state of another kind; the status of a transform that fails, in which case the
-            parts before it are written */
+            tarnStsContextMatchErr for a state of another kind; tarnStsNoMemErr if there is no memory for the copy, or
+   it would be larger than 2^31 - 1 bytes; the status of a transform that fails, in which case the parts before it are
+   written */
 ///@{
 TARN_API TarnStatus tarnsFIR_32f_I(Tarn32f* pSrcDst, int numIters, TarnsFIRState_32f* pState);
 TARN_API TarnStatus tarnsFIR_32fc_I(Tarn32fc* pSrcDst, int numIters, TarnsFIRState_32fc* pState);

@@ -22,6 +22,9 @@ extern "C" {
     transforms: with 64 taps or more if they are real and single, 32 if real and double, 16 if complex; integer taps
     never do. See the page on FIR filters.
 
+    A filter may change the rate of a signal: its states are built by the functions of firmr.h, and taken by all
+    functions here.
+
     A state belongs to one caller at a time. Its buffers are made for as many threads as OpenMP would use at its
     creation.
     @{ */
@@ -222,7 +225,8 @@ TARN_API TarnStatus tarnsFIRGetTaps32sc_16sc32fc(const TarnsFIRState32sc_16sc32f
 /** Gives the delay line: pDlyLine[i] is the sample that came in i samples before the newest one.
 
     @param pState   state
-    @param pDlyLine destination, as many elements as the state has taps
+    @param pDlyLine destination, as many elements as the state has taps; of a multi-rate state
+                    (tapsLen + upFactor - 1) / upFactor elements
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsContextMatchErr for a state of another kind */
 ///@{
 TARN_API TarnStatus tarnsFIRGetDlyLine_32f(const TarnsFIRState_32f* pState, Tarn32f* pDlyLine);
@@ -246,7 +250,8 @@ TARN_API TarnStatus tarnsFIRGetDlyLine32sc_16sc32fc(const TarnsFIRState32sc_16sc
 /** Replaces the delay line.
 
     @param pState   state
-    @param pDlyLine samples, newest first, as many as the state has taps; null for silence
+    @param pDlyLine samples, newest first, as many as the state has taps, or (tapsLen + upFactor - 1) / upFactor of a
+                    multi-rate state; null for silence
     @return tarnStsNoErr; tarnStsNullPtrErr for a null state; tarnStsContextMatchErr for a state of another kind */
 ///@{
 TARN_API TarnStatus tarnsFIRSetDlyLine_32f(TarnsFIRState_32f* pState, const Tarn32f* pDlyLine);

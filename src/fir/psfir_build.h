@@ -4,6 +4,7 @@
 #include "fft/psfft_convolving.h"
 #include "fir/psfir_common.h"
 #include "fir/psfir_memory.h"
+#include "levels/fir/psfirmr.h"
 
 #include <omp.h>
 
@@ -79,7 +80,6 @@ struct FirPlan {
         state->dlyLen = tapsLen;
         state->dlyLineIdx = 0;
         state->inHeadLen = ((tapsLen + 3) & ~3) + 1;
-        state->pPhaseOffsets = nullptr;
         state->pFFTSpec = spec.get();
         state->fftLen = fftLen;
         state->fftWorkSize = workSize;
@@ -168,16 +168,17 @@ inline TarnStatus buildInBuffer(State** ppState, const typename State::Tap* pTap
     return tarnStsNoErr;
 }
 
-// Multi-rate states compile their taps in ways of their own.
+// Multi-rate states compile their taps in ways of their own, and have no transform.
 template <typename State>
 inline TarnStatus setTaps(const typename State::Tap* pTaps, State* state)
 {
     using T = typename State::Tap;
-    if (pTaps == nullptr || state == nullptr) {
-        return tarnStsNullPtrErr;
+    if (const TarnStatus status = checkState(state, pTaps)) {
+        return status;
     }
     if (!isSingleRate(state)) {
-        return tarnStsContextMatchErr;
+        compileTaps(pTaps, state);
+        return tarnStsNoErr;
     }
     storeTaps<T>(pTaps, state);
     if (state->tapsLen < FirSizes<T>::transformFrom || state->pFFTSpec == nullptr) {

@@ -107,7 +107,7 @@ inline TarnStatus checkFilter(const State* state, int numIters, const P*... poin
     if (const TarnStatus status = check(numIters, pointers..., state)) {
         return status;
     }
-    return isSingleRate(state) ? tarnStsNoErr : tarnStsContextMatchErr;
+    return isOfFamily(state) ? tarnStsNoErr : tarnStsContextMatchErr;
 }
 
 // Calls `filter` for each part of at most `most` samples, with where it begins, up to the first that fails.

@@ -4,8 +4,10 @@
 #include "fft/psfft_convolving.h"
 #include "fir/psfir_common.h"
 #include "fir/psfir_memory.h"
+#include "fir/psfir_shares.h"
 #include "frame/overlap_save.h"
 #include "levels/fir/psfir_block.h"
+#include "levels/fir/psfirmr.h"
 #include "tarns/convert.h"
 
 namespace tarn {
@@ -48,26 +50,8 @@ inline void outputsToSamples(const T* src, S* dst, int len, int scaleFactor)
     outputsToSamples(reinterpret_cast<const Part<T>*>(src), reinterpret_cast<Part<S>*>(dst), 2 * len, scaleFactor);
 }
 
-// -- Threads
-// -----------------------------------------------------------------------------------------------------------
-
-// Calls of at most so many samples are never shared out.
-template <typename T>
-inline constexpr int longestOnOneThread = isComplex<T> ? 800 : 1600;
-
-// Nanoseconds of one thread for the product of a sample and a tap.
-template <typename T>
-inline constexpr double costOfProduct = isComplex<T> ? 3 * costOfProduct<Part<T>> : 0;
-template <>
-inline constexpr double costOfProduct<Tarn32f> = 0.08;
-template <>
-inline constexpr double costOfProduct<Tarn64f> = 0.16;
-
 // -- The direct road
 // ---------------------------------------------------------------------------------------------------
-
-template <typename State>
-inline constexpr bool sameTypes = std::is_same_v<typename State::Tap, typename State::Sample>;
 
 // Where outputs wait for their conversion: half of the scratch area. The other half is the in-place calls'.
 inline constexpr int outputsAtOnce = scratchElements / 2;
@@ -108,9 +92,6 @@ inline constexpr int mostThreadsOfStretch = 64;
 
 // Outputs that are not cut between threads: some cache lines.
 inline constexpr int outputsTogether = 64;
-
-// Loading samples, converting and storing outputs is taken for so many products more.
-inline constexpr int productsOfTraffic = 4;
 
 template <typename State>
 inline void filterStretchInShares(const State* state, const typename State::Sample* src, typename State::Sample* dst,
@@ -303,6 +284,9 @@ inline TarnStatus runFilter(const typename State::Sample* src, typename State::S
     if (const TarnStatus status = checkFilter(state, len, src, dst)) {
         return status;
     }
+    if (!isSingleRate(state)) {
+        return rateFilter(state, src, dst, len, scaleFactor);
+    }
     return takesTransforms(state, len) ? runTransforms(src, dst, len, state, scaleFactor)
                                        : runDirect(src, dst, len, state, scaleFactor);
 }
@@ -334,7 +318,7 @@ inline TarnStatus runPartsInPlace(typename State::Sample* srcDst, int len, State
             return status;
         });
     } else {
-        S* const copy = reinterpret_cast<S*>(state->pTmp + FirRegions<typename State::Tap>::scratch() / 2);
+        S* const copy = reinterpret_cast<S*>(state->pTmp + FirRegions<typename State::Tap>::scratchBytes() / 2);
         return forEachPart(len, scratchElements, [=](int begin, int count) {
             S* const part = srcDst + begin;
             copyElements(part, copy, count);
@@ -349,7 +333,8 @@ inline TarnStatus runInPlace(typename State::Sample* srcDst, int len, State* sta
     if (const TarnStatus status = checkFilter(state, len, srcDst)) {
         return status;
     }
-    return runPartsInPlace(srcDst, len, state, scaleFactor);
+    return isSingleRate(state) ? runPartsInPlace(srcDst, len, state, scaleFactor)
+                               : rateFilterInPlace(state, srcDst, len, scaleFactor);
 }
 
 } // namespace tarn

@@ -54,7 +54,7 @@ constexpr std::ptrdiff_t threadBytes(int workSize, int fftLen)
 // Bytes of the regions, each a multiple of the alignment.
 template <typename T>
 struct FirRegions {
-    long long taps, delay, status, table, spectrum, buffers;
+    long long taps, delay, status, offsets, table, spectrum, buffers, scratch;
 
     // 32-bit fields: 112 bytes. Pointers of twice the width need more.
     static constexpr long long fields() { return std::max(112LL, roundedUp(sizeof(FirFields<T>))); }
@@ -64,17 +64,18 @@ struct FirRegions {
         const long long room = std::is_same_v<T, Tarn64fc> ? 3 : 4;
         return roundedUp((3 * n + room) * static_cast<long long>(sizeof(T)));
     }
-    static constexpr long long scratch() { return scratchElements * static_cast<long long>(sizeof(T)); }
+    static constexpr long long scratchBytes() { return scratchElements * static_cast<long long>(sizeof(T)); }
 
     // A state without road for transforms and its statuses.
     static constexpr FirRegions direct(long long n)
     {
-        return {roundedUp(n * static_cast<long long>(sizeof(T))), delayBytes(n), 0, FirSizes<T>::table(n), 0, 0};
+        const long long taps = roundedUp(n * static_cast<long long>(sizeof(T)));
+        return {taps, delayBytes(n), 0, 0, FirSizes<T>::table(n), 0, 0, scratchBytes()};
     }
 
     constexpr long long total() const
     {
-        return fields() + taps + delay + status + table + spectrum + buffers + scratch();
+        return fields() + taps + delay + status + offsets + table + spectrum + buffers + scratch;
     }
 
     // Tells a state where its regions are; those without bytes are null.
@@ -84,21 +85,22 @@ struct FirRegions {
         placer.take(state->pTaps, taps);
         placer.take(state->pDlyLine, delay);
         placer.take(state->pThreadStatus, status);
+        placer.take(state->pPhaseOffsets, offsets);
         placer.take(state->pTapsX4, table);
         placer.take(state->pFFTTaps, spectrum);
         placer.take(state->pFFTWork, buffers);
-        placer.take(state->pTmp, scratch());
+        placer.take(state->pTmp, scratch);
     }
 };
 
 // The same of the states with integer taps.
 template <typename S>
 struct FirIntegerRegions {
-    static constexpr long long scratch = 16384;
+    static constexpr long long scratchBytes = 16384;
     static constexpr long long slack = regionAlignment;
     static constexpr int stride(int n) { return (n + 11) & ~7; } // words from copy to copy
 
-    long long taps, delay, table;
+    long long taps, delay, offsets, table, scratch;
 
     template <typename State>
     static constexpr long long fields()
@@ -109,15 +111,15 @@ struct FirIntegerRegions {
     {
         if constexpr (std::is_same_v<S, Tarn16s>) {
             const long long words = (n + 11) & ~7LL;
-            return {roundedUp(4 * n), roundedUp(2 * (words + 2 * n + 4)), 8 * words};
+            return {roundedUp(4 * n), roundedUp(2 * (words + 2 * n + 4)), 0, 8 * words, scratchBytes};
         } else {
-            return {roundedUp(8 * n), roundedUp(4 * (3 * n + 4)), 16 * n};
+            return {roundedUp(8 * n), roundedUp(4 * (3 * n + 4)), 0, 16 * n, scratchBytes};
         }
     }
     template <typename State>
     constexpr long long total() const
     {
-        return fields<State>() + taps + delay + table + scratch;
+        return fields<State>() + taps + delay + offsets + table + scratch;
     }
     template <typename State>
     void place(State* state) const
@@ -125,6 +127,7 @@ struct FirIntegerRegions {
         RegionPlacer placer(state, fields<State>());
         placer.take(state->pTaps, taps);
         placer.take(state->pDlyLine, delay);
+        placer.take(state->pPhaseOffsets, offsets);
         placer.take(state->pTapsTable, table);
         placer.take(state->pTmp, scratch);
     }

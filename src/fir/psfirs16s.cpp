@@ -4,86 +4,14 @@
 #include "fir/psfir_common.h"
 #include "fir/psfir_memory.h"
 #include "fir/psfir_names.h"
+#include "fir/psfirs16s_taps.h"
+#include "levels/fir/psfirmr.h"
 
 #include <cmath>
 
 using namespace tarn;
 
 namespace {
-
-// -- Taps
-// --------------------------------------------------------------------------------------------------------------
-
-// The largest magnitude of 16-bit taps; one step below the type's.
-constexpr Tarn32u largestTap = 32766;
-
-constexpr Tarn32u magnitude(Tarn32s x) { return x < 0 ? 0U - static_cast<Tarn32u>(x) : static_cast<Tarn32u>(x); }
-
-// How far taps have to be shifted to fit 16 bits, by the largest magnitude of all components.
-int shiftOf(const Tarn32s* taps, int len)
-{
-    Tarn32u largest = 0;
-    for (int i = 0; i < len; ++i) {
-        largest = std::max(largest, magnitude(loadElement(taps + i)));
-    }
-    int shift = 0;
-    while (largest >> shift > largestTap) {
-        ++shift;
-    }
-    return shift;
-}
-
-// Four copies of the reversed taps, each one word further from a boundary, with zeros between them.
-void writeTable(TarnsFIRState32s_16s* state)
-{
-    const int stride = state->tapsTableStride;
-    zeroElements(state->pTapsTable, 4 * stride);
-    for (int c = 0; c < 4; ++c) {
-        for (int k = 0; k < state->tapsLen; ++k) {
-            state->pTapsTable[c * stride + c + 1 + k] = static_cast<Tarn16s>(state->pTaps[k]);
-        }
-    }
-}
-
-// The reversed taps as pairs (re, -im), then as pairs (im, re).
-void writeTable(TarnsFIRState32sc_16sc* state)
-{
-    Tarn16s* const first = state->pTapsTable;
-    Tarn16s* const second = first + 2 * state->tapsLen;
-    for (int k = 0; k < state->tapsLen; ++k) {
-        const Tarn32sc tap = state->pTaps[k];
-        first[2 * k] = static_cast<Tarn16s>(tap.re);
-        first[2 * k + 1] = static_cast<Tarn16s>(sub(0, tap.im)); // the lowest integer, made of a NaN, is its own
-        second[2 * k] = static_cast<Tarn16s>(tap.im);
-        second[2 * k + 1] = static_cast<Tarn16s>(tap.re);
-    }
-}
-
-// Integer taps, of which the state keeps the upper bits.
-template <typename State>
-void storeTaps(State* state, const typename State::Tap* pTaps, int tapsFactor)
-{
-    const int parts = static_cast<int>(sizeof(typename State::Tap) / sizeof(Tarn32s));
-    reverseConverted(pTaps, state->pTaps, state->tapsLen);
-    auto* const components = reinterpret_cast<Tarn32s*>(state->pTaps);
-    const int shift = shiftOf(components, parts * state->tapsLen);
-    for (int i = 0; i < parts * state->tapsLen; ++i) {
-        components[i] >>= shift;
-    }
-    state->tapsFactor = add(tapsFactor, shift); // modulo 2^32
-    writeTable(state);
-}
-
-// Float taps F, which the state keeps as integers.
-template <typename State, typename F>
-void storeFloatTaps(State* state, const F* pTaps)
-{
-    constexpr int parts = static_cast<int>(sizeof(F) / sizeof(Tarn32f));
-    auto* const components = reinterpret_cast<Tarn32s*>(state->pTaps);
-    state->tapsFactor = scale32fTaps32s(reinterpret_cast<const Tarn32f*>(pTaps), components, parts * state->tapsLen);
-    std::reverse(state->pTaps, state->pTaps + state->tapsLen);
-    writeTable(state);
-}
 
 Tarn32f tapToFloat(Tarn32s tap, int factor) { return std::ldexp(static_cast<Tarn32f>(tap), factor); }
 Tarn32fc tapToFloat(Tarn32sc tap, int factor) { return {tapToFloat(tap.re, factor), tapToFloat(tap.im, factor)}; }
@@ -102,7 +30,6 @@ void build(State* state, int tapsLen, const typename State::Sample* pDlyLine, in
     state->idCtx = State::singleRateId;
     state->tapsLen = tapsLen;
     state->dlyLen = tapsLen;
-    state->pPhaseOffsets = nullptr;
     state->isAllocated = isAllocated;
     if constexpr (isComplex<typename State::Sample>) {
         state->inHeadLen = ((2 * tapsLen + 7) & ~7) + 2;
@@ -168,15 +95,11 @@ TarnStatus freeFilter(State* state)
     return freeState(state);
 }
 
-// Multi-rate states compile their taps in ways of their own.
 template <typename State, typename P, typename KeepTaps>
 TarnStatus setTaps(const P* pTaps, State* state, KeepTaps keepTaps)
 {
-    if (pTaps == nullptr || state == nullptr) {
-        return tarnStsNullPtrErr;
-    }
-    if (!isSingleRate(state)) {
-        return tarnStsContextMatchErr;
+    if (const TarnStatus status = checkState(state, pTaps)) {
+        return status;
     }
     keepTaps(state);
     return tarnStsNoErr;
@@ -226,7 +149,8 @@ TarnStatus runFilter(const typename State::Sample* src, typename State::Sample* 
     if (const TarnStatus status = checkFilter(state, len, src, dst)) {
         return status;
     }
-    return filter(src, dst, len, state, scaleFactor);
+    return isSingleRate(state) ? filter(src, dst, len, state, scaleFactor)
+                               : rateFilter(state, src, dst, len, scaleFactor);
 }
 
 // Outputs overwrite samples that are still in the window: the kernel reads a copy in the scratch area.
@@ -237,8 +161,11 @@ TarnStatus runInPlace(typename State::Sample* srcDst, int len, State* state, int
     if (const TarnStatus status = checkFilter(state, len, srcDst)) {
         return status;
     }
+    if (!isSingleRate(state)) {
+        return rateFilterInPlace(state, srcDst, len, scaleFactor);
+    }
     S* const scratch = reinterpret_cast<S*>(state->pTmp);
-    return forEachPart(len, RegionsOf<State>::scratch / static_cast<int>(sizeof(S)), [=](int begin, int count) {
+    return forEachPart(len, RegionsOf<State>::scratchBytes / static_cast<int>(sizeof(S)), [=](int begin, int count) {
         copyElements(srcDst + begin, scratch, count);
         return filter(scratch, srcDst + begin, count, state, scaleFactor);
     });

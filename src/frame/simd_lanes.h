@@ -75,6 +75,24 @@ TARN_INLINE X inFirstLane(Element<X> x)
 // A register of the given lanes, the first one lowest.
 TARN_INLINE Register<Tarn32f> lanesOf(Tarn32f a, Tarn32f b, Tarn32f c, Tarn32f d) { return {_mm_setr_ps(a, b, c, d)}; }
 TARN_INLINE Register<Tarn64f> lanesOf(Tarn64f a, Tarn64f b) { return {_mm_setr_pd(a, b)}; }
+TARN_INLINE Register<Tarn32s> lanesOf(Tarn32s a, Tarn32s b, Tarn32s c, Tarn32s d)
+{
+    return {_mm_setr_epi32(a, b, c, d)};
+}
+
+// Lane k in all lanes.
+template <int k, Float T, int N>
+TARN_INLINE Pack<T, N> spreadLane(Pack<T, N> x)
+{
+    if constexpr (N > registerLanes<T>) {
+        const auto half = spreadLane<k % (N / 2)>(k < N / 2 ? x.lo : x.hi);
+        return {half, half};
+    } else if constexpr (isSingle<T>) {
+        return {_mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(x.v), k * 0x55))};
+    } else {
+        return {_mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(x.v), k == 0 ? 0x44 : 0xEE))};
+    }
+}
 
 // The lanes as an array, of one lane for a scalar.
 template <Float T>

@@ -69,6 +69,15 @@ TARN_INLINE Pack<T, N> loadHalf(const T* p)
     }
 }
 
+// The lower and the upper half of a register, each from a place of its own.
+template <typename T>
+TARN_INLINE Register<T> loadHalves(const T* low, const T* high)
+{
+    const __m128i half = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(low));
+    return {reinterpret_cast<Native<T>>(
+        _mm_loadh_pi(reinterpret_cast<__m128>(half), reinterpret_cast<const __m64*>(high)))};
+}
+
 // The lower and the upper half of a vector, each to a place of its own.
 template <typename T>
 TARN_INLINE void storeHalves(T* low, T* high, Register<T> x)

@@ -44,6 +44,39 @@ TEST(SimdLanes, SumsOfLanesKeepTheirOrder)
     EXPECT_EQ(21, foldLanes(loadPack<2>(doubles), add));
 }
 
+TEST(SimdLanes, LanesSpreadOverAll)
+{
+    const Tarn32f singles[4] = {1, 20, 300, 4000};
+    const Tarn64f doubles[4] = {1, 20, 300, 4000};
+    const auto expectAll = [](auto x, double value) {
+        for (const auto lane : lanesAsArray(x))
+            EXPECT_EQ(value, lane);
+    };
+    expectAll(spreadLane<0>(loadPack<4>(singles)), 1);
+    expectAll(spreadLane<1>(loadPack<4>(singles)), 20);
+    expectAll(spreadLane<2>(loadPack<4>(singles)), 300);
+    expectAll(spreadLane<3>(loadPack<4>(singles)), 4000);
+    expectAll(spreadLane<0>(loadPack<4>(doubles)), 1);
+    expectAll(spreadLane<1>(loadPack<4>(doubles)), 20);
+    expectAll(spreadLane<2>(loadPack<4>(doubles)), 300);
+    expectAll(spreadLane<3>(loadPack<4>(doubles)), 4000);
+}
+
+TEST(SimdLanes, HalvesComeFromTwoPlaces)
+{
+    const Tarn32fc values[2] = {{1, 2}, {3, 4}};
+    Tarn32fc crossed[2];
+    store(crossed, loadHalves(values + 1, values));
+    EXPECT_EQ(3, crossed[0].re);
+    EXPECT_EQ(4, crossed[0].im);
+    EXPECT_EQ(1, crossed[1].re);
+    EXPECT_EQ(2, crossed[1].im);
+    Tarn32s lanes[4];
+    store(lanes, lanesOf(5, 6, 7, 8));
+    EXPECT_EQ(5, lanes[0]);
+    EXPECT_EQ(8, lanes[3]);
+}
+
 TEST(SimdLanes, HalvesHaveZerosAbove)
 {
     const Tarn32f singles[2] = {1, 20};

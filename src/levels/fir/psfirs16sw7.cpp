@@ -1,67 +1,14 @@
 // Kernels of FIR filters with 16-bit taps and samples: sums modulo 2^32, shifted and saturated.
 #include "frame/delay_line.h"
-#include "frame/scale_exact.h"
 #include "frame/simd.h"
 #include "levels/fir/psfir.h"
+#include "levels/fir/psfir_shift.h"
 
 #include <bit>
 
 using namespace tarn;
 
 namespace {
-
-// -- From sums to samples
-// ----------------------------------------------------------------------------------------------
-
-// The three ways to multiply a sum by 2^s.
-struct Unshifted {
-    template <typename X>
-    TARN_INLINE X operator()(X sum) const
-    {
-        return sum;
-    }
-};
-struct ShiftedUp {
-    int n;
-    template <typename X>
-    TARN_INLINE X operator()(X sum) const
-    {
-        return shiftLeft(sum, n);
-    }
-};
-struct ShiftedDown {
-    int n;
-    template <typename X>
-    TARN_INLINE X operator()(X sum) const
-    {
-        return shiftRounded(FullWidth<X>{sum}, n);
-    }
-};
-// By more than the width: no sum reaches one half any more.
-struct ShiftedOut {
-    template <typename X>
-    TARN_INLINE X operator()(X) const
-    {
-        return splat<X>(0);
-    }
-};
-
-// Calls `run` with the step that multiplies by 2^(tapsFactor - scaleFactor).
-template <typename Run>
-TARN_INLINE void withShift(int tapsFactor, int scaleFactor, Run run)
-{
-    constexpr int width = 32;
-    const Tarn64s s = Tarn64s{tapsFactor} - scaleFactor;
-    if (s == 0) {
-        run(Unshifted{});
-    } else if (s > 0) {
-        run(ShiftedUp{static_cast<int>(std::min<Tarn64s>(s, width))});
-    } else if (s > -width) {
-        run(ShiftedDown{static_cast<int>(-s)});
-    } else {
-        run(ShiftedOut{});
-    }
-}
 
 // -- Real filters
 // ------------------------------------------------------------------------------------------------------
@@ -149,12 +96,6 @@ TARN_INLINE Tarn32sc filterWindow(const Tarn16sc* x, PairLists taps, int tapsLen
         sum.im = add(sum.im, mulAddPairs(sample, taps.im[i]));
     }
     return sum;
-}
-
-template <typename Shift>
-TARN_INLINE Tarn16sc toSample(Tarn32sc sum, Shift shift)
-{
-    return {narrowSaturated<Tarn16s>(shift(sum.re)), narrowSaturated<Tarn16s>(shift(sum.im))};
 }
 
 // Two registers of outputs: their four registers of sums leave room for the taps and the samples.

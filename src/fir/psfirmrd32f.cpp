@@ -1,0 +1,35 @@
+// Front ends of multi-rate FIR filters with taps of double precision.
+#include "tarns/fir.h"
+#include "tarns/firmr.h"
+
+#include "fir/psfirmr_build.h"
+#include "fir/psfirmr_filter.h"
+#include "fir/psfirmr_names.h"
+
+using namespace tarn;
+
+TARN_DEFINE_FIRMR_REAL_BUILDERS(64f)
+TARN_DEFINE_FIRMR_COMPLEX_BUILDERS(64fc)
+
+TARN_DEFINE_FIRMR_STATE(_64f, Tarn64f, Tarn64f)
+TARN_DEFINE_FIRMR_STATE(_64fc, Tarn64fc, Tarn64fc)
+TARN_DEFINE_FIRMR_STATE(64f_32f, Tarn64f, Tarn32f)
+TARN_DEFINE_FIRMR_STATE(64fc_32fc, Tarn64fc, Tarn32fc)
+TARN_DEFINE_FIRMR_STATE(64f_32s, Tarn64f, Tarn32s)
+TARN_DEFINE_FIRMR_STATE(64fc_32sc, Tarn64fc, Tarn32sc)
+TARN_DEFINE_FIRMR_STATE(64f_16s, Tarn64f, Tarn16s)
+TARN_DEFINE_FIRMR_STATE(64fc_16sc, Tarn64fc, Tarn16sc)
+
+TARN_DEFINE_FIRMR_DRIVERS(, _64f, Tarn64f)
+TARN_DEFINE_FIRMR_DRIVERS(, 64f_32f, Tarn32f)
+TARN_DEFINE_FIRMR_DRIVERS(_SFS, 64f_32s, Tarn32s)
+TARN_DEFINE_FIRMR_DRIVERS(_SFS, 64f_16s, Tarn16s)
+
+TARN_DEFINE_FIRMR_FILTER(_64f, Tarn64f)
+TARN_DEFINE_FIRMR_FILTER(_64fc, Tarn64fc)
+TARN_DEFINE_FIRMR_FILTER(64f_32f, Tarn32f)
+TARN_DEFINE_FIRMR_FILTER(64fc_32fc, Tarn32fc)
+TARN_DEFINE_FIRMR_FILTER_SFS(64f_32s, Tarn32s)
+TARN_DEFINE_FIRMR_FILTER_SFS(64fc_32sc, Tarn32sc)
+TARN_DEFINE_FIRMR_FILTER_SFS(64f_16s, Tarn16s)
+TARN_DEFINE_FIRMR_FILTER_SFS(64fc_16sc, Tarn16sc)

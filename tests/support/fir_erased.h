@@ -1,0 +1,63 @@
+// The multi-rate FIR families behind one set of function pointers, with numbers for elements: one driver serves them
+// all.
+#pragma once
+
+#include "tarns.h"
+
+#include <string>
+#include <vector>
+
+namespace tarn::test {
+
+/// An element of any type, as numbers.
+struct Number {
+    double re = 0;
+    double im = 0;
+    friend bool operator==(const Number&, const Number&) = default;
+};
+using Numbers = std::vector<Number>;
+
+/// How elements of a type lie in memory.
+struct ElementType {
+    std::size_t size;
+    int integerBits; ///< of a part; 0 for floats
+    bool isComplex;
+    void (*put)(void* at, Number x);
+    Number (*get)(const void* at);
+};
+
+struct Rates {
+    int taps, up, upPhase, down, downPhase;
+
+    int history() const { return (taps + up - 1) / up; }
+};
+
+struct ErasedFir {
+    std::string name;
+    ElementType tap, sample;
+    bool isIntegerTap; ///< kept as integers, whatever they are given as
+    bool scaled;
+    TarnStatus (*initAlloc)(void** state, const void* taps, const Rates& rates, const void* line);
+    TarnStatus (*init)(void** state, const void* taps, const Rates& rates, const void* line, Tarn8u* buffer);
+    TarnStatus (*size)(int taps, int up, int down, int* bytes);
+    TarnStatus (*singleSize)(int taps, int* bytes);
+    TarnStatus (*setTaps)(const void* taps, void* state);
+    TarnStatus (*getTaps)(const void* state, void* taps);
+    TarnStatus (*setDlyLine)(void* state, const void* line);
+    TarnStatus (*getDlyLine)(const void* state, void* line);
+    TarnStatus (*filter)(const void* src, void* dst, int n, void* state, int scaleFactor);
+    TarnStatus (*inPlace)(void* srcDst, int n, void* state, int scaleFactor);
+    TarnStatus (*one)(void* dst, void* state);
+    TarnStatus (*free)(void* state);
+
+    bool isRealFloatTap() const { return !isIntegerTap && !tap.isComplex; }
+};
+
+/// All sixteen.
+const std::vector<ErasedFir>& erasedFirs();
+
+/// The elements of an array, and an array of elements.
+std::vector<unsigned char> packed(const ElementType& type, const Numbers& values);
+Numbers unpacked(const ElementType& type, const unsigned char* bytes, std::size_t count);
+
+} // namespace tarn::test
