@@ -19,6 +19,7 @@
 #include "tarns/fftfixed.h"
 #include "tarns/fir.h"
 #include "tarns/firdesign.h"
+#include "tarns/firdirect.h"
 #include "tarns/firmr.h"
 #include "tarns/firstate.h"
 #include "tarns/generators.h"

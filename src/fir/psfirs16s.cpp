@@ -173,6 +173,18 @@ TarnStatus runInPlace(typename State::Sample* srcDst, int len, State* state, int
 
 } // namespace
 
+TarnStatus ownsFIRInitAlloc16s_Q15(TarnsFIRState32s_16s** ppState, const Tarn16s* pTaps, int tapsLen,
+                                   const Tarn16s* pDlyLine)
+{
+    return allocateState(ppState, pTaps, tapsLen, pDlyLine, [=](TarnsFIRState32s_16s* state) {
+        reverseConverted(pTaps, state->pTaps, tapsLen);
+        state->tapsFactor = -15;
+        writeTable(state);
+    });
+}
+
+void ownsFIRFree16s_Q15(TarnsFIRState32s_16s* pState) { freeFilter(pState); }
+
 // Taps P with a factor, or floats.
 #define TARN_DEFINE_FIR_INTEGER_STATE(TAIL, T, S)                                                                  \
     TarnStatus tarnsFIRInitAlloc##TAIL(TarnsFIRState##TAIL** ppState, const T* pTaps, int tapsLen, int tapsFactor, \

@@ -1,42 +1,7 @@
 #include "support/fir_erased.h"
 
-#include <cstring>
-#include <type_traits>
-
 namespace tarn::test {
 namespace {
-
-template <class T>
-constexpr bool hasParts = requires(T x)
-{
-    x.re;
-};
-
-template <class T>
-struct PartOfElement {
-    using type = T;
-};
-template <class T>
-    requires hasParts<T>
-struct PartOfElement<T> {
-    using type = decltype(T::re);
-};
-
-template <class T>
-ElementType typeOf()
-{
-    using Part = typename PartOfElement<T>::type;
-    const auto put = [](void* at, Number x) {
-        const Part parts[2] = {static_cast<Part>(x.re), static_cast<Part>(x.im)};
-        std::memcpy(at, parts, sizeof(T));
-    };
-    const auto get = [](const void* at) {
-        Part parts[2] = {};
-        std::memcpy(parts, at, sizeof(T));
-        return Number{static_cast<double>(parts[0]), static_cast<double>(parts[1])};
-    };
-    return {sizeof(T), std::is_integral_v<Part> ? static_cast<int>(8 * sizeof(Part)) : 0, hasParts<T>, put, get};
-}
 
 #define RATES r.up, r.upPhase, r.down, r.downPhase
 #define STATE(TAIL) static_cast<TarnsFIRState##TAIL*>(s)
@@ -69,7 +34,7 @@ ElementType typeOf()
 #define UNSCALED(NAME, TAIL, T, S)                                                                                     \
     ErasedFir                                                                                                          \
     {                                                                                                                  \
-        NAME, typeOf<T>(), typeOf<S>(), false, false, TAIL_CALLS(TAIL, T, S, PLAIN),                                   \
+        NAME, elementTypeOf<T>(), elementTypeOf<S>(), false, false, TAIL_CALLS(TAIL, T, S, PLAIN),                     \
             [](const void* src, void* dst, int n, void* s, int) {                                                      \
                 return tarnsFIR##TAIL(static_cast<const S*>(src), static_cast<S*>(dst), n, STATE(TAIL));               \
             },                                                                                                         \
@@ -80,7 +45,7 @@ ElementType typeOf()
 #define SCALED(NAME, TAIL, T, S, INTEGER, KIND)                                                                    \
     ErasedFir                                                                                                      \
     {                                                                                                              \
-        NAME, typeOf<T>(), typeOf<S>(), INTEGER, true, TAIL_CALLS(TAIL, T, S, KIND),                               \
+        NAME, elementTypeOf<T>(), elementTypeOf<S>(), INTEGER, true, TAIL_CALLS(TAIL, T, S, KIND),                 \
             [](const void* src, void* dst, int n, void* s, int f) {                                                \
                 return tarnsFIR##TAIL##_Sfs(static_cast<const S*>(src), static_cast<S*>(dst), n, STATE(TAIL), f);  \
             },                                                                                                     \

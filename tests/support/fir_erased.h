@@ -4,7 +4,9 @@
 
 #include "tarns.h"
 
+#include <cstring>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace tarn::test {
@@ -25,6 +27,44 @@ struct ElementType {
     void (*put)(void* at, Number x);
     Number (*get)(const void* at);
 };
+
+template <class T>
+ElementType elementTypeOf()
+{
+    struct Parts {
+        static void put(void* at, Number x)
+        {
+            if constexpr (requires(T t) { t.re; }) {
+                using Part = decltype(T::re);
+                const T value = {static_cast<Part>(x.re), static_cast<Part>(x.im)};
+                std::memcpy(at, &value, sizeof value);
+            } else {
+                const T value = static_cast<T>(x.re);
+                std::memcpy(at, &value, sizeof value);
+            }
+        }
+        static Number get(const void* at)
+        {
+            T value;
+            std::memcpy(&value, at, sizeof value);
+            if constexpr (requires(T t) { t.re; })
+                return {static_cast<double>(value.re), static_cast<double>(value.im)};
+            else
+                return {static_cast<double>(value), 0};
+        }
+        static constexpr int integerBits()
+        {
+            if constexpr (requires(T t) { t.re; })
+                return std::is_integral_v<decltype(T::re)> ? static_cast<int>(8 * sizeof(T::re)) : 0;
+            else
+                return std::is_integral_v<T> ? static_cast<int>(8 * sizeof(T)) : 0;
+        }
+    };
+    return {sizeof(T), Parts::integerBits(), requires(T t){t.re;
+}
+, Parts::put, Parts::get
+}; // namespace tarn::test
+}
 
 struct Rates {
     int taps, up, upPhase, down, downPhase;

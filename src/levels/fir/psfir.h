@@ -84,6 +84,14 @@ void convertRounded_64f16s(const Tarn64f* pSrc, Tarn16s* pDst, int len, int scal
 
 } // namespace tarn
 
+// -- States for the length of a call
+// -------------------------------------------------------------------------------
+
+// A state of taps in Q15, kept as they are, and with the samples of pDlyLine, newest first.
+TARN_KERNEL TarnStatus ownsFIRInitAlloc16s_Q15(TarnsFIRState32s_16s** ppState, const Tarn16s* pTaps, int tapsLen,
+                                               const Tarn16s* pDlyLine);
+TARN_KERNEL void ownsFIRFree16s_Q15(TarnsFIRState32s_16s* pState);
+
 // -- Inner calls
 // -------------------------------------------------------------------------------------------------------
 

@@ -42,7 +42,8 @@ bool isObject(const Argument& argument)
 struct Object {
     std::string type;
     void* address = nullptr;
-    std::size_t count = 0; ///< elements of the arrays that belong to it: its taps, its block
+    std::size_t count = 0;    ///< elements of the arrays that belong to it: its taps, its block
+    std::size_t manifold = 1; ///< elements of each iteration
     bool allocated = false;
 };
 
@@ -110,6 +111,7 @@ private:
     std::size_t count = 4;
     std::size_t manifold = 1;
     int factor = 1;
+    int taps = 1;
     Values kind = Values::mixed;
     std::vector<Array> inputs;
     std::vector<Array> outputs;
@@ -140,7 +142,8 @@ void release(const Object& object)
 Object makeObject(const std::string& type, int call, Random& random)
 {
     for (const FrontEnd& one : frontEnds()) {
-        if (!has(one.name, "InitAlloc") || one.arguments[0].type != type)
+        // Change of rate is only for functions whose own it is.
+        if (!has(one.name, "InitAlloc") || has(one.name, "FIRMR") || one.arguments[0].type != type)
             continue;
         for (int attempt = 0; attempt < 20; ++attempt) {
             Calling making(one, call, random);
@@ -184,6 +187,10 @@ void Calling::number(const Argument& argument, Slot& slot)
             count = std::max(count, static_cast<std::size_t>(value));
         else if (argument.name == "factor" || argument.name == "nChannels")
             manifold = static_cast<std::size_t>(factor = std::max(value, 1));
+        if (argument.name == "upFactor" || argument.name == "downFactor")
+            manifold = std::max(manifold, static_cast<std::size_t>(std::max(value, 1)));
+        if (argument.name == "tapsLen" && has(function.name, "Direct")) // for doubled delay lines
+            count = std::max(count, 2 * static_cast<std::size_t>(taps = value));
         return;
     }
     const std::optional<Element> element = elementOf(argument.type);
@@ -206,12 +213,13 @@ void Calling::object(const Argument& argument, Slot& slot)
     }
     if (makes(function, argument)) { // in memory of the caller
         work.emplace_back(std::size_t{1} << 16, 16 * random.below(4));
-        used.push_back({argument.type, work.back().get(), count, false});
+        used.push_back({argument.type, work.back().get(), count, manifold, false});
     } else {
-        used.push_back(given != nullptr ? Object{given->type, given->address, given->count, false}
+        used.push_back(given != nullptr ? Object{given->type, given->address, given->count, given->manifold, false}
                                         : makeObject(argument.type, call, random));
     }
     count = std::max(count, used.back().count);
+    manifold = std::max(manifold, used.back().manifold);
     slot.put(used.back().address);
 }
 
@@ -265,6 +273,8 @@ void Calling::pointer(const Argument& argument, Slot& slot)
         sortAscending(values.area.get(), *element, values.count);
     else if (argument.name == "pPhase" && element->real == Real::s32)
         putBetween(values.area.get(), *element, 0, factor, random);
+    else if (argument.name == "pDlyLineIndex")
+        putBetween(values.area.get(), *element, 0, taps, random);
     else if (const auto* interval = intervalFor(argument.name))
         putBetween(values.area.get(), *element, interval->first, interval->second, random);
     else if (!isDataArray(argument.name))
@@ -327,7 +337,7 @@ void Calling::run(Hash& hash)
     if (has(function.name, "Free"))
         used.clear();
     if (place && status >= 0 && *place != nullptr)
-        made = Object{function.arguments[0].type, *place, count, has(function.name, "InitAlloc")};
+        made = Object{function.arguments[0].type, *place, count, manifold, has(function.name, "InitAlloc")};
 }
 
 void Calling::probe(Hash& hash)

@@ -30,6 +30,8 @@ const std::vector<int>* integersFor(const std::string& name)
         {"alphaQ15", range(-3, 3, {32767, -32768, 16384, -16384, 5243, 70000, -70000})},
         {"chanLen", range(1, 70, {300})},
         {"doNormal", {0, 1}},
+        {"downFactor", range(1, 6, {0})},
+        {"downPhase", range(0, 3, {0, 0, 0, -1})},
         {"dstLen", range(1, 40, {64, 100, 151, 152, 153, 367, 368, 500, 855, 856, 857, 1200, 3000})},
         {"factor", range(1, 6, {0})},
         {"flag", {1, 2, 4, 8, 1, 2, 4, 8, 1, 2, 4, 8, 0}},
@@ -46,6 +48,8 @@ const std::vector<int>* integersFor(const std::string& name)
         {"tapsLen",
          range(1, 40, {5, 6, 7, 8, 9, 10, 15, 16, 17, 31, 33, 63, 64, 65, 66, 100, 127, 128, 255, 300, 700})},
         {"tblLen", range(1, 60, {300})},
+        {"upFactor", range(1, 6, {0})},
+        {"upPhase", range(0, 3, {0, 0, 0, -1})},
         {"vDiv", {1, 2, 3, 7, 100, -1, -5, 0, 32767, -32768, 65536}},
         {"val", range(0, 9, {-1, 15, 16, 17, 31, 32, 33})}, // a number of bits: other values are no integers
         {"winType", range(0, 4)},
@@ -77,12 +81,12 @@ bool isDataNumber(const std::string& name)
 
 bool isDataArray(const std::string& name)
 {
-    return contains({"pDlyLine", "pDp",      "pDst",      "pDstIm",      "pDstMagn", "pDstPhase",
-                     "pSeed",    "pSrcMagn", "pSrcPhase", "pDstLen",     "pDstRe",   "pDstVal",
-                     "pIndx",    "pMax",     "pMaxIndx",  "pMean",       "pMin",     "pMinIndx",
-                     "pNorm",    "pOrder",   "pOutIndex", "pOutIndexes", "pOutVal",  "pOutVals",
-                     "pSrc",     "pSrc1",    "pSrc2",     "pSrcDst",     "pSrcIm",   "pSrcRe",
-                     "pStdDev",  "pSum",     "pTaps",     "pTapsFactor", "pVal",     "pVals"},
+    return contains({"pDlyLine",    "pDp",       "pDst",     "pDstIm",   "pDstMagn", "pDstPhase",   "pSeed",
+                     "pSrcMagn",    "pSrcPhase", "pDstLen",  "pDstRe",   "pDstVal",  "pIndx",       "pMax",
+                     "pMaxIndx",    "pMean",     "pMin",     "pMinIndx", "pNorm",    "pOrder",      "pOutIndex",
+                     "pOutIndexes", "pOutVal",   "pOutVals", "pSrc",     "pSrc1",    "pSrc2",       "pSrcDst",
+                     "pSrcIm",      "pSrcRe",    "pStdDev",  "pSum",     "pTaps",    "pTapsFactor", "pVal",
+                     "pVals",       "pSrcDstVal"},
                     name);
 }
 
