@@ -23,7 +23,7 @@ extern "C" {
     by direct sums, and above by a convolution with a chirp.
 
     What may surprise: the way by halves, the fastest, divides by cosines near 0 on its way, and its largest errors grow
-    with N, to some 380 units of 2^-24 of the largest coefficient at 2^18 points in single precision. With
+    with N, to some 380 units of 2^-23 of the largest coefficient at 2^18 points in single precision. With
     tarnAlgHintAccurate they do not grow, at about the same price. No other length has a choice.
 
     Transforms only read their object: threads may share one, each with a work buffer of its own.
