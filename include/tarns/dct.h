@@ -20,7 +20,8 @@ extern "C" {
 
     The method follows from the length: 1, 2, 4 and 8 points are computed by fixed code; larger powers of two by halves,
     or behind tarnAlgHintAccurate, above 512 points, by a real Fourier transform of 2 N points; other lengths up to 100
-    by direct sums, and above by a convolution with a chirp.
+    by direct sums, and above by a real Fourier transform of the length itself or, where it has a prime factor above 31,
+    by a convolution with a chirp.
 
     What may surprise: the way by halves, the fastest, divides by cosines near 0 on its way, and its largest errors grow
     with N, to some 380 units of 2^-23 of the largest coefficient at 2^18 points in single precision. With

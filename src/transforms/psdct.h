@@ -10,6 +10,7 @@
 #include "levels/transforms/psdct_points.h"
 #include "levels/transforms/psdft.h"
 #include "levels/transforms/psdft_convolve.h"
+#include "levels/transforms/psdft_tables.h"
 #include "tarns/dct.h"
 
 #include <bit>
@@ -52,6 +53,22 @@ TARN_DCT_CALLS(32f);
 TARN_DCT_CALLS(64f);
 #undef TARN_DCT_CALLS
 
+template <typename T>
+struct DftCalls;
+
+#define TARN_DCT_DFT_CALLS(T)                                        \
+    template <>                                                      \
+    struct DftCalls<Tarn##T> {                                       \
+        static constexpr auto initAlloc = tarnsDFTInitAlloc_R_##T;   \
+        static constexpr auto getBufSize = tarnsDFTGetBufSize_R_##T; \
+        static constexpr auto forward = tarnsDFTFwd_RToPerm_##T;     \
+        static constexpr auto inverse = tarnsDFTInv_PermToR_##T;     \
+        static constexpr auto free = tarnsDFTFree_R_##T;             \
+    }
+TARN_DCT_DFT_CALLS(32f);
+TARN_DCT_DFT_CALLS(64f);
+#undef TARN_DCT_DFT_CALLS
+
 // -- Objects ---------------------------------------------------------------------------------------------------------
 
 template <typename Object>
@@ -69,6 +86,9 @@ void deleteSpec(Object* object)
     tarnsFree(object->convKernel);
     const OwnedSpec<T> real(object->fftRSpec);
     const OwnedSpec<PairOf<T>> pairs(object->fftCSpec);
+    if (object->dftRSpec != nullptr) {
+        DftCalls<T>::free(object->dftRSpec);
+    }
     releaseObject(object);
 }
 
@@ -114,23 +134,50 @@ TarnStatus initFft(Spec<T>& spec, int N, bool forward)
 
 // The spectrum of the chirp that a convolution multiplies by; 1 / L is in it.
 template <typename T>
-TarnStatus createConvolution(Spec<T>& spec, int N, int order)
+TarnStatus createConvolution(Spec<T>& spec, int N)
 {
     using C = PairOf<T>;
     const int L = spec.convLen;
-    if (const TarnStatus status =
-            TransformCalls<C>::initAlloc(&spec.fftCSpec, order, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone)) {
-        return status;
-    }
     Kernels<T>::fillKernel(spec.convKernel, spec.convChirp, N, L);
     if (const TarnStatus status =
             TransformCalls<C>::forward(spec.convKernel, spec.convKernel, spec.fftCSpec, nullptr)) {
         return status;
     }
     fft::kernels<T>.scale(T{1} / static_cast<T>(L), asParts(spec.convKernel), 2 * L);
+    return tarnStsNoErr;
+}
+
+// Where the real transform of the length has small factors only, it is some five times as fast as the convolution.
+template <typename T>
+bool hasSmallFactors(int N)
+{
+    constexpr int largest = 31;
+    dft::Spec<T> trial{};
+    if (!dft::testDftPrimeFact(trial, N % 2 == 0 ? N / 2 : N)) {
+        return false;
+    }
+    int highest = trial.factors[trial.lastFactor].remaining;
+    for (int i = 0; i <= trial.lastFactor; ++i) {
+        highest = std::max(highest, trial.factors[i].factor);
+    }
+    return highest <= largest;
+}
+
+// Samples of a transform of the length itself, whose own work memory begins behind them.
+constexpr std::ptrdiff_t halvesLength(int N) { return (std::ptrdiff_t{N} + 3) / 4 * 4; }
+
+// The work memory is what the convolution would need, and ample.
+template <typename T>
+TarnStatus initHalves(Spec<T>& spec, int N)
+{
+    if (const TarnStatus status = DftCalls<T>::initAlloc(&spec.dftRSpec, N, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone)) {
+        return status;
+    }
     int bytes = 0;
-    TransformCalls<C>::getBufSize(spec.fftCSpec, &bytes);
-    return setBufSize(spec, bytes + static_cast<long long>(sizeof(C)) * L);
+    DftCalls<T>::getBufSize(spec.dftRSpec, &bytes);
+    const long long all = halvesLength(N) * static_cast<long long>(sizeof(T)) + bytes + workAlignment;
+    spec.bufSize = std::max(spec.bufSize, static_cast<int>(std::min<long long>(all, INT_MAX)));
+    return all > INT_MAX ? tarnStsNoMemErr : tarnStsNoErr;
 }
 
 template <typename T>
@@ -141,13 +188,32 @@ TarnStatus initConv(Spec<T>& spec, int N, bool forward)
     while ((1LL << order) < 2LL * N - 1) {
         ++order;
     }
-    // The largest table first: without it the others would be made for nothing.
-    spec.convKernel = allocate<C>(1LL << order).release();
+    // Without this table, the largest, the others would be made for nothing.
+    const long long tableBytes = static_cast<long long>(sizeof(C)) << order;
+    if (tableBytes > INT_MAX) {
+        return tarnStsNoMemErr;
+    }
+    spec.convLen = 1 << order;
+    if (const TarnStatus status = createTurns(spec, N, forward)) {
+        return status;
+    }
+    if (const TarnStatus status =
+            TransformCalls<C>::initAlloc(&spec.fftCSpec, order, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone)) {
+        return status;
+    }
+    int bytes = 0;
+    TransformCalls<C>::getBufSize(spec.fftCSpec, &bytes);
+    if (const TarnStatus status = setBufSize(spec, bytes + tableBytes)) {
+        return status;
+    }
+    if (hasSmallFactors<T>(N)) {
+        return initHalves(spec, N);
+    }
+    spec.convKernel = allocate<C>(spec.convLen).release();
     spec.convChirp = allocate<C>(N).release();
     if (spec.convKernel == nullptr || spec.convChirp == nullptr) {
         return tarnStsNoMemErr;
     }
-    spec.convLen = 1 << order;
     const Owned<C[]> roots(Calls<T>::createRoots(2 * N));
     if (!roots) {
         return tarnStsNoMemErr;
@@ -157,10 +223,7 @@ TarnStatus initConv(Spec<T>& spec, int N, bool forward)
         return tarnStsNoMemErr;
     }
     dft::fillChirp<T>(spec.convChirp, N, roots.get());
-    if (const TarnStatus status = createTurns(spec, N, forward)) {
-        return status;
-    }
-    return createConvolution(spec, N, order);
+    return createConvolution(spec, N);
 }
 
 template <bool forward, typename T>
@@ -253,8 +316,37 @@ TarnStatus convolve(const Spec<T>& spec, PairOf<T>* y)
 }
 
 template <typename T>
+TarnStatus forwardHalves(const Spec<T>& spec, const T* src, T* dst, T* work)
+{
+    const int N = spec.length;
+    auto* const buffer = reinterpret_cast<Tarn8u*>(work + halvesLength(N));
+    Kernels<T>::splitHalves(src, work, N);
+    if (const TarnStatus status = DftCalls<T>::forward(work, work, spec.dftRSpec, buffer)) {
+        return status;
+    }
+    Kernels<T>::leaveHalves(work, spec.outTab, dst, N);
+    return tarnStsNoErr;
+}
+
+template <typename T>
+TarnStatus inverseHalves(const Spec<T>& spec, const T* src, T* dst, T* work)
+{
+    const int N = spec.length;
+    auto* const buffer = reinterpret_cast<Tarn8u*>(work + halvesLength(N));
+    Kernels<T>::enterHalves(src, spec.outTab, work, N);
+    if (const TarnStatus status = DftCalls<T>::inverse(work, work, spec.dftRSpec, buffer)) {
+        return status;
+    }
+    Kernels<T>::joinHalves(work, dst, N);
+    return tarnStsNoErr;
+}
+
+template <typename T>
 TarnStatus forwardConv(const Spec<T>& spec, const T* src, T* dst, T* work)
 {
+    if (spec.dftRSpec != nullptr) {
+        return forwardHalves(spec, src, dst, work);
+    }
     PairOf<T>* const y = asPairs(work);
     Kernels<T>::enterSignal(spec, src, y);
     if (const TarnStatus status = convolve(spec, y)) {
@@ -267,6 +359,9 @@ TarnStatus forwardConv(const Spec<T>& spec, const T* src, T* dst, T* work)
 template <typename T>
 TarnStatus inverseConv(const Spec<T>& spec, const T* src, T* dst, T* work)
 {
+    if (spec.dftRSpec != nullptr) {
+        return inverseHalves(spec, src, dst, work);
+    }
     PairOf<T>* const y = asPairs(work);
     Kernels<T>::enterSlots(spec, src, y);
     if (const TarnStatus status = convolve(spec, y)) {

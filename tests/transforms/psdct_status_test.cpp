@@ -161,7 +161,7 @@ TEST(DctMemory, CreationGivesBackAllItGotWhenOneAllocationFails)
     if (!canRefuseMemory)
         GTEST_SKIP();
     for (const DctKind& kind : dctKinds())
-        for (int N : {1, 4, 6, 64, 101, 1024})
+        for (int N : {1, 4, 6, 64, 101, 120, 1024})
             for (int hint : {0, 2}) {
                 int refused = 0;
                 for (int status = tarnStsNoMemErr; status != tarnStsNoErr; ++refused) {
@@ -193,7 +193,7 @@ TEST(DctMemory, TransformsAllocateOnlyTheBufferThatIsMissing)
     if (!canRefuseMemory)
         GTEST_SKIP();
     for (const DctKind& kind : dctKinds())
-        for (int N : {1, 4, 6, 64, 101, 1024})
+        for (int N : {1, 4, 6, 64, 101, 120, 1024})
             for (int hint : {0, 2}) {
                 const DctSpec spec(kind, N, hint);
                 const int size = spec.bufSize();

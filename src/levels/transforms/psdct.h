@@ -56,6 +56,13 @@ struct Kernels {
     static void leaveSpectrum(const T* perm, const PairOf<T>* out, T* dst, int N);
     static void enterSpectrum(const T* src, const PairOf<T>* out, T* perm, int N);
 
+    // Samples with even index as they rise, then those with odd index as they fall; and back.
+    static void splitHalves(const T* src, T* dst, int N);
+    static void joinHalves(const T* src, T* dst, int N);
+    // The coefficients of the spectrum of N such points in Perm order, and back.
+    static void leaveHalves(const T* perm, const PairOf<T>* out, T* dst, int N);
+    static void enterHalves(const T* src, const PairOf<T>* out, T* perm, int N);
+
     // The chirp's conjugate, mirrored about place 0 of L.
     static void fillKernel(PairOf<T>* kernel, const PairOf<T>* chirp, int N, int L);
     // N reals taken for pairs, times the chirp, zeros up to L; and N coefficients of what comes out of the convolution.

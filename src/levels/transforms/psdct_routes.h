@@ -61,6 +61,94 @@ void Kernels<T>::enterSpectrum(const T* src, const PairOf<T>* out, T* perm, int 
     }
 }
 
+// -- By a real transform of the length itself ------------------------------------------------------------------------
+
+template <typename T>
+void Kernels<T>::splitHalves(const T* src, T* dst, int N)
+{
+    constexpr int step = group<T>;
+    int j = 0;
+    for (; j <= N / 2 - step; j += step) {
+        const auto x = loadPack<2 * step>(src + 2 * j);
+        store(dst + j, evenElements(x));
+        store(dst + N - step - j, reverse(oddElements(x)));
+    }
+    for (; j < N / 2; ++j) {
+        store(dst + j, loadElement(src + 2 * j));
+        store(dst + N - 1 - j, loadElement(src + 2 * j + 1));
+    }
+    if (N % 2 != 0) {
+        store(dst + j, loadElement(src + N - 1));
+    }
+}
+
+template <typename T>
+void Kernels<T>::joinHalves(const T* src, T* dst, int N)
+{
+    constexpr int step = group<T>;
+    int j = 0;
+    for (; j <= N / 2 - step; j += step) {
+        store(dst + 2 * j, zip(loadPack<step>(src + j), reverse(loadPack<step>(src + N - step - j))));
+    }
+    for (; j < N / 2; ++j) {
+        store(dst + 2 * j, loadElement(src + j));
+        store(dst + 2 * j + 1, loadElement(src + N - 1 - j));
+    }
+    if (N % 2 != 0) {
+        store(dst + N - 1, loadElement(src + j));
+    }
+}
+
+// Value k of the spectrum, turned back by pi k / (2 N), is coefficient k less i times coefficient N - k.
+template <typename T>
+void Kernels<T>::leaveHalves(const T* perm, const PairOf<T>* out, T* dst, int N)
+{
+    constexpr int step = group<T>;
+    const T* const w = asParts(out);
+    const T* const pairs = perm - N % 2;
+    const auto opposite = [](auto x, auto turn) { return sub(mul(x.re, turn.im), mul(x.im, turn.re)); };
+    store(dst, loadElement(perm) * w[0]);
+    int k = 1;
+    for (; 2 * (k + step - 1) < N; k += step) {
+        const auto x = loadPairs<step>(pairs + 2 * k);
+        const auto turn = loadPairs<step>(w + 2 * k);
+        store(dst + k, sumOfProducts(x, turn));
+        store(dst + N - k - step + 1, reverse(opposite(x, turn)));
+    }
+    for (; 2 * k < N; ++k) {
+        const auto x = pairAt(pairs, k);
+        store(dst + k, sumOfProducts(x, pairAt(w, k)));
+        store(dst + N - k, opposite(x, pairAt(w, k)));
+    }
+    if (N % 2 == 0) {
+        store(dst + N / 2, loadElement(perm + 1) * w[N]);
+    }
+}
+
+template <typename T>
+void Kernels<T>::enterHalves(const T* src, const PairOf<T>* out, T* perm, int N)
+{
+    constexpr int step = group<T>;
+    const T* const w = asParts(out);
+    T* const pairs = perm - N % 2;
+    const auto value = [](auto y, auto facing, auto turn) {
+        return Complex<decltype(y)>{add(mul(y, turn.re), mul(facing, turn.im)),
+                                    sub(mul(y, turn.im), mul(facing, turn.re))};
+    };
+    store(perm, loadElement(src) * w[0]);
+    int k = 1;
+    for (; 2 * (k + step - 1) < N; k += step) {
+        const auto facing = reverse(loadPack<step>(src + N - k - step + 1));
+        storePairs(pairs + 2 * k, value(loadPack<step>(src + k), facing, loadPairs<step>(w + 2 * k)));
+    }
+    for (; 2 * k < N; ++k) {
+        putPair(pairs, k, value(loadElement(src + k), loadElement(src + N - k), pairAt(w, k)));
+    }
+    if (N % 2 == 0) {
+        store(perm + 1, 2 * (loadElement(src + N / 2) * w[N]));
+    }
+}
+
 // -- By convolution with a chirp --------------------------------------------------------------------------------------
 
 // Calls vector(k, mirrored) for whole registers of slots, those from k up and those from `mirrored` up to N - k, and

@@ -4,11 +4,24 @@
 #include "frame/object.h"
 #include "frame/pairs.h"
 #include "levels/fft/psfft_kinds.h"
+#include "tarns/dft.h"
 
 namespace tarn::dct {
 
 // Direct sums end here, and convolutions with a chirp begin, where the length is no power of two.
 inline constexpr int largestDirect = 100;
+
+// The real transform of any length.
+template <typename T>
+struct DftOf;
+template <>
+struct DftOf<Tarn32f> {
+    using Spec = TarnsDFTSpec_R_32f;
+};
+template <>
+struct DftOf<Tarn64f> {
+    using Spec = TarnsDFTSpec_R_64f;
+};
 
 // One layout for both directions of a precision. What a pointer points at is the object's own.
 template <typename T>
@@ -32,6 +45,7 @@ struct Spec {
     PairOf<T>* convKernel;
     typename TransformOf<T>::Spec* fftRSpec;
     typename TransformOf<PairOf<T>>::Spec* fftCSpec;
+    typename DftOf<T>::Spec* dftRSpec; // in place of the chirp, where the length has small factors only
 };
 
 } // namespace tarn::dct
