@@ -4,6 +4,7 @@
 
 #include "frame/simd_complex.h"
 #include "frame/simd_interleave.h"
+#include "frame/simd_memory.h"
 
 namespace tarn {
 
@@ -103,8 +104,9 @@ TARN_INLINE void storePairsReversed(T* p, Complex<Pack<T, N>> x)
         const auto lo = zipLow(x.re, x.im);
         const auto hi = zipHigh(x.re, x.im);
         if constexpr (std::is_same_v<T, Tarn32f>) {
-            store(p, Pack<T, N>{_mm_shuffle_ps(hi.v, hi.v, 0x4E)});
-            store(p + N, Pack<T, N>{_mm_shuffle_ps(lo.v, lo.v, 0x4E)});
+            // The stores turn the halves around for nothing, where shuffles would wait for each other.
+            storeHalves(p + 2, p, hi);
+            storeHalves(p + 6, p + 4, lo);
         } else {
             store(p, hi);
             store(p + N, lo);
