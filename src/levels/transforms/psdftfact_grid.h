@@ -17,9 +17,6 @@ struct Grid {
     LanePlan<T> down;   // of `rows` points
     LanePlan<T> across; // of `columns` points
     const T* factors;   // W_N^(j k) in the order in which columns are transposed
-    bool halves;        // of real data: what is transposed is twice as large, and its upper half is left out
-
-    int transposed() const { return halves ? (rows + 1) / 2 : rows; }
 };
 
 // Calls f(j) for vectors of `width` columns from j on; the last one ends with the last column.
@@ -37,6 +34,7 @@ struct ColumnsOf {
     Array array;
     std::ptrdiff_t stride;
 
+    TARN_INLINE ColumnsOf from(int i, int step) const { return {array + i * stride, stride * step}; }
     TARN_INLINE auto get(int i) const { return array.neighbours(i * stride); }
     template <typename X>
     TARN_INLINE void put(int i, Complex<X> x) const

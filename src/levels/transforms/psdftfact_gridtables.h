@@ -5,7 +5,6 @@
 #include "levels/transforms/psdftfact_grid.h"
 
 #include <limits>
-#include <new>
 
 namespace tarn::dft {
 
@@ -85,19 +84,19 @@ inline double costOf(int n)
 // The number of columns that costs least, 0 if N does not make a grid: vectors have to fit into its rows and columns,
 // and neither may be too long.
 template <typename T>
-inline int columnsOf(int N, bool halves)
+inline int columnsOf(int N)
 {
     constexpr int width = blockLanes<T>;
-    const auto vectors = [](int n, int step) { return static_cast<double>((n + step - 1) / step * step) / n; };
+    // What is computed twice, where the last vector overlaps the one before it, is paid for.
+    const auto overlapping = [](int n) { return static_cast<double>((n + width - 1) / width * width) / n; };
     int best = 0;
     double least = std::numeric_limits<double>::max();
-    for (int columns = std::max(halves ? 2 * width : width, N / longestLanes); columns <= longestLanes; ++columns) {
+    for (int columns = std::max(width, N / longestLanes); columns <= longestLanes; ++columns) {
         const int rows = N / columns;
-        if (N % columns != 0 || rows > longestLanes || (halves ? (rows - 1) / 2 : rows) < width) {
+        if (N % columns != 0 || rows > longestLanes || rows < width) {
             continue;
         }
-        const double cost = costOf(rows) * vectors(columns, halves ? 2 * width : width) +
-                            costOf(columns) * (halves ? vectors((rows + 1) / 2, width) : vectors(rows, width));
+        const double cost = costOf(rows) * overlapping(columns) + costOf(columns) * overlapping(rows);
         if (cost < least) {
             least = cost;
             best = columns;
@@ -107,7 +106,7 @@ inline int columnsOf(int N, bool halves)
 }
 
 template <typename T>
-inline void putTwice(T* to, PairOf<T> w)
+inline void putInAllLanes(T* to, PairOf<T> w)
 {
     for (int lane = 0; lane < blockLanes<T>; ++lane) {
         to[lane] = w.re;
@@ -144,7 +143,7 @@ inline void makePlan(LanePlan<T>& plan, int n, Circle<T> circle, Cutter<T>& memo
         plan.twiddles[i] = to;
         for (int k = 1; to != nullptr && k < q; ++k) {
             for (int j = 1; j < p; ++j, to += realsOfLanes<T>) {
-                putTwice<T>(to, circle.root(static_cast<long long>(j) * k * (n / (p * q))));
+                putInAllLanes<T>(to, circle.root(static_cast<long long>(j) * k * (n / (p * q))));
             }
         }
         q *= p;
@@ -171,28 +170,19 @@ template <typename T>
 inline T* makeFactors(const Grid<T>& grid, Circle<T> circle, Cutter<T>& memory)
 {
     constexpr int width = blockLanes<T>;
-    const int step = grid.halves ? 2 * width : width;
-    const int length = grid.transposed();
-    const auto rounded = [](int n, int by) { return std::ptrdiff_t{(n + by - 1) / by * by}; };
-    T* const factors = memory.template cut<T>(2 * rounded(grid.columns, step) * rounded(length, width));
+    const auto rounded = [](int n) { return std::ptrdiff_t{(n + width - 1) / width * width}; };
+    T* const factors = memory.template cut<T>(2 * rounded(grid.columns) * rounded(grid.rows));
     if (factors == nullptr) {
         return factors;
     }
-    // Sums and differences of what is transposed twice are to be halved.
-    const T scale = grid.halves ? T{1} / 2 : T{1};
     T* to = factors;
-    const auto vectors = [](int n, int by, auto f) {
-        for (int j = 0; j < n; j += by) {
-            f(std::min(j, n - by));
-        }
-    };
-    vectors(grid.columns, step, [&](int j) {
-        vectors(length, width, [&](int k) {
-            for (int column = j; column < j + step; ++column, to += realsOfLanes<T>) {
+    forVectors<width>(grid.columns, [&](int j) {
+        forVectors<width>(grid.rows, [&](int k) {
+            for (int column = j; column < j + width; ++column, to += realsOfLanes<T>) {
                 for (int lane = 0; lane < width; ++lane) {
                     const PairOf<T> w = circle.root(static_cast<long long>(column) * (k + lane));
-                    to[lane] = scale * w.re;
-                    to[lane + width] = scale * w.im;
+                    to[lane] = w.re;
+                    to[lane + width] = w.im;
                 }
             }
         });
@@ -202,7 +192,7 @@ inline T* makeFactors(const Grid<T>& grid, Circle<T> circle, Cutter<T>& memory)
 
 // Null if there is no memory.
 template <typename T>
-inline Grid<T>* createGrid(int N, int columns, bool halves, const PairOf<T>* base, int baseLen)
+inline Grid<T>* createGrid(int N, int columns, const PairOf<T>* base, int baseLen)
 {
     const Circle<T> circle{base, baseLen / N};
     Grid<T> grid;
@@ -210,7 +200,6 @@ inline Grid<T>* createGrid(int N, int columns, bool halves, const PairOf<T>* bas
         Grid<T>* const place = memory.template cut<Grid<T>>(1);
         grid.rows = N / columns;
         grid.columns = columns;
-        grid.halves = halves;
         makePlan(grid.down, grid.rows, circle.ofPart(columns), memory);
         makePlan(grid.across, columns, circle.ofPart(grid.rows), memory);
         grid.factors = makeFactors(grid, circle, memory);

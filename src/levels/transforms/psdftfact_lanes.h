@@ -38,26 +38,30 @@ TARN_INLINE void storeLanes(T* p, Lanes<T> x)
     storeAligned(p + blockLanes<T>, x.im);
 }
 
-// The work area of one transform, and its points as a source or a destination.
+// The work area of one transform as a source or a destination: points at equal distances from one on.
 template <typename T>
 struct LaneArea {
     T* points;
+    int distance = realsOfLanes<T>;
 
-    TARN_INLINE Lanes<T> get(int i) const { return loadLanes(static_cast<const T*>(points + i * realsOfLanes<T>)); }
-    TARN_INLINE void put(int i, Lanes<T> x) const { storeLanes(points + i * realsOfLanes<T>, x); }
+    TARN_INLINE Lanes<T> get(int i) const { return loadLanes(static_cast<const T*>(points + i * distance)); }
+    TARN_INLINE void put(int i, Lanes<T> x) const { storeLanes(points + i * distance, x); }
+    TARN_INLINE LaneArea from(int i, int step) const { return {points + i * distance, step * distance}; }
 };
 
 template <int q, typename T, typename Source, typename Sink>
 inline void laneLeaves(const LanePlan<T>& plan, Source source, Sink sink)
 {
-    const int* const starts = plan.starts;
-    const int count = plan.length / q;
-    for (int t = 0, at = 0; t < count; ++t, at += q) {
-        const int start = starts[t];
+    const int* start = plan.starts;
+    const int length = plan.length;
+    const int count = length / q;
+    for (int at = 0; at < length; at += q) {
+        const auto in = source.from(*start++, count);
+        const auto out = sink.from(at, 1);
         Points<BlockPart<T>, q> x;
-        repeat<q>([&](auto j) { x[j] = source.get(start + j * count); });
+        repeat<q>([&](auto j) { x[j] = in.get(j); });
         x = transformPoints(x);
-        repeat<q>([&](auto k) { sink.put(at + k, x[k]); });
+        repeat<q>([&](auto k) { out.put(k, x[k]); });
     }
 }
 
@@ -68,31 +72,58 @@ inline void laneLeavesAny(const LanePlan<T>& plan, Source source, Sink sink)
     const int q = plan.leaf;
     const int count = plan.length / q;
     for (int t = 0; t < count; ++t) {
-        const int start = plan.starts[t];
+        const auto in = source.from(plan.starts[t], count);
+        const auto out = sink.from(t * q, 1);
         transformOdd<BlockPart<T>>(
-            q, plan.leafRoots, pairs, [&](int j) { return source.get(start + j * count); },
-            [&](int k, Lanes<T> y) { sink.put(t * q + k, y); });
+            q, plan.leafRoots, pairs, [&](int j) { return in.get(j); }, [&](int k, Lanes<T> y) { out.put(k, y); });
     }
 }
 
+// Where results go: in place, as far as the compiler can see, if they go to the area itself.
+template <typename T, typename Sink>
+TARN_INLINE auto resultsTo(LaneArea<T> area, Sink sink)
+{
+    if constexpr (std::is_same_v<Sink, LaneArea<T>>) {
+        return area;
+    } else {
+        return sink;
+    }
+}
+
+// From `area`, in place or to another destination.
 template <int p, typename T, typename Sink>
 inline void laneMerge(const LanePlan<T>& plan, int q, const T* twd, LaneArea<T> area, Sink sink)
 {
     constexpr int width = realsOfLanes<T>;
+    const int length = plan.length;
     const int size = p * q;
-    for (int at = 0; at < plan.length; at += size) {
+    for (int at = 0; at < length; at += size) {
+        const auto in = area.from(at, q);
+        const auto out = resultsTo(area, sink).from(at, q);
         Points<BlockPart<T>, p> x;
-        repeat<p>([&](auto j) { x[j] = area.get(at + j * q); });
+        repeat<p>([&](auto j) { x[j] = in.get(j); });
         x = transformPoints(x);
-        repeat<p>([&](auto j) { sink.put(at + j * q, x[j]); });
+        repeat<p>([&](auto j) { out.put(j, x[j]); });
+    }
+    const auto butterfly = [&](int at, const T* factors) __attribute__((always_inline))
+    {
+        const auto in = area.from(at, q);
+        const auto out = resultsTo(area, sink).from(at, q);
+        Points<BlockPart<T>, p> x;
+        x[0] = in.get(0);
+        repeat<p - 1>([&](auto j) { x[j + 1] = times(in.get(j + 1), loadLanes(factors + width * j)); });
+        x = transformPoints(x);
+        repeat<p>([&](auto j) { out.put(j, x[j]); });
+    };
+    if (size == length) {
+        for (int k = 1; k < q; ++k, twd += width * (p - 1)) {
+            butterfly(k, twd);
+        }
+        return;
     }
     for (int k = 1; k < q; ++k, twd += width * (p - 1)) {
-        for (int at = k; at < plan.length; at += size) {
-            Points<BlockPart<T>, p> x;
-            x[0] = area.get(at);
-            repeat<p - 1>([&](auto j) { x[j + 1] = times(area.get(at + (j + 1) * q), loadLanes(twd + width * j)); });
-            x = transformPoints(x);
-            repeat<p>([&](auto j) { sink.put(at + j * q, x[j]); });
+        for (int at = k; at < length; at += size) {
+            butterfly(at, twd);
         }
     }
 }
@@ -106,13 +137,15 @@ inline void laneMergeAny(const LanePlan<T>& plan, int p, int q, const T* roots, 
     for (int k = 0; k < q; ++k) {
         const T* const factors = twd + width * (p - 1) * (k - 1);
         for (int at = k; at < plan.length; at += p * q) {
+            const auto in = area.from(at, q);
+            const auto out = resultsTo(area, sink).from(at, q);
             transformOdd<BlockPart<T>>(
                 p, roots, pairs,
                 [&](int j) {
-                    const auto x = area.get(at + j * q);
+                    const auto x = in.get(j);
                     return j == 0 || k == 0 ? x : times(x, loadLanes(factors + width * (j - 1)));
                 },
-                [&](int j, Lanes<T> y) { sink.put(at + j * q, y); });
+                [&](int j, Lanes<T> y) { out.put(j, y); });
         }
     }
 }

@@ -186,8 +186,8 @@ inline TarnStatus initInOrder(Spec<T>& spec, int N, const PairOf<T>* base, int b
     if (!setPermutation(spec)) {
         return tarnStsNoMemErr;
     }
-    if (const int columns = columnsOf<T>(N, false)) {
-        spec.laneTab = createGrid<T>(N, columns, false, base, baseLen);
+    if (const int columns = columnsOf<T>(N)) {
+        spec.laneTab = createGrid<T>(N, columns, base, baseLen);
         return spec.laneTab != nullptr ? tarnStsNoErr : tarnStsNoMemErr;
     }
     return tarnStsNoErr;
