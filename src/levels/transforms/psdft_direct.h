@@ -26,89 +26,94 @@ struct Roots {
 };
 
 // Four values at a time: (s.re, d.re, s.im, d.im) of one pair of points or, of real data, (s, d) of one pair for two
-// neighbouring results. So many results lie side by side, which hides the time that a step of their indices takes.
-inline constexpr int resultsAtOnce = 4;
+// neighbouring results, and for a last one. Three results side by side hide the time that a step of their indices
+// takes, and leave each index a register of a 32-bit program.
+inline constexpr int resultsAtOnce = 3;
 
 template <int count, typename T>
 using Sums = std::array<Pack<T, 4>, static_cast<std::size_t>(count)>;
 
 struct ComplexTerms {
     static constexpr int reals = 4;
-    static constexpr int resultsOfSum = 1;
+    static constexpr int sumsOf(int results) { return results; }
+    static constexpr int resultsInSum(int /*sum*/, int /*results*/) { return 1; }
 
     template <typename T>
     static TARN_INLINE Pack<T, 4> term(const T* p)
     {
         return loadAligned<4>(p);
     }
-    template <typename T>
-    static TARN_INLINE Pack<T, 4> roots(const T* parts, const int* at)
-    {
-        return loadPairTwice(parts + at[0]);
-    }
 };
 
 struct RealTerms {
     static constexpr int reals = 2;
-    static constexpr int resultsOfSum = 2;
+    static constexpr int sumsOf(int results) { return (results + 1) / 2; }
+    static constexpr int resultsInSum(int sum, int results) { return 2 * sum + 1 < results ? 2 : 1; }
 
     template <typename T>
     static TARN_INLINE Pack<T, 4> term(const T* p)
     {
         return loadPairTwice(p);
     }
-    template <typename T>
-    static TARN_INLINE Pack<T, 4> roots(const T* parts, const int* at)
-    {
-        return loadTwoPairs(parts + at[0], parts + at[1]);
-    }
 };
 
-// Adds every other one of `h` terms, from the first or the second one on, times the roots of results k, k + 1, ...
-template <typename Terms, int count, typename T>
-TARN_INLINE void addEveryOther(Sums<count, T>& sums, int first, const T* terms, int h, const Roots<T>& roots, int k)
+// Adds every other one of the terms from `p` on, times the roots of results k, k + 1, ...; `first` is 1 or 2, the place
+// of the first of these terms.
+template <typename Terms, int results, typename T>
+TARN_INLINE void addEveryOther(Sums<Terms::sumsOf(results), T>& sums, int first, const T* p, const T* end,
+                               const Roots<T>& roots, int k)
 {
-    constexpr int results = count * Terms::resultsOfSum;
     std::array<int, results> at;
-    // Where there is but one result, the other lanes compute it too.
-    const int last = h - k;
-    const auto place = [&](int i) { return count > 1 || i <= last ? i : last; };
-    repeat<results>([&](auto i) { at[i] = 2 * first * (k + place(i)); });
+    repeat<results>([&](auto i) { at[i] = 2 * first * (k + i); });
     const Tarn32s* const steps = roots.words + 2 * k;
-    const T* const end = terms + Terms::reals * h;
     TARN_ROLLED
-    for (const T* p = terms + Terms::reals * (first - 1); p < end; p += 2 * Terms::reals) {
+    for (; p < end; p += 2 * Terms::reals) {
         const Pack<T, 4> term = Terms::term(p);
-        repeat<count>([&](auto i) {
-            sums[i] = add(sums[i], mul(Terms::roots(roots.parts, &at[i * Terms::resultsOfSum]), term));
+        repeat<Terms::sumsOf(results)>([&](auto i) {
+            constexpr int perSum = Terms::resultsInSum(0, 2);
+            constexpr int result = i * perSum;
+            if constexpr (Terms::resultsInSum(i, results) == 2) {
+                const auto pairs = loadTwoPairs(roots.parts + at[result], roots.parts + at[result + 1]);
+                sums[i] = add(sums[i], mul(pairs, term));
+                at[result + 1] = Roots<T>::next(steps + 2 * (result + 1), at[result + 1]);
+            } else {
+                sums[i] = add(sums[i], mul(loadPairTwice(roots.parts + at[result]), term));
+            }
+            at[result] = Roots<T>::next(steps + 2 * result, at[result]);
         });
-        repeat<results>([&](auto i) { at[i] = Roots<T>::next(steps + 2 * place(i), at[i]); });
     }
 }
 
-// The sums of results k, k + 1, ..., which begin with `start`: those of the odd terms and those of the even ones.
-template <typename Terms, int count, typename T>
-TARN_INLINE Sums<count, T> sumsFrom(const T* terms, int h, const Roots<T>& roots, int k, Sums<count, T> start)
+// The sums of results k, k + 1, ...: those of the odd terms, which begin with what stands in `sums`, plus
+// those of the even ones. A function of its own that keeps the first half in memory: a 32-bit program has just enough
+// registers for the rest, and an index that was not in one would take twice as long from step to step.
+template <typename Terms, int results, typename T>
+__attribute__((noinline)) void sumBlock(const T* terms, const T* end, const Roots<T>& roots, int k, T* sums)
 {
-    addEveryOther<Terms, count>(start, 1, terms, h, roots, k);
-    Sums<count, T> even;
-    even.fill(splat<Pack<T, 4>>(T{0}));
-    addEveryOther<Terms, count>(even, 2, terms, h, roots, k);
-    repeat<count>([&](auto i) { start[i] = add(start[i], even[i]); });
-    return start;
+    constexpr int count = Terms::sumsOf(results);
+    const auto at = [&](int i) { return sums + 4 * i; };
+    Sums<count, T> part;
+    repeat<count>([&](auto i) { part[i] = loadAligned<4>(static_cast<const T*>(at(i))); });
+    addEveryOther<Terms, results, T>(part, 1, terms, end, roots, k);
+    repeat<count>([&](auto i) { storeAligned(at(i), part[i]); });
+    part.fill(splat<Pack<T, 4>>(T{0}));
+    addEveryOther<Terms, results, T>(part, 2, terms + Terms::reals, end, roots, k);
+    repeat<count>([&](auto i) { storeAligned(at(i), add(loadAligned<4>(static_cast<const T*>(at(i))), part[i])); });
 }
 
-// Calls emit(k, sums, count) until all `h` results have been told; of short blocks the last ones twice. start(k) is
-// what a result begins with.
+// Calls emit(k, sums, results) until all `h` results have been told, the sums four reals each; the last ones maybe
+// twice. start(k) is what a result begins with.
 template <typename Terms, typename T, typename Start, typename Emit>
 TARN_INLINE void forAllResults(const T* terms, int h, const Roots<T>& roots, Start start, Emit emit)
 {
+    alignas(vectorBytes) T sums[4 * Terms::sumsOf(resultsAtOnce)];
+    const T* const end = terms + Terms::reals * h;
     const auto block = [&](auto results, int k) __attribute__((always_inline))
     {
-        constexpr int count = (results + Terms::resultsOfSum - 1) / Terms::resultsOfSum;
-        Sums<count, T> sums;
-        repeat<count>([&](auto i) { sums[i] = start(k + i * Terms::resultsOfSum); });
-        emit(k, sumsFrom<Terms, count>(terms, h, roots, k, sums));
+        constexpr int perSum = Terms::resultsInSum(0, 2);
+        repeat<Terms::sumsOf(results)>([&](auto i) { storeAligned(sums + 4 * i, start(k + i * perSum)); });
+        sumBlock<Terms, results>(terms, end, roots, k, static_cast<T*>(sums));
+        emit(k, static_cast<const T*>(sums), static_cast<int>(results));
     };
     if (h < resultsAtOnce) {
         for (int k = 1; k <= h; ++k) {
@@ -117,6 +122,7 @@ TARN_INLINE void forAllResults(const T* terms, int h, const Roots<T>& roots, Sta
         return;
     }
     int k = 1;
+    TARN_ROLLED
     for (; k + resultsAtOnce <= h; k += resultsAtOnce) {
         block(std::integral_constant<int, resultsAtOnce>{}, k);
     }

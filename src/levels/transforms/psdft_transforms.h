@@ -49,14 +49,12 @@ struct PartsOut {
 // -- Complex data
 // ------------------------------------------------------------------------------------------------------
 
-// Results k and N - k, of sums (a.re, b.re, a.im, b.im).
+// Results k and N - k of sums (a.re, b.re, a.im, b.im).
 template <bool forward, typename T, typename Out>
-TARN_INLINE void putPair(Out y, int N, int k, Pack<T, 4> sums)
+TARN_INLINE void putPair(Out y, int N, int k, const T* sums)
 {
-    alignas(vectorBytes) T s[4];
-    storeAligned(s, sums);
-    const Complex<T> a = {s[0], s[2]};
-    const Complex<T> b = {s[1], s[3]};
+    const Complex<T> a = {sums[0], sums[2]};
+    const Complex<T> b = {sums[1], sums[3]};
     y.put(k, forward ? plusTurned(a, b) : minusTurned(a, b));
     y.put(N - k, forward ? minusTurned(a, b) : plusTurned(a, b));
 }
@@ -92,9 +90,9 @@ TARN_INLINE void directSums(In x, Out y, int N, Roots<T> roots, T* work)
     }
     forAllResults<ComplexTerms>(
         static_cast<const T*>(work), h, roots, [&](int k) { return starts[k % 2]; },
-        [&](int k, const auto& sums) {
-            for (std::size_t i = 0; i < sums.size(); ++i) {
-                putPair<forward>(y, N, k + static_cast<int>(i), sums[i]);
+        [&](int k, const T* sums, int results) {
+            for (int i = 0; i < results; ++i) {
+                putPair<forward>(y, N, k + i, sums + 4 * i);
             }
         });
     if (even) {
@@ -138,17 +136,9 @@ inline void directToPerm(const T* x, T* y, int N, Roots<T> roots, T* work)
     const auto start = loadAligned<4>(static_cast<const T*>(starts));
     forAllResults<RealTerms>(
         static_cast<const T*>(work), h, roots, [&](int /*k*/) { return start; },
-        [&](int k, const auto& sums) {
-            for (std::size_t i = 0; i < sums.size(); ++i) {
-                T* const to = y + 2 * (k + 2 * static_cast<int>(i)) - 1;
-                if (sums.size() > 1 || k < h) {
-                    store(to, sums[i]);
-                } else {
-                    alignas(vectorBytes) T s[4];
-                    storeAligned(s, sums[i]);
-                    store(to, s[0]);
-                    store(to + 1, s[1]);
-                }
+        [&](int k, const T* sums, int results) {
+            for (int i = 0; i < 2 * results; ++i) {
+                store(y + 2 * k - 1 + i, sums[i]);
             }
         });
     store(y, total);
@@ -171,15 +161,10 @@ inline void directFromPerm(const T* y, T* x, int N, Roots<T> roots, T* work)
     const auto start = loadAligned<4>(static_cast<const T*>(starts));
     forAllResults<RealTerms>(
         static_cast<const T*>(work), h, roots, [&](int /*n*/) { return start; },
-        [&](int n, const auto& sums) {
-            for (std::size_t i = 0; i < sums.size(); ++i) {
-                alignas(vectorBytes) T s[4];
-                storeAligned(s, sums[i]);
-                for (int lane = 0; lane < (sums.size() > 1 || n < h ? 2 : 1); ++lane) {
-                    const int at = n + 2 * static_cast<int>(i) + lane;
-                    store(x + at, s[2 * lane] + s[2 * lane + 1]);
-                    store(x + N - at, s[2 * lane] - s[2 * lane + 1]);
-                }
+        [&](int n, const T* sums, int results) {
+            for (int i = 0; i < results; ++i) {
+                store(x + n + i, sums[2 * i] + sums[2 * i + 1]);
+                store(x + N - n - i, sums[2 * i] - sums[2 * i + 1]);
             }
         });
     store(x, total);
