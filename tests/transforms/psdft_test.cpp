@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 #include <thread>
 
@@ -28,8 +29,12 @@ constexpr int lengthsOfEveryMethod[] = {1,   2,   3,   4,   5,   6,   7,   8,   
                                         16,  17,  18,  20,  21,  22,  24,  25,  26,  27,  28,  30,  32,  33,  35,
                                         36,  44,  45,  49,  50,  54,  60,  64,  70,  77,  81,  90,  98,  101, 105,
                                         121, 149, 150, 151, 167, 179, 180, 181, 254, 298, 302, 338, 362, 471, 500};
-constexpr int longerLengths[] = {882, 1000, 1009, 1331, 2025, 2187, 4001, 4004, 5041};
-constexpr int longestLengths[] = {10007, 22801, 25591, 44100, 48000, 65537, 120000};
+constexpr int longerLengths[] = {882, 1000, 1331, 2187, 4001, 5041};
+// Shared out between the precisions, whose code is one.
+template <class T>
+inline constexpr std::array<int, 3> longestLengths = {10007, 44100, 65537};
+template <>
+inline constexpr std::array<int, 3> longestLengths<Tarn64f> = {22801, 48000, 120000};
 
 /// Rounding errors of factors add up like a random walk, and direct sums of h terms are one, too. A convolution passes
 /// two transforms of about four times the length, and its products.
@@ -123,10 +128,12 @@ void expectAccuracy(const TransformCase<T>& transform, int length, const std::ve
 
 TYPED_TEST(Dft, EveryTransformIsAccurateByEveryMethod)
 {
-    for (const auto& transform : anyTransformCases<TypeParam>()) {
+    // Where all formats take the same way, one of them goes to the end.
+    const auto& cases = anyTransformCases<TypeParam>();
+    for (std::size_t i = 0; i < cases.size(); ++i)
         for (int length : lengthsOfEveryMethod)
-            expectAccuracy(transform, length, {std::begin(allFlags), std::end(allFlags)});
-    }
+            if (length <= 60 || i < 5 || i == 7)
+                expectAccuracy(cases[i], length, {std::begin(allFlags), std::end(allFlags)});
 }
 
 /// Kinds that differ in more than the format, both ways.
@@ -142,7 +149,7 @@ TYPED_TEST(Dft, LongOnesAreAccurate)
 {
     const auto& cases = anyTransformCases<TypeParam>();
     std::size_t turn = 0;
-    for (int length : longestLengths)
+    for (int length : longestLengths<TypeParam>)
         expectAccuracy(cases[turn++ % 2 * 4], length, {TARN_FFT_NODIV_BY_ANY});
 }
 

@@ -183,6 +183,8 @@ void Calling::number(const Argument& argument, Slot& slot)
             count += static_cast<std::size_t>(value);
         else if (argument.name == "order")
             count = std::max(count, (std::size_t{1} << value) + 2);
+        else if (argument.name == "length") // of a transform, whose spectrum may have two reals more
+            count = std::max(count, static_cast<std::size_t>(value) + 2);
         else if (isLength(argument.name) || has(argument.name, "Len"))
             count = std::max(count, static_cast<std::size_t>(value));
         else if (argument.name == "factor" || argument.name == "nChannels")
