@@ -25,6 +25,8 @@
 #include "tarns/generators.h"
 #include "tarns/goertzel.h"
 #include "tarns/hilbert.h"
+#include "tarns/iir.h"
+#include "tarns/iirstate.h"
 #include "tarns/logic.h"
 #include "tarns/magnitude.h"
 #include "tarns/memory.h"

@@ -72,6 +72,22 @@ TARN_INLINE X inFirstLane(Element<X> x)
     }
 }
 
+// Lane k in all places.
+template <int k, typename T, int N>
+TARN_INLINE Pack<T, N> splatLane(Pack<T, N> x)
+{
+    if constexpr (N > registerLanes<T>) {
+        constexpr int half = N / 2;
+        const auto spread = k < half ? splatLane<k % half>(x.lo) : splatLane<k % half>(x.hi);
+        return {spread, spread};
+    } else if constexpr (std::is_same_v<T, Tarn32f>) {
+        return {_mm_shuffle_ps(x.v, x.v, 0x55 * k)};
+    } else {
+        static_assert(std::is_same_v<T, Tarn64f>);
+        return {_mm_shuffle_pd(x.v, x.v, 3 * k)};
+    }
+}
+
 // A register of the given lanes, the first one lowest.
 TARN_INLINE Register<Tarn32f> lanesOf(Tarn32f a, Tarn32f b, Tarn32f c, Tarn32f d) { return {_mm_setr_ps(a, b, c, d)}; }
 TARN_INLINE Register<Tarn64f> lanesOf(Tarn64f a, Tarn64f b) { return {_mm_setr_pd(a, b)}; }

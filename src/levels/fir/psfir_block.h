@@ -5,7 +5,7 @@
 // (p0 + p1) + (p2 + p3), or (p0 + p1) + p2, and its sum is added to those of the passes before.
 #pragma once
 
-#include "levels/data/psconvert.h"
+#include "frame/samples.h"
 #include "levels/fir/psfir_taps.h"
 
 namespace tarn {
@@ -143,18 +143,6 @@ void filterBlock(const Part<T>* table, const T* src, T* dst, int len, int tapsLe
 }
 
 // -- Samples of another type ------------------------------------------------------------------------------------------
-
-// Samples as elements of the taps' type, exact. Complex ones are converted as twice as many parts.
-inline void samplesToTaps(const Tarn16s* src, Tarn32f* dst, int len) { ownsConvert_16s32f_W7(src, dst, len); }
-inline void samplesToTaps(const Tarn16s* src, Tarn64f* dst, int len) { ownsConvert_16s64f_Sfs0_W7(src, dst, len); }
-inline void samplesToTaps(const Tarn32s* src, Tarn64f* dst, int len) { owntarnsCnvrt_32s64f(src, dst, len); }
-inline void samplesToTaps(const Tarn32f* src, Tarn64f* dst, int len) { ownsConvert_32f64f_W7(src, dst, len); }
-template <typename S, typename T>
-    requires isComplex<S>
-inline void samplesToTaps(const S* src, T* dst, int len)
-{
-    samplesToTaps(reinterpret_cast<const Part<S>*>(src), reinterpret_cast<Part<T>*>(dst), 2 * len);
-}
 
 // What is converted at once: outputs, and taps in whole passes. Each sample is converted once for that many outputs
 // instead of once a tap, and both lie in the first-level cache.

@@ -1,0 +1,26 @@
+// IIR filters that compute in double precision: states, and front ends.
+#include "recursive/psiir_filter.h"
+#include "recursive/psiir_names.h"
+
+using namespace tarn;
+
+TARN_DEFINE_IIR_BUILDERS(64f)
+TARN_DEFINE_IIR_BUILDERS(64fc)
+
+TARN_DEFINE_IIR_STATE(, 64f, Tarn64f)
+TARN_DEFINE_IIR_STATE(, 64fc, Tarn64fc)
+TARN_DEFINE_IIR_STATE(64f, 32f, Tarn64f)
+TARN_DEFINE_IIR_STATE(64fc, 32fc, Tarn64fc)
+TARN_DEFINE_IIR_STATE(64f, 32s, Tarn64f)
+TARN_DEFINE_IIR_STATE(64fc, 32sc, Tarn64fc)
+TARN_DEFINE_IIR_STATE(64f, 16s, Tarn64f)
+TARN_DEFINE_IIR_STATE(64fc, 16sc, Tarn64fc)
+
+TARN_DEFINE_IIR_FILTER(_64f, Tarn64f)
+TARN_DEFINE_IIR_FILTER(_64fc, Tarn64fc)
+TARN_DEFINE_IIR_FILTER(64f_32f, Tarn32f)
+TARN_DEFINE_IIR_FILTER(64fc_32fc, Tarn32fc)
+TARN_DEFINE_IIR_FILTER_SFS(64f_32s, Tarn32s)
+TARN_DEFINE_IIR_FILTER_SFS(64fc_32sc, Tarn32sc)
+TARN_DEFINE_IIR_FILTER_SFS(64f_16s, Tarn16s)
+TARN_DEFINE_IIR_FILTER_SFS(64fc_16sc, Tarn16sc)

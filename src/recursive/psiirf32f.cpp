@@ -1,0 +1,26 @@
+// IIR filters that compute in single precision: states, and front ends.
+#include "recursive/psiir_filter.h"
+#include "recursive/psiir_names.h"
+
+using namespace tarn;
+
+TARN_DEFINE_IIR_BUILDERS(32f)
+TARN_DEFINE_IIR_BUILDERS(32fc)
+
+TARN_DEFINE_IIR_STATE(, 32f, Tarn32f)
+TARN_DEFINE_IIR_STATE(, 32fc, Tarn32fc)
+TARN_DEFINE_IIR_STATE(32f, 16s, Tarn32f)
+TARN_DEFINE_IIR_STATE(32fc, 16sc, Tarn32fc)
+TARN_DEFINE_IIR_STATE(32s, 16s32f, Tarn32f)
+TARN_DEFINE_IIR_STATE(32sc, 16sc32fc, Tarn32fc)
+TARN_DEFINE_IIR_INTEGER_STATE(32s, 16s, Tarn32s, Tarn32f, "II09", "II10")
+TARN_DEFINE_IIR_INTEGER_STATE(32sc, 16sc, Tarn32sc, Tarn32fc, "II03", "II04")
+
+TARN_DEFINE_IIR_FILTER(_32f, Tarn32f)
+TARN_DEFINE_IIR_FILTER(_32fc, Tarn32fc)
+TARN_DEFINE_IIR_FILTER_SFS(32f_16s, Tarn16s)
+TARN_DEFINE_IIR_FILTER_SFS(32fc_16sc, Tarn16sc)
+TARN_DEFINE_IIR_FILTER_SFS(32s_16s, Tarn16s)
+TARN_DEFINE_IIR_FILTER_SFS(32sc_16sc, Tarn16sc)
+TARN_DEFINE_IIR_FILTER_SFS(32s_16s32f, Tarn16s)
+TARN_DEFINE_IIR_FILTER_SFS(32sc_16sc32fc, Tarn16sc)
