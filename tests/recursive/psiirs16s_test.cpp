@@ -23,14 +23,13 @@ using Line = std::vector<Tarn32s>;
 
 Tarn32s wrap(long long x) { return static_cast<Tarn32s>(static_cast<std::uint32_t>(static_cast<std::uint64_t>(x))); }
 
-// x 2^-s: rounded down, and one more above a half, or at a half as the rule for ties has it.
+// x 2^-s to the nearest, ties to even or upward: what is added for it wraps, too, and the sum is rounded down.
 Tarn32s roundedShift(Tarn32s x, int s, bool isEven)
 {
     const long long unit = 1LL << s;
-    const long long whole = x >= 0 ? x / unit : -((unit - 1 - static_cast<long long>(x)) / unit);
-    const long long rest = x - whole * unit;
-    const bool up = 2 * rest > unit || (2 * rest == unit && (!isEven || whole % 2 != 0));
-    return wrap(whole + (up ? 1 : 0));
+    const auto down = [=](long long v) { return v >= 0 ? v / unit : -((unit - 1 - v) / unit); };
+    const bool isOdd = down(x) % 2 != 0;
+    return s == 0 ? x : wrap(down(wrap(x + unit / 2 - (isEven && !isOdd ? 1 : 0))));
 }
 
 Tarn16s clamped(Tarn32s y) { return static_cast<Tarn16s>(std::clamp(y, -32768, 32767)); }
