@@ -6,7 +6,7 @@
 namespace tarn::test {
 namespace {
 
-constexpr int samples = 4000;
+constexpr int samples = 1200;
 
 struct Errors {
     iir::Wide blocks, singly;
@@ -57,8 +57,8 @@ void expectSoundBlocks()
         }
     }
     // Both roads are taken, each by many designs.
-    EXPECT_LT(50, byTables);
-    EXPECT_LT(50, singly);
+    EXPECT_LT(40, byTables);
+    EXPECT_LT(40, singly);
 }
 
 TEST(IirDesignsTest, BlocksAreAsGoodAsSamplesInSinglePrecision) { expectSoundBlocks<IirTail32f>(); }
