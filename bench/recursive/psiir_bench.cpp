@@ -18,6 +18,13 @@ namespace {
 
 constexpr int samples = 4096;
 
+template <class T>
+T one(T)
+{
+    return 1;
+}
+Tarn32fc one(Tarn32fc) { return {1, 0}; }
+
 // A decaying filter of an order: b0..bN, then a0..aN, with every pole at 0.3 or so from the origin, and far from where
 // looking ahead would amplify rounding.
 template <class T>
@@ -25,7 +32,7 @@ std::vector<T> orderTaps(int order)
 {
     std::vector<T> taps;
     for (int half = 0; half < 2; ++half) {
-        T tap = {1};
+        T tap = one(T{});
         for (int k = 0; k <= order; ++k) {
             taps.push_back(tap);
             if constexpr (requires { tap.re; })

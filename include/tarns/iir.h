@@ -18,8 +18,8 @@ extern "C" {
     knows it from its taps, and blocks go sample by sample, too.
 
     NaN and infinite values pass through as they are, and stay in the recursion until the delay line is set. A filter
-    whose input has ended decays into denormal numbers, at the cost that the processor takes for them;
-    tarnSetFlushToZero() and tarnSetDenormAreZeros() avoid it, and are the caller's to set.
+    whose input has ended decays into denormal numbers, which take many processors fifty times as long. MXCSR is the
+    caller's: with flush-to-zero and denormals-are-zero set in it they cost nothing.
     @{ */
 
 /** Filters a block: y[n] = sum of b[k] x[n-k] - sum of a[k] y[n-k], or a cascade of such sections.
