@@ -1,5 +1,5 @@
-// Watches malloc() and free() under a call of the library, and refuses memory on demand. Defines both, so that it is
-// included in one file of a test program only.
+// Watches malloc() and free() under a call of the library, and refuses memory on demand. A program that asks whether
+// it can gets both from memory_watch.cpp, a sanitized one from unwatched/memory_watch.cpp.
 //
 //     MemoryWatch watch(1);                        // one allocation succeeds, the next ones fail
 //     const TarnStatus status = tarnsFIRGenBandpass_64f(...);
@@ -21,14 +21,10 @@ struct MemoryWatched {
     int freed = 0;
     std::size_t largest = 0;
 };
-inline MemoryWatched memoryWatched;
+extern MemoryWatched memoryWatched;
 
 /// False where the sanitizer owns malloc(): then nothing is refused or counted.
-#if defined(__SANITIZE_ADDRESS__)
-inline constexpr bool canRefuseMemory = false;
-#else
-inline constexpr bool canRefuseMemory = true;
-#endif
+extern const bool canRefuseMemory;
 
 class MemoryWatch {
 public:
@@ -44,30 +40,3 @@ public:
 };
 
 } // namespace tarn::test
-
-#if !defined(__SANITIZE_ADDRESS__)
-// Definitions in the executable come before the C library's, for the shared object too.
-extern "C" void* __libc_malloc(std::size_t size);
-extern "C" void __libc_free(void* block);
-
-extern "C" void* malloc(std::size_t size) noexcept
-{
-    auto& watched = tarn::test::memoryWatched;
-    if (watched.armed && watched.allocated >= watched.allowed)
-        return nullptr;
-    void* const block = __libc_malloc(size);
-    if (watched.armed && block != nullptr) {
-        ++watched.allocated;
-        watched.largest = watched.largest < size ? size : watched.largest;
-    }
-    return block;
-}
-
-extern "C" void free(void* block) noexcept
-{
-    auto& watched = tarn::test::memoryWatched;
-    if (watched.armed && block != nullptr)
-        ++watched.freed;
-    __libc_free(block);
-}
-#endif
