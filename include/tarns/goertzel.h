@@ -69,8 +69,8 @@ TARN_API TarnStatus tarnsGoertz_16sc_Sfs(const Tarn16sc* pSrc, int len, Tarn16sc
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1; tarnStsRelFreqErr for
             a frequency out of range or NaN */
 ///@{
-TARN_API TarnStatus tarnsGoertzTwo_32fc(const Tarn32fc* pSrc, int len, Tarn32fc pVal[2], const Tarn32f rFreq[2]);
-TARN_API TarnStatus tarnsGoertzTwo_64fc(const Tarn64fc* pSrc, int len, Tarn64fc pVal[2], const Tarn64f rFreq[2]);
+TARN_API TarnStatus tarnsGoertzTwo_32fc(const Tarn32fc* pSrc, int len, Tarn32fc* pVal, const Tarn32f* rFreq);
+TARN_API TarnStatus tarnsGoertzTwo_64fc(const Tarn64fc* pSrc, int len, Tarn64fc* pVal, const Tarn64f* rFreq);
 ///@}
 
 /** Two bins of a vector of complex 16-bit integers in one pass, scaled and rounded as tarnsGoertz_16sc_Sfs() does it.
@@ -82,7 +82,7 @@ TARN_API TarnStatus tarnsGoertzTwo_64fc(const Tarn64fc* pSrc, int len, Tarn64fc 
     @param scaleFactor the bins are scaled by 2^-scaleFactor, any integer
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1; tarnStsRelFreqErr for
             a frequency out of range or NaN */
-TARN_API TarnStatus tarnsGoertzTwo_16sc_Sfs(const Tarn16sc* pSrc, int len, Tarn16sc pVal[2], const Tarn32f rFreq[2],
+TARN_API TarnStatus tarnsGoertzTwo_16sc_Sfs(const Tarn16sc* pSrc, int len, Tarn16sc* pVal, const Tarn32f* rFreq,
                                             int scaleFactor);
 /** @} */
 

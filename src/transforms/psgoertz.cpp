@@ -76,7 +76,7 @@ TarnStatus scaledBins(Kernel<T, Tarn32fc> kernel, const T* pSrc, int len, Tarn16
         return status != tarnStsNoErr ? status : scaledBins<1>(KERNEL, pSrc, len, pVal, &rFreq, scaleFactor);  \
     }
 #define TARN_GOERTZEL_TWO(TAG, T, REAL)                                                                       \
-    TarnStatus tarnsGoertzTwo_##TAG(const T* pSrc, int len, T pVal[2], const REAL rFreq[2])                   \
+    TarnStatus tarnsGoertzTwo_##TAG(const T* pSrc, int len, T* pVal, const REAL* rFreq)                       \
     {                                                                                                         \
         const TarnStatus status = check(len, pSrc, pVal, rFreq);                                              \
         return status != tarnStsNoErr ? status : bins<2>(ownps_dkGoertzTwo_PX_##TAG, pSrc, len, pVal, rFreq); \
@@ -90,8 +90,7 @@ TARN_GOERTZEL_SCALED(16sc, Tarn16sc, ownps_dkGoertz_PX_16sc)
 TARN_GOERTZEL_TWO(32fc, Tarn32fc, Tarn32f)
 TARN_GOERTZEL_TWO(64fc, Tarn64fc, Tarn64f)
 
-TarnStatus tarnsGoertzTwo_16sc_Sfs(const Tarn16sc* pSrc, int len, Tarn16sc pVal[2], const Tarn32f rFreq[2],
-                                   int scaleFactor)
+TarnStatus tarnsGoertzTwo_16sc_Sfs(const Tarn16sc* pSrc, int len, Tarn16sc* pVal, const Tarn32f* rFreq, int scaleFactor)
 {
     const TarnStatus status = check(len, pSrc, pVal, rFreq);
     return status != tarnStsNoErr ? status

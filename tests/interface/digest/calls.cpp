@@ -39,6 +39,12 @@ bool isObject(const Argument& argument)
     return argument.depth > 0 && !elementOf(argument.type) && has(argument.type, "Tarns");
 }
 
+// Two functions answer with an error whatever they did.
+bool refusesItsOwn(const std::string& name)
+{
+    return name == "tarnsIIRSetTaps32s_16s" || name == "tarnsIIRSetTaps32sc_16sc";
+}
+
 struct Object {
     std::string type;
     void* address = nullptr;
@@ -185,6 +191,8 @@ void Calling::number(const Argument& argument, Slot& slot)
             count = std::max(count, (std::size_t{1} << value) + 2);
         else if (argument.name == "length") // of a transform, whose spectrum may have two reals more
             count = std::max(count, static_cast<std::size_t>(value) + 2);
+        else if (argument.name == "numBq") // with six taps each
+            count = std::max(count, static_cast<std::size_t>(6 * std::max(value, 1)));
         else if (isLength(argument.name) || has(argument.name, "Len"))
             count = std::max(count, static_cast<std::size_t>(value));
         else if (argument.name == "factor" || argument.name == "nChannels")
@@ -346,7 +354,7 @@ void Calling::probe(Hash& hash)
 {
     if (made)
         probeOne(*made, hash);
-    if (status < 0)
+    if (status < 0 && !refusesItsOwn(function.name))
         return;
     for (const Object& touched : used)
         probeOne(touched, hash);
@@ -375,7 +383,7 @@ Summary callOften(const FrontEnd& function)
     } catch (const std::runtime_error& error) {
         summary.fault = error.what();
     }
-    if (summary.fault.empty() && done < callsOfEach / 8)
+    if (summary.fault.empty() && done < callsOfEach / 10 && !refusesItsOwn(function.name))
         summary.fault = "only " + std::to_string(done) + " of " + std::to_string(callsOfEach) + " calls did anything";
     summary.hash = hash.get();
     return summary;

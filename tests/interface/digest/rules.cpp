@@ -39,6 +39,7 @@ const std::vector<int>* integersFor(const std::string& name)
         {"length", range(1, 40, {45, 49, 60, 64, 101, 121, 151, 181, 202, 302, 360, 512, 1000, 2025, 2187})},
         {"lowLag", range(-12, 12, {-40, -100, -300, -900, 30, 64, 200, 600, -1000000})},
         {"nChannels", range(1, 5)},
+        {"numBq", range(1, 6, {0})},
         {"order", range(0, 11, {0, 1, 2, 3, 4, 5, 6, 7, 8, 12, 13, 15, 17})},
         {"relOp", range(0, 5, {0, 4})},
         {"rndMode", {0, 1, 0, 1, 2}},
