@@ -37,6 +37,7 @@
 #include "frame/simd_pack.h"
 #include "frame/simd_parts.h"
 #include "frame/simd_round.h"
+#include "frame/simd_sign.h"
 #include "frame/two_arrays.h"
 #include "frame/walk.h"
 #include "frame/walk_groups.h"

@@ -187,8 +187,10 @@ void Calling::number(const Argument& argument, Slot& slot)
         slot.put(value);
         if (argument.name == "src2Len") // results may be as long as both vectors
             count += static_cast<std::size_t>(value);
-        else if (argument.name == "order")
+        else if (argument.name == "order" && has(function.name, "FFT"))
             count = std::max(count, (std::size_t{1} << value) + 2);
+        else if (argument.name == "order") // of a filter: taps on either side
+            count = std::max(count, 2 * static_cast<std::size_t>(value) + 2);
         else if (argument.name == "length") // of a transform, whose spectrum may have two reals more
             count = std::max(count, static_cast<std::size_t>(value) + 2);
         else if (argument.name == "numBq") // with six taps each
