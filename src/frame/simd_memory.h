@@ -93,7 +93,8 @@ template <typename T>
 TARN_INLINE Pack<T, 4> loadPairTwice(const T* p)
 {
     if constexpr (isSingle<T>) {
-        return {_mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)))};
+        const __m128d pair = _mm_castsi128_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))); // at any address
+        return {_mm_castpd_ps(_mm_unpacklo_pd(pair, pair))};
     } else {
         const auto pair = loadPack<2>(p);
         return {pair, pair};
@@ -103,7 +104,7 @@ template <typename T>
 TARN_INLINE Pack<T, 4> loadTwoPairs(const T* p, const T* q)
 {
     if constexpr (isSingle<T>) {
-        const __m128d first = _mm_load_sd(reinterpret_cast<const double*>(p));
+        const __m128d first = _mm_castsi128_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
         return {_mm_castpd_ps(_mm_loadh_pd(first, reinterpret_cast<const double*>(q)))};
     } else {
         return {loadPack<2>(p), loadPack<2>(q)};
