@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <thread>
 
 namespace tarn::test {
 namespace {
@@ -139,19 +138,7 @@ TYPED_TEST(Fft, PartsMayBeInPlaceEachForItself)
             continue;
         for (int order : {0, 1, 2, 3, 4, 5, 8, 13, isSinglePrecision<T> ? 17 : 15}) {
             const TransformSpec spec(transform.kind, order, TARN_FFT_NODIV_BY_ANY);
-            const auto src = inputFor(transform, order);
-            const auto expected = run(transform, src, spec, order);
-            for (std::size_t inPlace : {std::size_t{0}, std::size_t{1}}) {
-                Arrays<T> from = src;
-                std::vector<T> other(src[0].size());
-                const T* sources[] = {from[0].data(), from[1].data()};
-                T* destinations[] = {other.data(), other.data()};
-                destinations[inPlace] = from[inPlace].data();
-                ASSERT_EQ(tarnStsNoErr, transform.run(sources, destinations, spec.get(), nullptr));
-                EXPECT_EQ(expected[inPlace], from[inPlace]) << transform.name << " order " << order;
-                EXPECT_EQ(expected[1 - inPlace], other) << transform.name << " order " << order;
-                EXPECT_EQ(src[1 - inPlace], from[1 - inPlace]) << "the source has changed";
-            }
+            expectPartsInPlace(transform, spec, order);
         }
     }
 }
@@ -234,20 +221,7 @@ TYPED_TEST(Fft, ThreadsShareAnObject)
     for (const TransformCase<T>& transform : transformCases<T>())
         for (int order : {3, 8, 13, 17}) {
             const TransformSpec spec(transform.kind, order, TARN_FFT_DIV_BY_SQRTN);
-            const auto src = inputFor(transform, order);
-            const auto expected = run(transform, src, spec, order);
-            std::vector<Arrays<T>> results(4);
-            std::vector<std::thread> threads;
-            for (std::size_t i = 0; i < results.size(); ++i)
-                threads.emplace_back([&, i] {
-                    for (int round = 0; round < 3; ++round)
-                        results[i] = runAt(transform, src, spec, order,
-                                           {0, 0, false, i % 2 == 0 ? Places::Buffer::null : Places::Buffer::odd});
-                });
-            for (std::thread& thread : threads)
-                thread.join();
-            for (const auto& result : results)
-                EXPECT_EQ(expected, result) << transform.name << " order " << order;
+            expectThreadsAgree(transform, spec, order);
         }
 }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <thread>
 
 namespace tarn::test {
 
@@ -102,17 +103,58 @@ Arrays<T> runAt(const TransformCase<T>& transform, const Arrays<T>& src, const T
     return dst;
 }
 
+template <class T>
+void expectPartsInPlace(const TransformCase<T>& transform, const TransformSpec& spec, int order)
+{
+    const auto src = inputFor(transform, order);
+    const auto expected = run(transform, src, spec, order);
+    for (std::size_t inPlace : {std::size_t{0}, std::size_t{1}}) {
+        Arrays<T> from = src;
+        std::vector<T> other(src[0].size());
+        const T* sources[] = {from[0].data(), from[1].data()};
+        T* destinations[] = {other.data(), other.data()};
+        destinations[inPlace] = from[inPlace].data();
+        ASSERT_EQ(tarnStsNoErr, transform.run(sources, destinations, spec.get(), nullptr));
+        EXPECT_EQ(expected[inPlace], from[inPlace]) << transform.name << " of " << order;
+        EXPECT_EQ(expected[1 - inPlace], other) << transform.name << " of " << order;
+        EXPECT_EQ(src[1 - inPlace], from[1 - inPlace]) << "the source has changed";
+    }
+}
+
+template <class T>
+void expectThreadsAgree(const TransformCase<T>& transform, const TransformSpec& spec, int order)
+{
+    const auto src = inputFor(transform, order);
+    const auto expected = run(transform, src, spec, order);
+    std::vector<Arrays<T>> results(4);
+    std::vector<std::thread> threads;
+    for (std::size_t i = 0; i < results.size(); ++i)
+        threads.emplace_back([&, i] {
+            for (int round = 0; round < 3; ++round)
+                results[i] = runAt(transform, src, spec, order,
+                                   {0, 0, false, i % 2 == 0 ? Places::Buffer::null : Places::Buffer::odd});
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    for (const auto& result : results)
+        EXPECT_EQ(expected, result) << transform.name << " of " << order;
+}
+
 template std::vector<Tarn32f> signal<Tarn32f>(std::size_t, unsigned);
 template Arrays<Tarn32f> inputFor(const TransformCase<Tarn32f>&, int);
 template Arrays<Tarn32f> run(const TransformCase<Tarn32f>&, const Arrays<Tarn32f>&, const TransformSpec&, int);
 template long double relativeError(const Arrays<long double>&, const Arrays<Tarn32f>&, long double);
 template Arrays<Tarn32f> runAt(const TransformCase<Tarn32f>&, const Arrays<Tarn32f>&, const TransformSpec&, int,
                                const Places&);
+template void expectPartsInPlace(const TransformCase<Tarn32f>&, const TransformSpec&, int);
+template void expectThreadsAgree(const TransformCase<Tarn32f>&, const TransformSpec&, int);
 template std::vector<Tarn64f> signal<Tarn64f>(std::size_t, unsigned);
 template Arrays<Tarn64f> inputFor(const TransformCase<Tarn64f>&, int);
 template Arrays<Tarn64f> run(const TransformCase<Tarn64f>&, const Arrays<Tarn64f>&, const TransformSpec&, int);
 template long double relativeError(const Arrays<long double>&, const Arrays<Tarn64f>&, long double);
 template Arrays<Tarn64f> runAt(const TransformCase<Tarn64f>&, const Arrays<Tarn64f>&, const TransformSpec&, int,
                                const Places&);
+template void expectPartsInPlace(const TransformCase<Tarn64f>&, const TransformSpec&, int);
+template void expectThreadsAgree(const TransformCase<Tarn64f>&, const TransformSpec&, int);
 
 } // namespace tarn::test

@@ -33,4 +33,12 @@ template <class T>
 Arrays<T> runAt(const TransformCase<T>& transform, const Arrays<T>& src, const TransformSpec& spec, int order,
                 const Places& places);
 
+/// Transforms of two arrays into two others: each part may take the place of its source alone.
+template <class T>
+void expectPartsInPlace(const TransformCase<T>& transform, const TransformSpec& spec, int order);
+
+/// Several threads at once, each with arrays of its own, get what one alone gets.
+template <class T>
+void expectThreadsAgree(const TransformCase<T>& transform, const TransformSpec& spec, int order);
+
 } // namespace tarn::test

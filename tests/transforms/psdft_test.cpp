@@ -9,7 +9,6 @@
 
 #include <array>
 #include <limits>
-#include <thread>
 
 namespace tarn::test {
 namespace {
@@ -222,19 +221,7 @@ TYPED_TEST(Dft, PartsMayBeInPlaceEachForItself)
             continue;
         for (int length : {1, 3, 4, 5, 6, 9, 12, 16, 30, 101, 105, 151, 1000, 2187}) {
             const TransformSpec spec(transform.kind, length, TARN_FFT_NODIV_BY_ANY);
-            const auto src = inputFor(transform, length);
-            const auto expected = run(transform, src, spec, length);
-            for (std::size_t inPlace : {std::size_t{0}, std::size_t{1}}) {
-                Arrays<T> from = src;
-                std::vector<T> other(src[0].size());
-                const T* sources[] = {from[0].data(), from[1].data()};
-                T* destinations[] = {other.data(), other.data()};
-                destinations[inPlace] = from[inPlace].data();
-                ASSERT_EQ(tarnStsNoErr, transform.run(sources, destinations, spec.get(), nullptr));
-                EXPECT_EQ(expected[inPlace], from[inPlace]) << transform.name << " length " << length;
-                EXPECT_EQ(expected[1 - inPlace], other) << transform.name << " length " << length;
-                EXPECT_EQ(src[1 - inPlace], from[1 - inPlace]) << "the source has changed";
-            }
+            expectPartsInPlace(transform, spec, length);
         }
     }
 }
@@ -306,16 +293,7 @@ TYPED_TEST(Dft, ThreadsShareAnObject)
     for (const auto& transform : anyTransformCases<T>())
         for (int length : {3, 60, 101, 181, 302, 2187}) {
             const TransformSpec spec(transform.kind, length, TARN_FFT_DIV_BY_SQRTN);
-            const auto src = inputFor(transform, length);
-            const auto expected = run(transform, src, spec, length);
-            std::vector<Arrays<T>> results(3);
-            std::vector<std::thread> threads;
-            for (std::size_t i = 0; i < results.size(); ++i)
-                threads.emplace_back([&, i] { results[i] = run(transform, src, spec, length); });
-            for (std::thread& thread : threads)
-                thread.join();
-            for (const auto& result : results)
-                EXPECT_EQ(expected, result) << transform.name << " length " << length;
+            expectThreadsAgree(transform, spec, length);
         }
 }
 
