@@ -1,4 +1,4 @@
-/* Names the keys of a dialled number: raw 16-bit PCM from standard input, a line of keys to standard output. Each key
+/* Names the keys of a dialled number: sound from standard input, a line of keys to standard output. Each key
    is a pair of tones, one of a row and one of a column; Goertzel's recurrence measures all eight in overlapping blocks.
  */
 #include <errno.h>
@@ -7,18 +7,10 @@
 #include <stdlib.h>
 #include <string.h>
 
-#include <tarns.h>
+#include "program.h"
+#include "sound.h"
 
 enum { rows = 4, columns = 4, tones = rows + columns, longestBlock = 8192 };
-
-static const char usage[] = "usage: dtmf [OPTION]... <IN\n"
-                            "\n"
-                            "IN is headerless signed 16-bit PCM of one channel in the machine's byte order.\n"
-                            "\n"
-                            "  --rate HZ      samples per second, 4000 to 192000 (8000)\n"
-                            "  --levels FILE  writes the levels of the tones in dB of full scale to FILE, a line a\n"
-                            "                 block: seconds, the four rows, the four columns, the key or -\n"
-                            "  --help         shows this text\n";
 
 static const double hertz[tones] = {697, 770, 852, 941, 1209, 1336, 1477, 1633};
 static const char keys[rows][columns + 1] = {"123A", "456B", "789C", "*0#D"};
@@ -39,12 +31,6 @@ typedef struct {
     double energy;    /* of a block of power 1 */
 } Decoder;
 
-static int fail(const char* what, const char* reason)
-{
-    fprintf(stderr, "dtmf: %s: %s\n", what, reason);
-    return 0;
-}
-
 static int makeDecoder(double rate, Decoder* decoder)
 {
     const int len = 2 * (int)(blockSeconds / 2 * rate + 0.5);
@@ -63,7 +49,7 @@ static int makeDecoder(double rate, Decoder* decoder)
         status = tarnsNorm_L2_32f(decoder->weights, len, &root);
     decoder->amplitude = 2 / (double)sum / 32768;
     decoder->energy = (double)root * (double)root * 32768 * 32768;
-    return status == tarnStsNoErr ? 1 : fail("the window", tarnGetStatusString(status));
+    return succeeded("the window", status);
 }
 
 static int strongest(const double* power, int count)
@@ -119,7 +105,7 @@ static int measure(const Decoder* decoder, const Tarn16s* block, double* power, 
     if (status == tarnStsNoErr)
         status = tarnsNorm_L2_32f(weighted, len, &root);
     *all = (double)root * (double)root / decoder->energy;
-    return status == tarnStsNoErr ? 1 : fail("measuring", tarnGetStatusString(status));
+    return succeeded("measuring", status);
 }
 
 static double decibels(double power) { return 10 * log10(power > 5e-13 ? 2 * power : 1e-12); }
@@ -138,16 +124,17 @@ static int writeLevels(const Decoder* decoder, double seconds, const double* pow
 
 /* Reads half a block at a time, wherever the stream is cut. A key counts once two blocks in a row agree on it, and
    again only after they have agreed on something else, or on silence. */
-static int decode(const Decoder* decoder)
+static int decode(const Decoder* decoder, Sound* sound)
 {
     static Tarn16s block[longestBlock];
-    const size_t half = (size_t)decoder->half;
+    const int half = decoder->half;
     char last = 0;
     char pressed = 0;
+    int heard = 0;
     double samples = 0;
-    size_t bytes;
+    int got;
 
-    while ((bytes = fread(block + half, 1, half * sizeof block[0], stdin)) == half * sizeof block[0]) {
+    while ((got = readSound(sound, block + half, half)) == half) {
         double power[tones];
         double all;
         char key;
@@ -161,38 +148,33 @@ static int decode(const Decoder* decoder)
                 putchar(key);
         }
         last = key;
+        heard = heard || all > 0;
         if (!writeLevels(decoder, samples / decoder->rate, power, key))
             return 0;
-        samples += decoder->half;
-        memcpy(block, block + half, half * sizeof block[0]);
+        samples += half;
+        memcpy(block, block + half, (size_t)half * sizeof block[0]);
     }
     putchar('\n');
-    if (ferror(stdin))
-        return fail("input", strerror(errno));
-    if (bytes % sizeof block[0] != 0)
-        return fail("input", "not 16-bit PCM: its last sample is cut in two");
-    return fflush(stdout) == 0 ? 1 : fail("output", strerror(errno));
+    if (got < 0)
+        return 0;
+    return (heard || samples == 0 || fail("input", "silence")) && outputArrived();
 }
 
-static int parseOptions(int argc, char** argv, double* rate, const char** levels)
+static void parseOptions(int argc, char** argv, double* rate, const char** levels)
 {
-    int i;
+    const Option options[] = {
+        {numberOption, "--rate", "HZ", SOUND_RATE_HELP ", 4000 to 192000", rate, 4000, 192000, NULL},
+        {textOption, "--levels", "FILE",
+         "writes the levels of the tones in dB of full scale to FILE, a line a\n"
+         "block: seconds, the four rows, the four columns, the key or -",
+         levels, 0, 0, NULL},
+    };
+    const Program program = {
+        "dtmf",  "[OPTION VALUE]... <RECORDING",     "Names the keys of a dialled number.\n" SOUND_HELP,
+        options, sizeof options / sizeof options[0], 0,
+        0};
 
-    for (i = 1; i < argc; i += 2) {
-        char* end;
-        if (i + 1 == argc)
-            return fail(argv[i], "a value is missing, or this is no option");
-        if (strcmp(argv[i], "--levels") == 0) {
-            *levels = argv[i + 1];
-        } else if (strcmp(argv[i], "--rate") == 0) {
-            *rate = strtod(argv[i + 1], &end);
-            if (end == argv[i + 1] || *end != '\0' || !(*rate >= 4000 && *rate <= 192000))
-                return fail(argv[i], "a number from 4000 to 192000 is wanted");
-        } else {
-            return fail(argv[i], "no such option");
-        }
-    }
-    return 1;
+    parseArguments(&program, argc, argv, NULL);
 }
 
 int main(int argc, char** argv)
@@ -200,18 +182,18 @@ int main(int argc, char** argv)
     static Decoder decoder;
     const char* levels = NULL;
     double rate = 8000;
+    Sound* sound;
     int ok;
 
-    if (argc == 2 && strcmp(argv[1], "--help") == 0) {
-        fputs(usage, stdout);
-        return EXIT_SUCCESS;
-    }
-    if (!parseOptions(argc, argv, &rate, &levels) || !makeDecoder(rate, &decoder))
-        return EXIT_FAILURE;
-    if (levels != NULL && (decoder.levels = fopen(levels, "w")) == NULL)
-        return fail(levels, strerror(errno)) ? EXIT_SUCCESS : EXIT_FAILURE;
-    ok = decode(&decoder);
+    parseOptions(argc, argv, &rate, &levels);
+    sound = openSound(NULL, &rate);
+    ok = sound != NULL && ((rate >= 4000 && rate <= 192000) || fail("input", "4000 to 192000 samples a second"));
+    ok = ok && makeDecoder(rate, &decoder);
+    if (ok && levels != NULL && (decoder.levels = fopen(levels, "w")) == NULL)
+        ok = fail(levels, strerror(errno));
+    ok = ok && decode(&decoder, sound);
     if (decoder.levels != NULL && fclose(decoder.levels) != 0)
         ok = fail(levels, strerror(errno));
+    closeSound(sound);
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,12 +1,11 @@
 /* Finds the echo in a recording, the delay of one recording after another, or the pitch of a voice, and draws the
-   correlation in which it shows. A recording is raw 16-bit PCM. */
-#include <errno.h>
+   correlation in which it shows. */
 #include <math.h>
 #include <stdio.h>
 #include <stdlib.h>
-#include <string.h>
 
-#include <tarns.h>
+#include "program.h"
+#include "sound.h"
 
 enum { columns = 72, rows = 12 };
 
@@ -31,71 +30,30 @@ typedef struct {
     int count;
 } Lags;
 
-static const char usage[] = "usage: echo [OPTION]... <RECORDING\n"
-                            "\n"
-                            "Finds the echo in a recording: headerless signed 16-bit PCM of one channel in the\n"
-                            "machine's byte order.\n"
-                            "\n"
-                            "  --rate HZ         samples per second (48000)\n"
-                            "  --from MS         shortest delay in milliseconds (50)\n"
-                            "  --to MS           longest delay (1000)\n"
-                            "  --reference FILE  finds the delay of the recording after this one instead\n"
-                            "  --voice           finds the pitch of a voice instead; delays are 2 to 16 ms then\n"
-                            "  --table           prints delays in milliseconds and the correlation, no drawing\n"
-                            "  --help            shows this text\n";
-
-static int fail(const char* what, const char* reason)
-{
-    fprintf(stderr, "echo: %s: %s\n", what, reason);
-    return 0;
-}
-
-static int succeeded(const char* what, TarnStatus status)
-{
-    return status == tarnStsNoErr || fail(what, tarnGetStatusString(status));
-}
-
 /* -- Options ------------------------------------------------------------------------------------------------------- */
 
-static int parseNumber(const char* option, const char* text, double least, double* value)
+static void parseOptions(int argc, char** argv, Options* o)
 {
-    char* end;
+    const Option options[] = {
+        {numberOption, "--rate", "HZ", SOUND_RATE_HELP, &o->rate, 1, 1e6, NULL},
+        {numberOption, "--from", "MS", "shortest delay in milliseconds, 50 when not given", &o->from, 0, 1e6, NULL},
+        {numberOption, "--to", "MS", "longest delay, 1000 when not given", &o->to, 0, 1e6, NULL},
+        {textOption, "--reference", "FILE", "finds the delay of the recording after this one instead", &o->reference, 0,
+         0, NULL},
+        {flagOption, "--voice", NULL, "finds the pitch of a voice instead; delays are 2 to 16 ms then", &o->voice, 0, 0,
+         NULL},
+        {flagOption, "--table", NULL, "prints delays in milliseconds and the correlation, no drawing", &o->table, 0, 0,
+         NULL},
+    };
+    const Program program = {"echo",  "[OPTION]... <RECORDING",           "Finds the echo in a recording.\n" SOUND_HELP,
+                             options, sizeof options / sizeof options[0], 0,
+                             0};
 
-    errno = 0;
-    *value = strtod(text, &end);
-    if (end == text || *end != '\0' || errno != 0 || !(*value >= least && *value <= 1e6))
-        return fail(option, least > 0 ? "a number from 1 on is wanted" : "a number from 0 on is wanted");
-    return 1;
+    parseArguments(&program, argc, argv, NULL);
 }
 
-static int parseOptions(int argc, char** argv, Options* options)
+static int checkOptions(Options* options)
 {
-    int i;
-
-    for (i = 1; i < argc; ++i) {
-        const char* const option = argv[i];
-
-        if (strcmp(option, "--voice") == 0) {
-            options->voice = 1;
-        } else if (strcmp(option, "--table") == 0) {
-            options->table = 1;
-        } else if (i + 1 == argc) {
-            return fail(option, "a value is missing, or this is no option");
-        } else if (strcmp(option, "--reference") == 0) {
-            options->reference = argv[++i];
-        } else if (strcmp(option, "--rate") == 0) {
-            if (!parseNumber(option, argv[++i], 1, &options->rate))
-                return 0;
-        } else if (strcmp(option, "--from") == 0) {
-            if (!parseNumber(option, argv[++i], 0, &options->from))
-                return 0;
-        } else if (strcmp(option, "--to") == 0) {
-            if (!parseNumber(option, argv[++i], 0, &options->to))
-                return 0;
-        } else {
-            return fail(option, "no such option");
-        }
-    }
     if (options->voice && options->reference != NULL)
         return fail("--voice", "not together with --reference");
     if (options->from < 0)
@@ -107,57 +65,24 @@ static int parseOptions(int argc, char** argv, Options* options)
 
 /* -- Input --------------------------------------------------------------------------------------------------------- */
 
-/* All of a file, its mean taken away: a constant is alike at all delays. */
-static int readRecording(FILE* file, const char* name, Recording* recording)
+/* All of a sound, its mean taken away: a constant is alike at all delays. */
+static int readRecording(const char* path, double* rate, Recording* recording)
 {
-    Tarn16s* integers = NULL;
-    size_t bytes = 0;
-    size_t room = 0;
+    Sound* const sound = openSound(path, rate);
+    Tarn16s* const integers = sound != NULL ? readWholeSound(sound, &recording->len) : NULL;
     Tarn32f mean;
     int ok = 0;
 
-    for (;;) {
-        size_t got;
-
-        if (bytes == room) {
-            Tarn16s* const more = room < 0x40000000 ? realloc(integers, room = 2 * room + 65536) : NULL;
-            if (more == NULL) {
-                free(integers);
-                return fail(name, "too long");
-            }
-            integers = more;
-        }
-        got = fread((char*)integers + bytes, 1, room - bytes, file);
-        if (got == 0)
-            break;
-        bytes += got;
-    }
-    recording->len = (int)(bytes / sizeof *integers);
-    if (ferror(file))
-        fail(name, strerror(errno));
-    else if (bytes % sizeof *integers != 0)
-        fail(name, "not 16-bit PCM: its last sample is cut in two");
-    else if (recording->len == 0)
-        fail(name, "nothing to hear");
-    else if ((recording->samples = tarnsMalloc_32f(recording->len)) == NULL)
-        fail(name, "too long");
+    closeSound(sound);
+    if (integers == NULL)
+        return 0;
+    if ((recording->samples = tarnsMalloc_32f(recording->len)) == NULL)
+        fail("input", "too long");
     else
         ok = succeeded("conversion", tarnsConvert_16s32f(integers, recording->samples, recording->len)) &&
              succeeded("the mean", tarnsMean_32f(recording->samples, recording->len, &mean, tarnAlgHintNone)) &&
              succeeded("the mean", tarnsSubC_32f_I(mean, recording->samples, recording->len));
-    free(integers);
-    return ok;
-}
-
-static int readFile(const char* name, Recording* recording)
-{
-    FILE* const file = fopen(name, "rb");
-    int ok;
-
-    if (file == NULL)
-        return fail(name, strerror(errno));
-    ok = readRecording(file, name, recording);
-    fclose(file);
+    tarnsFree(integers);
     return ok;
 }
 
@@ -309,11 +234,15 @@ static void draw(const Options* options, const Lags* lags)
            1000 * (lags->first + lags->count - 1) / options->rate);
 }
 
-static int run(const Options* options, Recording* sound, Recording* reference, Lags* lags)
+static int run(Options* options, Recording* sound, Recording* reference, Lags* lags)
 {
-    if (!readRecording(stdin, "input", sound) ||
-        (options->reference != NULL && !readFile(options->reference, reference)))
+    double referenceRate = options->rate;
+
+    if (!checkOptions(options) || !readRecording(NULL, &options->rate, sound) ||
+        (options->reference != NULL && !readRecording(options->reference, &referenceRate, reference)))
         return 0;
+    if (options->reference != NULL && referenceRate != options->rate)
+        return fail(options->reference, "at another rate");
     if (!chooseLags(options, sound->len - 1, lags))
         return 0;
     if (options->reference != NULL ? !correlateWithReference(sound, reference, lags)
@@ -324,7 +253,7 @@ static int run(const Options* options, Recording* sound, Recording* reference, L
         printTable(options, lags);
     else
         draw(options, lags);
-    return fflush(stdout) == 0 || fail("output", strerror(errno));
+    return outputArrived();
 }
 
 int main(int argc, char** argv)
@@ -335,12 +264,7 @@ int main(int argc, char** argv)
     Lags lags = {NULL, 0, 0};
     int ok;
 
-    if (argc == 2 && strcmp(argv[1], "--help") == 0) {
-        fputs(usage, stdout);
-        return EXIT_SUCCESS;
-    }
-    if (!parseOptions(argc, argv, &options))
-        return EXIT_FAILURE;
+    parseOptions(argc, argv, &options);
     ok = run(&options, &sound, &reference, &lags);
     tarnsFree(sound.samples);
     tarnsFree(reference.samples);

@@ -1,115 +1,75 @@
-/* Measures the hum of the mains in a recording: raw PCM in, the levels of the harmonics out. All whole periods of the
+/* Measures the hum of the mains in a recording: sound in, the levels of the harmonics out. All whole periods of the
    mains are added up, so that what does not repeat with them fades, and one transform of exactly that length, 882
    samples at 44100 Hz, puts each harmonic into a bin of its own. */
 #include <errno.h>
-#include <limits.h>
 #include <math.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
-#include <tarns.h>
+#include "program.h"
+#include "sound.h"
 
 enum { maxHarmonics = 100 };
 
 typedef struct {
-    int rate;
+    double rate;
     int mains;
     int count;
     const char* spectrumFile;
 } Options;
 
-static const char usage[] = "usage: hum [OPTION VALUE]... <RECORDING\n"
-                            "\n"
-                            "Lists the harmonics of mains hum in a recording: headerless signed 16-bit PCM in\n"
-                            "the machine's byte order, one channel, on the standard input. Levels are in dB\n"
-                            "below a tone of full scale.\n"
-                            "\n"
-                            "  --rate HZ        samples per second, 44100 when not given; a multiple of the\n"
-                            "                   frequency of the mains\n"
-                            "  --mains HZ       frequency of the mains, 50 when not given\n"
-                            "  --count N        how many harmonics, 1 to 100, 10 when not given\n"
-                            "  --spectrum FILE  writes two spectra to FILE, a line for each bin: frequency in Hz,\n"
-                            "                   level in dB. First that of one period; then, behind two empty\n"
-                            "                   lines, that of as many periods as reach the next power of two.\n"
-                            "  --help           prints this text\n";
-
-static int fail(const char* what, const char* reason)
+static void parseOptions(int argc, char** argv, Options* o)
 {
-    fprintf(stderr, "hum: %s: %s\n", what, reason);
-    return 0;
+    const Option options[] = {
+        {numberOption, "--rate", "HZ", SOUND_RATE_HELP, &o->rate, 1, 1e6, NULL},
+        {wholeOption, "--mains", "HZ", "frequency of the mains, of which the rate is a multiple", &o->mains, 1, 1000,
+         NULL},
+        {wholeOption, "--count", "N", "how many harmonics, 1 to 100", &o->count, 1, maxHarmonics, NULL},
+        {textOption, "--spectrum", "FILE",
+         "writes two spectra to FILE, a line for each bin: frequency in Hz,\n"
+         "level in dB. First that of one period; then, behind two empty\n"
+         "lines, that of as many periods as reach the next power of two",
+         &o->spectrumFile, 0, 0, NULL},
+    };
+    const Program program = {"hum",
+                             "[OPTION VALUE]... <RECORDING",
+                             "Lists the harmonics of mains hum in a recording. Levels are in dB below a tone of full\n"
+                             "scale.\n" SOUND_HELP,
+                             options,
+                             sizeof options / sizeof options[0],
+                             0,
+                             0};
+
+    parseArguments(&program, argc, argv, NULL);
 }
 
-static int succeeded(const char* what, TarnStatus status)
+/* Samples of a period. */
+static int periodOf(const Options* options)
 {
-    return status == tarnStsNoErr || fail(what, tarnGetStatusString(status));
-}
+    const double len = options->rate / options->mains;
 
-static int parseInteger(const char* option, const char* text, int max, int* value)
-{
-    char* end;
-    char reason[80];
-    long number;
-
-    errno = 0;
-    number = strtol(text, &end, 10);
-    if (end == text || *end != '\0' || errno != 0 || number < 1 || number > max) {
-        snprintf(reason, sizeof reason, "must be an integer from 1 to %d", max);
-        return fail(option, reason);
-    }
-    *value = (int)number;
-    return 1;
-}
-
-static int parseOptions(int argc, char** argv, Options* options)
-{
-    int i;
-
-    for (i = 1; i < argc; i += 2) {
-        const char* name = argv[i];
-        const char* value = argv[i + 1];
-        int ok = 1;
-
-        if (value == NULL) {
-            fputs(usage, stderr);
-            return 0;
-        }
-        if (strcmp(name, "--rate") == 0)
-            ok = parseInteger(name, value, 1000000, &options->rate);
-        else if (strcmp(name, "--mains") == 0)
-            ok = parseInteger(name, value, 1000, &options->mains);
-        else if (strcmp(name, "--count") == 0)
-            ok = parseInteger(name, value, maxHarmonics, &options->count);
-        else if (strcmp(name, "--spectrum") == 0)
-            options->spectrumFile = value;
-        else
-            ok = fail(name, "no such option; try --help");
-        if (!ok)
-            return 0;
-    }
-    if (options->rate % options->mains != 0)
-        return fail("--rate", "must be a multiple of the frequency of the mains");
-    return 1;
+    return len == (int)len ? (int)len : fail("--rate", "must be a multiple of the frequency of the mains");
 }
 
 /* Adds up the periods of the recording and leaves their mean. */
-static int readMeanPeriod(Tarn32f* period, int len)
+static int readMeanPeriod(Sound* sound, Tarn32f* period, int len)
 {
     Tarn16s* samples = tarnsMalloc_16s(len);
     Tarn32f* added = tarnsMalloc_32f(len);
     int periods = 0;
+    int got = 0;
     int ok = samples != NULL && added != NULL ? 1 : fail("period", "no memory");
 
     ok = ok && succeeded("period", tarnsZero_32f(period, len));
-    while (ok && fread(samples, sizeof *samples, (size_t)len, stdin) == (size_t)len) {
+    while (ok && (got = readSound(sound, samples, len)) == len) {
         ok = succeeded("period", tarnsConvert_16s32f_Sfs(samples, added, len, 15)) &&
              succeeded("period", tarnsAdd_32f_I(added, period, len));
         periods++;
     }
-    if (ok && ferror(stdin))
-        ok = fail("standard input", strerror(errno));
+    ok = ok && got >= 0;
     if (ok && periods == 0)
-        ok = fail("standard input", "too short: there is not one period of the mains");
+        ok = fail("input", "too short: there is not one period of the mains");
     ok = ok && succeeded("period", tarnsMulC_32f_I(1.0f / (float)periods, period, len));
     tarnsFree(samples);
     tarnsFree(added);
@@ -137,7 +97,7 @@ static double level(const Tarn32f* bins, int bin)
     return 20 * log10(amplitude > silence ? amplitude : silence);
 }
 
-static int writeSpectra(const char* path, const Tarn32f* period, const Tarn32f* bins, int len, int rate)
+static int writeSpectra(const char* path, const Tarn32f* period, const Tarn32f* bins, int len, double rate)
 {
     FILE* file;
     Tarn32f* repeated;
@@ -162,10 +122,10 @@ static int writeSpectra(const char* path, const Tarn32f* period, const Tarn32f* 
         return fail(path, strerror(errno));
     }
     for (i = 0; i <= len / 2; i++)
-        fprintf(file, "%.3f %.2f\n", (double)i * rate / len, level(bins, i));
+        fprintf(file, "%.3f %.2f\n", i * rate / len, level(bins, i));
     fputs("\n\n", file);
     for (i = 0; i <= longer / 2; i++)
-        fprintf(file, "%.3f %.2f\n", (double)i * rate / longer, level(repeated, i));
+        fprintf(file, "%.3f %.2f\n", i * rate / longer, level(repeated, i));
     tarnsFree(repeated);
     failed = ferror(file);
     if (fclose(file) != 0 || failed)
@@ -173,34 +133,43 @@ static int writeSpectra(const char* path, const Tarn32f* period, const Tarn32f* 
     return 1;
 }
 
+static int isSilent(const Tarn32f* period, int len)
+{
+    Tarn32f loudest = 0;
+
+    tarnsNorm_Inf_32f(period, len, &loudest);
+    return !(loudest > 0);
+}
+
 int main(int argc, char** argv)
 {
     Options options = {44100, 50, 10, NULL};
     Tarn32f* period = NULL;
     Tarn32f* bins = NULL;
-    int len;
+    Sound* sound;
+    int len = 0;
     int ok;
 
-    if (argc == 2 && strcmp(argv[1], "--help") == 0) {
-        fputs(usage, stdout);
-        return EXIT_SUCCESS;
+    parseOptions(argc, argv, &options);
+    sound = openSound(NULL, &options.rate);
+    ok = sound != NULL && (len = periodOf(&options)) > 0;
+    if (ok) {
+        period = tarnsMalloc_32f(len);
+        bins = tarnsMalloc_32f(len + 2);
+        ok = period != NULL && bins != NULL ? 1 : fail("period", "no memory");
     }
-    if (!parseOptions(argc, argv, &options))
-        return EXIT_FAILURE;
-    len = options.rate / options.mains;
-    period = tarnsMalloc_32f(len);
-    bins = tarnsMalloc_32f(len + 2);
-    ok = period != NULL && bins != NULL ? 1 : fail("period", "no memory");
-    ok = ok && readMeanPeriod(period, len) && transform(period, bins, len) &&
-         (options.spectrumFile == NULL || writeSpectra(options.spectrumFile, period, bins, len, options.rate));
+    ok = ok && readMeanPeriod(sound, period, len) && transform(period, bins, len) &&
+         (options.spectrumFile == NULL || writeSpectra(options.spectrumFile, period, bins, len, options.rate)) &&
+         (!isSilent(period, len) || fail("input", "silence"));
     if (ok) {
         int m;
 
         for (m = 1; m <= options.count && 2 * m < len; m++)
             printf("%6d Hz %8.2f dB\n", m * options.mains, level(bins, m));
-        ok = fflush(stdout) == 0 || fail("standard output", strerror(errno));
+        ok = outputArrived();
     }
     tarnsFree(period);
     tarnsFree(bins);
+    closeSound(sound);
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }

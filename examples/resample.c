@@ -1,11 +1,10 @@
-/* Changes the sampling rate of a recording: raw 16-bit PCM from standard input to standard output, in blocks, so that a
+/* Changes the sampling rate of a recording, from standard input to standard output, in blocks, so that a
    stream of any length needs no more memory than a short one. The output begins when the input does. */
-#include <errno.h>
-#include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
-#include <tarns.h>
+#include "program.h"
+#include "sound.h"
 
 /* Taps that an output at the lower rate, or a sample there, takes part in; and the window that holds what the filter
    lets through of other bands 100 dB down. Its transition is a twentieth of the lower rate wide and ends at half of it,
@@ -15,7 +14,7 @@ static const double windowShape = 10.06;
 static const double transition = 0.05;
 
 typedef struct {
-    int from;
+    double from;
     int to;
 } Options;
 
@@ -30,53 +29,25 @@ typedef struct {
     Tarn16s* out;
 } Resampler;
 
-static const char usage[] = "usage: resample --from HZ --to HZ <IN >OUT\n"
-                            "\n"
-                            "Changes the sampling rate. IN and OUT are headerless signed 16-bit PCM of one channel in\n"
-                            "the machine's byte order.\n"
-                            "\n"
-                            "  --from HZ      samples per second of IN, 1 to 1000000\n"
-                            "  --to HZ        samples per second of OUT, 1 to 1000000\n"
-                            "  --help         shows this text\n";
-
-static int fail(const char* what, const char* reason)
+static void parseOptions(int argc, char** argv, Options* o)
 {
-    fprintf(stderr, "resample: %s: %s\n", what, reason);
-    return 0;
+    const Option options[] = {
+        {numberOption, "--from", "HZ", SOUND_RATE_HELP ", 1 to 1000000", &o->from, 1, 1e6, NULL},
+        {wholeOption, "--to", "HZ", "samples per second of the output, 1 to 1000000", &o->to, 1, 1e6, NULL},
+    };
+    const Program program = {
+        "resample", "--from HZ --to HZ <RECORDING >RESAMPLED", "Changes the sampling rate.\n" SOUND_HELP,
+        options,    sizeof options / sizeof options[0],        0,
+        0};
+
+    parseArguments(&program, argc, argv, NULL);
 }
 
-static int parseRate(const char* option, const char* text, int* rate)
+static int checkRates(const Options* options)
 {
-    char* end;
-    long value;
-
-    errno = 0;
-    value = strtol(text, &end, 10);
-    if (end == text || *end != '\0' || errno != 0 || value < 1 || value > 1000000)
-        return fail(option, "a whole number from 1 to 1000000 is wanted");
-    *rate = (int)value;
-    return 1;
-}
-
-static int parseOptions(int argc, char** argv, Options* options)
-{
-    int i;
-
-    for (i = 1; i < argc; i += 2) {
-        int* rate = strcmp(argv[i], "--from") == 0 ? &options->from
-                    : strcmp(argv[i], "--to") == 0 ? &options->to
-                                                   : NULL;
-
-        if (rate == NULL)
-            return fail(argv[i], "no such option");
-        if (i + 1 == argc)
-            return fail(argv[i], "a value is missing");
-        if (!parseRate(argv[i], argv[i + 1], rate))
-            return 0;
-    }
     if (options->from == 0 || options->to == 0)
         return fail("the rates", "both are wanted");
-    return 1;
+    return options->from == (int)options->from || fail("the rates", "whole numbers are wanted");
 }
 
 static int commonDivisor(int a, int b)
@@ -114,9 +85,10 @@ static TarnStatus designTaps(Tarn64f* taps, Tarn32f* rounded, int len, int clock
 /* The filter, and the room for a block before and behind it. */
 static int makeResampler(const Options* options, Resampler* r)
 {
-    const int divisor = commonDivisor(options->from, options->to);
+    const int from = (int)options->from;
+    const int divisor = commonDivisor(from, options->to);
     const int up = options->to / divisor;
-    const int down = options->from / divisor;
+    const int down = from / divisor;
     const int clock = up > down ? up : down;
     const int len = clock <= 1000000 / 8 ? tapsPerSample * clock + 1 : 0;
     Tarn64f* taps;
@@ -141,7 +113,7 @@ static int makeResampler(const Options* options, Resampler* r)
     }
     tarnsFree(taps);
     tarnsFree(rounded);
-    return status == tarnStsNoErr ? 1 : fail("the filter", tarnGetStatusString(status));
+    return succeeded("the filter", status);
 }
 
 static void freeResampler(Resampler* r)
@@ -153,7 +125,7 @@ static void freeResampler(Resampler* r)
 }
 
 /* Filters a block, and writes what is neither in front of the output nor behind its end. */
-static int filterBlock(Resampler* r, long long end, long long* position)
+static int filterBlock(Resampler* r, Sound* out, long long end, long long* position)
 {
     const int made = r->iterations * r->up;
     const TarnStatus status = tarnsFIR32f_16s_Sfs(r->in, r->out, r->iterations, r->state, 0);
@@ -161,42 +133,34 @@ static int filterBlock(Resampler* r, long long end, long long* position)
     const long long last = end - *position < made ? end - *position : made;
 
     *position += made;
-    if (status != tarnStsNoErr)
-        return fail("filtering", tarnGetStatusString(status));
-    if (last > first &&
-        fwrite(r->out + first, sizeof *r->out, (size_t)(last - first), stdout) != (size_t)(last - first))
-        return fail("output", strerror(errno));
-    return 1;
+    if (!succeeded("filtering", status))
+        return 0;
+    return last <= first || writeSound(out, r->out + first, (int)(last - first));
 }
 
-/* Filters what is left of standard input, and then as much silence as the filter is late. fread ends within a sample
-   only at the end of the input. */
-static int resampleStream(Resampler* r)
+/* Filters all of a sound, and then as much silence as the filter is late. */
+static int resampleSound(Resampler* r, Sound* in, Sound* out)
 {
-    const size_t wanted = (size_t)r->iterations * (size_t)r->down * sizeof *r->in;
+    const int wanted = r->iterations * r->down;
     long long samples = 0;
     long long position = -r->late;
-    size_t bytes;
+    int got;
 
-    while ((bytes = fread(r->in, 1, wanted, stdin)) == wanted) {
-        samples += (long long)(bytes / sizeof *r->in);
-        if (!filterBlock(r, samples * r->up, &position))
+    while ((got = readSound(in, r->in, wanted)) == wanted) {
+        samples += got;
+        if (!filterBlock(r, out, samples * r->up, &position))
             return 0;
     }
-    if (ferror(stdin))
-        return fail("input", strerror(errno));
-    if (bytes % sizeof *r->in != 0)
-        return fail("input", "not 16-bit PCM: its last sample is cut in two");
-    samples += (long long)(bytes / sizeof *r->in);
-    memset((char*)r->in + bytes, 0, wanted - bytes);
+    if (got < 0)
+        return 0;
+    samples += got;
+    memset(r->in + got, 0, (size_t)(wanted - got) * sizeof *r->in);
     /* As many outputs as fit the time of the input. */
     while (position < (samples * r->up + r->down - 1) / r->down) {
-        if (!filterBlock(r, (samples * r->up + r->down - 1) / r->down, &position))
+        if (!filterBlock(r, out, (samples * r->up + r->down - 1) / r->down, &position))
             return 0;
-        memset(r->in, 0, wanted);
+        memset(r->in, 0, (size_t)wanted * sizeof *r->in);
     }
-    if (fflush(stdout) != 0)
-        return fail("output", strerror(errno));
     return 1;
 }
 
@@ -204,15 +168,16 @@ int main(int argc, char** argv)
 {
     Options options = {0, 0};
     Resampler resampler = {NULL, 1, 1, 1, 0, NULL, NULL};
+    Sound* in;
+    Sound* out = NULL;
     int ok;
 
-    if (argc == 2 && strcmp(argv[1], "--help") == 0) {
-        fputs(usage, stdout);
-        return EXIT_SUCCESS;
-    }
-    if (!parseOptions(argc, argv, &options))
-        return EXIT_FAILURE;
-    ok = makeResampler(&options, &resampler) && resampleStream(&resampler);
+    parseOptions(argc, argv, &options);
+    in = openSound(NULL, &options.from);
+    ok = in != NULL && checkRates(&options) && makeResampler(&options, &resampler) &&
+         (out = makeSound(NULL, in, options.to)) != NULL && resampleSound(&resampler, in, out);
+    ok = closeSound(out) && ok;
+    closeSound(in);
     freeResampler(&resampler);
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }

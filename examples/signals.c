@@ -6,28 +6,11 @@
 #include <stdlib.h>
 #include <string.h>
 
-#include <tarns.h>
-
-static const char usage[] = "usage: signals [--help] weights|spectra|histogram|chirp\n"
-                            "\n"
-                            "  weights    64 weights of Kaiser windows, one column for each shape: 2, 5, 8.6, 14\n"
-                            "  spectra    their levels in dB over frequency in bins\n"
-                            "  histogram  how often 1000000 uniform numbers from -1 to 1, and as many normal ones of\n"
-                            "             deviation 1, fall into bins of 0.1, over what is expected of them\n"
-                            "  chirp      4 seconds of the Jaehne signal at 16000 samples a second, as raw 16-bit\n"
-                            "             samples in the order of this machine\n";
+#include "program.h"
 
 enum { shapes = 4, windowLen = 64, numbers = 1000000, bins = 80, chirpLen = 64000 };
 
 static const double betas[shapes] = {2, 5, 8.6, 14};
-
-static int fail(const char* text, const char* reason)
-{
-    fprintf(stderr, "signals: %s: %s\n", text, reason);
-    return EXIT_FAILURE;
-}
-
-static int failWith(TarnStatus status) { return fail("tarns", tarnGetStatusString(status)); }
 
 /* The level of a sum of samples at a frequency in cycles per sample, cut off at -160 dB. */
 static double levelAt(const Tarn64f* samples, int len, double freq)
@@ -68,7 +51,7 @@ static int printKaiser(int asSpectra)
                 status = tarnsMulC_64f_I(1 / sum, w, windowLen);
         }
         if (status != tarnStsNoErr)
-            return failWith(status);
+            return succeeded("tarns", status);
     }
     for (row = 0; row < rows; ++row) {
         const double bin = row * 15.0 / 600;
@@ -78,7 +61,7 @@ static int printKaiser(int asSpectra)
             printf(" %.5f", asSpectra ? levelAt(windows[shape], windowLen, bin / windowLen) : windows[shape][row]);
         printf("\n");
     }
-    return EXIT_SUCCESS;
+    return 1;
 }
 
 /* Adds one to the bin of every number, from -4 to 4. */
@@ -112,7 +95,7 @@ static int printHistogram(void)
     count(x, numbers, normalCounts);
     tarnsFree(x);
     if (status != tarnStsNoErr)
-        return failWith(status);
+        return succeeded("tarns", status);
     for (bin = 0; bin < bins; ++bin) {
         const double width = 8.0 / bins;
         const double middle = -4 + (bin + 0.5) * width;
@@ -121,7 +104,7 @@ static int printHistogram(void)
         printf("%.3f %.5f %.5f %.5f\n", middle, uniformCounts[bin] / (numbers * width),
                normalCounts[bin] / (numbers * width), expected);
     }
-    return EXIT_SUCCESS;
+    return 1;
 }
 
 static int writeChirp(void)
@@ -130,34 +113,45 @@ static int writeChirp(void)
     const TarnStatus status = tarnsVectorJaehne_16s(samples, chirpLen, 20000);
 
     if (status != tarnStsNoErr)
-        return failWith(status);
-    return fwrite(samples, sizeof samples[0], chirpLen, stdout) == chirpLen ? EXIT_SUCCESS
-                                                                            : fail("standard output", strerror(errno));
+        return succeeded("tarns", status);
+    return fwrite(samples, sizeof samples[0], chirpLen, stdout) == chirpLen || fail("output", strerror(errno));
+}
+
+static int parseOperands(int argc, char** argv, const char** operands)
+{
+    const Program program = {
+        "signals",
+        "weights|spectra|histogram|chirp",
+        "Prints tables for a plotting program, or writes a chirp.\n\n"
+        "  weights    64 weights of Kaiser windows, one column for each shape: 2, 5, 8.6, 14\n"
+        "  spectra    their levels in dB over frequency in bins\n"
+        "  histogram  how often 1000000 uniform numbers from -1 to 1, and as many normal ones of\n"
+        "             deviation 1, fall into bins of 0.1, over what is expected of them\n"
+        "  chirp      4 seconds of the Jaehne signal at 16000 samples a second, as headerless 16-bit\n"
+        "             samples in the order of this machine\n",
+        NULL,
+        0,
+        1,
+        1};
+
+    return parseArguments(&program, argc, argv, operands);
 }
 
 int main(int argc, char** argv)
 {
-    int result;
+    const char* mode;
+    int ok;
 
-    if (argc == 2 && strcmp(argv[1], "--help") == 0) {
-        fputs(usage, stdout);
-        return EXIT_SUCCESS;
-    }
-    if (argc != 2) {
-        fputs(usage, stderr);
-        return EXIT_FAILURE;
-    }
-    if (strcmp(argv[1], "weights") == 0)
-        result = printKaiser(0);
-    else if (strcmp(argv[1], "spectra") == 0)
-        result = printKaiser(1);
-    else if (strcmp(argv[1], "histogram") == 0)
-        result = printHistogram();
-    else if (strcmp(argv[1], "chirp") == 0)
-        result = writeChirp();
+    parseOperands(argc, argv, &mode);
+    if (strcmp(mode, "weights") == 0)
+        ok = printKaiser(0);
+    else if (strcmp(mode, "spectra") == 0)
+        ok = printKaiser(1);
+    else if (strcmp(mode, "histogram") == 0)
+        ok = printHistogram();
+    else if (strcmp(mode, "chirp") == 0)
+        ok = writeChirp();
     else
-        result = fail(argv[1], "neither weights nor spectra nor histogram nor chirp");
-    if (result == EXIT_SUCCESS && (fflush(stdout) != 0 || ferror(stdout)))
-        result = fail("standard output", strerror(errno));
-    return result;
+        ok = fail(mode, "neither weights nor spectra nor histogram nor chirp");
+    return ok && outputArrived() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

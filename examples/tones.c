@@ -1,19 +1,19 @@
-/* Lists the strongest tones of a recording: raw PCM in, frequencies and levels out. The recording is cut into blocks
+/* Lists the strongest tones of a recording: sound in, frequencies and levels out. The recording is cut into blocks
    that overlap by half; each is weighted by a Hann window and transformed, and the powers of all blocks are averaged.
  */
 #include <errno.h>
-#include <limits.h>
 #include <math.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
-#include <tarns.h>
+#include "program.h"
+#include "sound.h"
 
 enum { minOrder = 4, maxOrder = 20, maxTones = 100 };
 
 typedef struct {
-    int rate;
+    double rate;
     int order;
     int count;
     const char* spectrumFile;
@@ -35,74 +35,27 @@ typedef struct {
     double level;
 } Tone;
 
-static const char usage[] = "usage: tones [OPTION VALUE]... <RECORDING\n"
-                            "\n"
-                            "Lists the strongest tones of a recording: headerless signed 16-bit PCM in the\n"
-                            "machine's byte order, one channel, on the standard input. Levels are in dB below\n"
-                            "a tone of full scale.\n"
-                            "\n"
-                            "  --rate HZ        samples per second, 48000 when not given\n"
-                            "  --order K        blocks of 2^K samples, K from 4 to 20, 14 when not given: longer\n"
-                            "                   blocks tell closer tones apart\n"
-                            "  --count N        how many tones, 1 to 100, 5 when not given\n"
-                            "  --spectrum FILE  writes the averaged spectrum to FILE too, a line for each bin:\n"
-                            "                   frequency in Hz, level in dB\n"
-                            "  --help           prints this text\n";
-
-static int fail(const char* what, const char* reason)
+static void parseOptions(int argc, char** argv, Options* o)
 {
-    fprintf(stderr, "tones: %s: %s\n", what, reason);
-    return 0;
-}
+    const Option options[] = {
+        {numberOption, "--rate", "HZ", SOUND_RATE_HELP, &o->rate, 1, 1e9, NULL},
+        {wholeOption, "--order", "K", "blocks of 2^K samples, K from 4 to 20: longer blocks tell\ncloser tones apart",
+         &o->order, minOrder, maxOrder, NULL},
+        {wholeOption, "--count", "N", "how many tones, 1 to 100", &o->count, 1, maxTones, NULL},
+        {textOption, "--spectrum", "FILE",
+         "writes the averaged spectrum to FILE too, a line for each bin:\nfrequency in Hz, level in dB",
+         &o->spectrumFile, 0, 0, NULL},
+    };
+    const Program program = {
+        "tones",
+        "[OPTION VALUE]... <RECORDING",
+        "Lists the strongest tones of a recording. Levels are in dB below a tone of full scale.\n" SOUND_HELP,
+        options,
+        sizeof options / sizeof options[0],
+        0,
+        0};
 
-static int succeeded(const char* what, TarnStatus status)
-{
-    return status == tarnStsNoErr || fail(what, tarnGetStatusString(status));
-}
-
-static int parseInteger(const char* option, const char* text, int min, int max, int* value)
-{
-    char* end;
-    char reason[80];
-    long number;
-
-    errno = 0;
-    number = strtol(text, &end, 10);
-    if (end == text || *end != '\0' || errno != 0 || number < min || number > max) {
-        snprintf(reason, sizeof reason, "must be an integer from %d to %d", min, max);
-        return fail(option, reason);
-    }
-    *value = (int)number;
-    return 1;
-}
-
-static int parseOptions(int argc, char** argv, Options* options)
-{
-    int i;
-
-    for (i = 1; i < argc; i += 2) {
-        const char* name = argv[i];
-        const char* value = argv[i + 1];
-        int ok = 1;
-
-        if (value == NULL) {
-            fputs(usage, stderr);
-            return 0;
-        }
-        if (strcmp(name, "--rate") == 0)
-            ok = parseInteger(name, value, 1, INT_MAX, &options->rate);
-        else if (strcmp(name, "--order") == 0)
-            ok = parseInteger(name, value, minOrder, maxOrder, &options->order);
-        else if (strcmp(name, "--count") == 0)
-            ok = parseInteger(name, value, 1, maxTones, &options->count);
-        else if (strcmp(name, "--spectrum") == 0)
-            options->spectrumFile = value;
-        else
-            ok = fail(name, "no such option; try --help");
-        if (!ok)
-            return 0;
-    }
-    return 1;
+    parseArguments(&program, argc, argv, NULL);
 }
 
 /* Weights the block and leaves its bins in its place. */
@@ -159,39 +112,23 @@ static int addBlock(Analyzer* analyzer)
            succeeded("block", tarnsAdd_32f_I(analyzer->block, analyzer->power, len + 2));
 }
 
-/* Fills the array unless the recording ends before; then tells why there is no more. */
-static int readSamples(Tarn16s* samples, int len, int* ended)
-{
-    const size_t wanted = (size_t)len * sizeof *samples;
-    const size_t got = fread(samples, 1, wanted, stdin);
-
-    *ended = got < wanted;
-    if (ferror(stdin))
-        return fail("standard input", strerror(errno));
-    if (got % sizeof *samples != 0)
-        return fail("standard input", "not 16-bit PCM: its size is odd");
-    return 1;
-}
-
-static int analyze(Analyzer* analyzer)
+static int analyze(Analyzer* analyzer, Sound* sound)
 {
     const int half = analyzer->len / 2;
+    int got = readSound(sound, analyzer->samples, analyzer->len);
     char reason[80];
-    int ended;
 
-    if (!readSamples(analyzer->samples, analyzer->len, &ended))
-        return 0;
-    if (ended) {
+    if (got >= 0 && got < analyzer->len) {
         snprintf(reason, sizeof reason, "too short: a block has %d samples, see --order", analyzer->len);
-        return fail("standard input", reason);
+        return fail("input", reason);
     }
-    while (!ended) {
+    while (got == analyzer->len || got == half) {
         if (!addBlock(analyzer) ||
-            !succeeded("block", tarnsCopy_16s(analyzer->samples + half, analyzer->samples, half)) ||
-            !readSamples(analyzer->samples + half, half, &ended))
+            !succeeded("block", tarnsCopy_16s(analyzer->samples + half, analyzer->samples, half)))
             return 0;
+        got = readSound(sound, analyzer->samples + half, half);
     }
-    return 1;
+    return got >= 0;
 }
 
 static double power(const Analyzer* analyzer, int bin)
@@ -210,13 +147,13 @@ static double level(const Analyzer* analyzer, int bin)
 
 /* The tone that a local maximum belongs to. A tone d bins beside the peak, d up to a half, has an amplitude of
    sin(pi d) / (pi d (1 - d^2)) there, and in the next bin on its side one that is (1 + d) / (2 - d) of that. */
-static Tone toneAt(const Analyzer* analyzer, int bin, int rate)
+static Tone toneAt(const Analyzer* analyzer, int bin, double rate)
 {
     const double pi = 3.14159265358979323846;
     const int side = power(analyzer, bin + 1) > power(analyzer, bin - 1) ? 1 : -1;
     const double ratio = sqrt(power(analyzer, bin + side) / power(analyzer, bin));
     const double offset = (2 * ratio - 1) / (1 + ratio);
-    Tone tone = {(double)bin * rate / analyzer->len, level(analyzer, bin)};
+    Tone tone = {bin * rate / analyzer->len, level(analyzer, bin)};
 
     /* Noise has peaks that are narrower than any tone's. */
     if (offset > 0) {
@@ -260,7 +197,7 @@ static int writeSpectrum(const Analyzer* analyzer, const Options* options)
     if (file == NULL)
         return fail(options->spectrumFile, strerror(errno));
     for (bin = 0; bin <= analyzer->len / 2; bin++)
-        fprintf(file, "%.3f %.2f\n", (double)bin * options->rate / analyzer->len, level(analyzer, bin));
+        fprintf(file, "%.3f %.2f\n", bin * options->rate / analyzer->len, level(analyzer, bin));
     failed = ferror(file);
     if (fclose(file) != 0 || failed)
         return fail(options->spectrumFile, strerror(errno));
@@ -272,13 +209,12 @@ int main(int argc, char** argv)
     Options options = {48000, 14, 5, NULL};
     Analyzer analyzer = {0};
     Tone tones[maxTones];
+    Sound* sound;
     int ok;
 
-    if (argc == 2 && strcmp(argv[1], "--help") == 0) {
-        fputs(usage, stdout);
-        return EXIT_SUCCESS;
-    }
-    ok = parseOptions(argc, argv, &options) && createAnalyzer(&analyzer, options.order) && analyze(&analyzer) &&
+    parseOptions(argc, argv, &options);
+    sound = openSound(NULL, &options.rate);
+    ok = sound != NULL && createAnalyzer(&analyzer, options.order) && analyze(&analyzer, sound) &&
          (options.spectrumFile == NULL || writeSpectrum(&analyzer, &options));
     if (ok) {
         const int found = findTones(&analyzer, &options, tones);
@@ -286,8 +222,9 @@ int main(int argc, char** argv)
 
         for (i = 0; i < found; i++)
             printf("%10.2f Hz %8.2f dB\n", tones[i].frequency, tones[i].level);
-        ok = fflush(stdout) == 0 || fail("standard output", strerror(errno));
+        ok = (found > 0 || fail("input", "silence")) && outputArrived();
     }
     freeAnalyzer(&analyzer);
+    closeSound(sound);
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,30 +1,13 @@
 /* Prints tables for a plotting program: the weights of the windows, the spectra that they have, or the response of a
    designed band-pass filter with each of them. */
-#include <errno.h>
-#include <limits.h>
 #include <math.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
-#include <tarns.h>
-
-static const char usage[] = "usage: windows [--help] weights|spectra|filter [LENGTH]\n"
-                            "\n"
-                            "Prints a table with one column for each of Bartlett, Hann, Hamming and Blackman:\n"
-                            "  weights   the LENGTH weights\n"
-                            "  spectra   level in dB over frequency in bins, of windows of LENGTH elements\n"
-                            "  filter    level in dB over frequency in Hz, of filters of LENGTH taps that pass\n"
-                            "            300 to 3400 Hz at 8000 samples per second\n"
-                            "LENGTH is 4 to 100000, 64 when not given; for filters 5 to 100000, 128 when not given.\n";
+#include "program.h"
 
 enum { windowCount = 4, longest = 100000 };
-
-static int fail(const char* text, const char* reason)
-{
-    fprintf(stderr, "windows: %s: %s\n", text, reason);
-    return EXIT_FAILURE;
-}
 
 static TarnStatus applyWindow(int window, Tarn64f* samples, int len)
 {
@@ -115,61 +98,59 @@ static int fillColumns(const char* mode, Tarn64f* const columns[], int len)
                     column[n] /= sum;
             }
         }
-        if (status != tarnStsNoErr)
-            return fail(mode, tarnGetStatusString(status));
+        if (!succeeded(mode, status))
+            return 0;
     }
-    return EXIT_SUCCESS;
+    return 1;
+}
+
+static int parseOperands(int argc, char** argv, const char** operands)
+{
+    const Program program = {"windows",
+                             "weights|spectra|filter [LENGTH]",
+                             "Prints a table with one column for each of Bartlett, Hann, Hamming and Blackman:\n\n"
+                             "  weights  the LENGTH weights\n"
+                             "  spectra  level in dB over frequency in bins, of windows of LENGTH elements\n"
+                             "  filter   level in dB over frequency in Hz, of filters of LENGTH taps that pass\n"
+                             "           300 to 3400 Hz at 8000 samples per second\n\n"
+                             "LENGTH is 4 to 100000, 64 when not given; for filters 5 to 100000, 128 when not given.\n",
+                             NULL,
+                             0,
+                             1,
+                             2};
+
+    return parseArguments(&program, argc, argv, operands);
 }
 
 int main(int argc, char** argv)
 {
     Tarn64f* columns[windowCount] = {NULL, NULL, NULL, NULL};
-    const char* mode;
-    long len;
-    int shortest;
+    const char* operands[2];
+    const int count = parseOperands(argc, argv, operands);
+    const char* const mode = operands[0];
+    const int isFilter = strcmp(mode, "filter") == 0;
+    int len = isFilter ? 128 : 64;
     int window;
-    int result = EXIT_SUCCESS;
+    int ok = isFilter || strcmp(mode, "weights") == 0 || strcmp(mode, "spectra") == 0 ||
+             fail(mode, "neither weights nor spectra nor filter");
 
-    if (argc == 2 && strcmp(argv[1], "--help") == 0) {
-        fputs(usage, stdout);
-        return EXIT_SUCCESS;
+    if (ok && count == 2)
+        len = parseWhole("LENGTH", operands[1], isFilter ? 5 : 4, longest);
+    for (window = 0; window < windowCount && ok; ++window) {
+        columns[window] = tarnsMalloc_64f(len);
+        ok = columns[window] != NULL || fail(mode, "no memory");
     }
-    if (argc < 2 || argc > 3) {
-        fputs(usage, stderr);
-        return EXIT_FAILURE;
-    }
-    mode = argv[1];
-    if (strcmp(mode, "weights") != 0 && strcmp(mode, "spectra") != 0 && strcmp(mode, "filter") != 0)
-        return fail(mode, "neither weights nor spectra nor filter");
-    shortest = strcmp(mode, "filter") == 0 ? 5 : 4;
-    len = strcmp(mode, "filter") == 0 ? 128 : 64;
-    if (argc == 3) {
-        char* end;
-
-        errno = 0;
-        len = strtol(argv[2], &end, 10);
-        if (errno != 0 || end == argv[2] || *end != '\0' || len < shortest || len > longest)
-            return fail(argv[2], shortest == 5 ? "the length must be 5 to 100000" : "the length must be 4 to 100000");
-    }
-
-    for (window = 0; window < windowCount && result == EXIT_SUCCESS; ++window) {
-        columns[window] = tarnsMalloc_64f((int)len);
-        if (columns[window] == NULL)
-            result = fail(mode, "no memory");
-    }
-    if (result == EXIT_SUCCESS)
-        result = fillColumns(mode, columns, (int)len);
-    if (result == EXIT_SUCCESS) {
+    ok = ok && fillColumns(mode, columns, len);
+    if (ok) {
         if (strcmp(mode, "weights") == 0)
-            printWeights(columns, (int)len);
+            printWeights(columns, len);
         else if (strcmp(mode, "spectra") == 0)
-            printLevels(columns, (int)len, 10.0 / (double)len, (double)len);
+            printLevels(columns, len, 10.0 / len, len);
         else
-            printLevels(columns, (int)len, 0.5, 8000);
-        if (fflush(stdout) != 0 || ferror(stdout))
-            result = fail("standard output", strerror(errno));
+            printLevels(columns, len, 0.5, 8000);
+        ok = outputArrived();
     }
     for (window = 0; window < windowCount; ++window)
         tarnsFree(columns[window]);
-    return result;
+    return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -85,7 +85,7 @@ expect_refusal("--high: above half the rate" ${square} --rate 6000)
 foreach(taps 4 5.5 65537)
     expect_refusal("--taps: a whole number from 5 to 65536 is wanted" ${square} --taps ${taps})
 endforeach()
-expect_refusal("round: no such window" ${square} --window round)
+expect_refusal("--window: one of these is wanted: bartlett blackman hamming hann none" ${square} --window round)
 expect_refusal("--loud: no such option" ${square} --loud 1)
 expect_refusal("--low: a value is missing" ${square} --low)
 
