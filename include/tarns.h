@@ -4,6 +4,7 @@
 
 #include "tarncore.h"
 #include "tarns/arithmetic.h"
+#include "tarns/companding.h"
 #include "tarns/convert.h"
 #include "tarns/convolution.h"
 #include "tarns/correlation.h"
