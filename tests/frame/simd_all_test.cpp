@@ -33,6 +33,7 @@
 #include "frame/simd_memory.h"
 #include "frame/simd_move.h"
 #include "frame/simd_mul.h"
+#include "frame/simd_neighbours.h"
 #include "frame/simd_ordered.h"
 #include "frame/simd_pack.h"
 #include "frame/simd_parts.h"

@@ -1,5 +1,6 @@
 // Words across lanes, and sums of elements of parts.
 #include "frame/simd.h"
+#include "frame/simd_neighbours.h"
 #include "support/words.h"
 
 #include <gtest/gtest.h>
@@ -83,6 +84,33 @@ TEST(SimdLanes, HalvesHaveZerosAbove)
     EXPECT_EQ(21, foldLanes(loadHalf<4>(singles), add));
     const Tarn64f one = 7;
     EXPECT_EQ(7, foldLanes(loadHalf<2>(&one), add));
+}
+
+template <class T, int n>
+void expectNeighbours()
+{
+    T rising[3 * n];
+    for (int i = 0; i < 3 * n; ++i)
+        rising[i] = static_cast<T>(i + 1);
+    const auto x = loadPack<n>(rising + n);
+    T next[n];
+    store(next, fromNextLanes(x, loadPack<n>(rising + 2 * n)));
+    T previous[n];
+    store(previous, fromPreviousLanes(x, loadPack<n>(rising)));
+    for (int i = 0; i < n; ++i) {
+        EXPECT_EQ(rising[n + i + 1], next[i]);
+        EXPECT_EQ(rising[n + i - 1], previous[i]);
+    }
+}
+
+TEST(SimdLanes, NeighboursCrossPacks)
+{
+    expectNeighbours<Tarn8u, 16>();
+    expectNeighbours<Tarn32s, 4>();
+    expectNeighbours<Tarn32f, 4>();
+    expectNeighbours<Tarn32f, 16>();
+    expectNeighbours<Tarn64f, 2>();
+    expectNeighbours<Tarn64f, 8>();
 }
 
 } // namespace

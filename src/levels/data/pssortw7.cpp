@@ -1,7 +1,7 @@
 // Kernels of sorting.
 #include "levels/data/pssort.h"
 
-#include "levels/data/pssort_hybrid.h"
+#include "frame/sort.h"
 
 namespace {
 
