@@ -30,6 +30,7 @@
 #include "tarns/iirstate.h"
 #include "tarns/logic.h"
 #include "tarns/magnitude.h"
+#include "tarns/median.h"
 #include "tarns/memory.h"
 #include "tarns/multiply.h"
 #include "tarns/norms.h"
