@@ -42,6 +42,7 @@
 #include "tarns/statistics.h"
 #include "tarns/subtract.h"
 #include "tarns/threshold.h"
+#include "tarns/wavelets.h"
 #include "tarns/windows.h"
 
 #endif
