@@ -1,6 +1,7 @@
 // Words across lanes, and sums of elements of parts.
 #include "frame/simd.h"
 #include "frame/simd_neighbours.h"
+#include "frame/walk.h"
 #include "support/words.h"
 
 #include <gtest/gtest.h>
@@ -43,6 +44,27 @@ TEST(SimdLanes, SumsOfLanesKeepTheirOrder)
     EXPECT_EQ(4321, foldLanes(loadPack<4>(singles), add));
     const Tarn64f doubles[2] = {1, 20};
     EXPECT_EQ(21, foldLanes(loadPack<2>(doubles), add));
+}
+
+TEST(SimdLanes, SlideOverTwoPacks)
+{
+    const auto expectSlides = [](auto type) {
+        using T = decltype(type);
+        const auto expectSlide = [](auto pack, auto at) {
+            constexpr int n = decltype(pack)::value;
+            constexpr int k = decltype(at)::value;
+            T lanes[2 * n];
+            for (int i = 0; i < 2 * n; ++i)
+                lanes[i] = static_cast<T>(i + 1);
+            const auto slid = lanesAsArray(slide<k>(loadPack<n>(lanes), loadPack<n>(lanes + n)));
+            for (int i = 0; i < n; ++i)
+                EXPECT_EQ(lanes[i + k], slid[static_cast<std::size_t>(i)]) << n << " lanes from " << k;
+        };
+        repeat<4>([&](auto k) { expectSlide(std::integral_constant<int, 4>{}, k); });
+        repeat<8>([&](auto k) { expectSlide(std::integral_constant<int, 8>{}, k); });
+    };
+    expectSlides(Tarn32f{});
+    expectSlides(Tarn64f{});
 }
 
 TEST(SimdLanes, LanesSpreadOverAll)
