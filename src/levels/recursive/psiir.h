@@ -16,12 +16,37 @@
     TARN_KERNEL void ownsIIRxBQ##TAIL(const T* pSrc, T* pDst, int count, const T* pTapsX); \
     TARN_KERNEL void ownsIIRyBQ##TAIL(const T* pValues, T* pDst, int count, const T* pTapsY)
 
+// Passes of samples of another type. Results stand as they are in pKept, where the recursion has its history, and as
+// samples in pDst. The orders are those of blocks, whose lengths are more than four times as large and at most
+// chunkSamples. Scale factors of float samples are 0.
+#define TARN_IIR_CONVERTING_PASSES(TAIL, T, S)                                                                     \
+    TARN_KERNEL void ownsIIRxAR##TAIL(const S* pSrc, T* pDst, int count, const T* pTapsX, int order);              \
+    TARN_KERNEL void ownsIIRyAR##TAIL(const T* pValues, T* pKept, S* pDst, int count, const T* pTapsY, int order,  \
+                                      int scaleFactor);                                                            \
+    TARN_KERNEL void ownsIIRBQTwo##TAIL(const S* pSrc, T* pKept, S* pDst, tarn::IirFields<T>* pState, int section, \
+                                        int scaleFactor)
+#define TARN_IIR_CONVERTING_SECTION_PASSES(TAIL, T, S)                                     \
+    TARN_KERNEL void ownsIIRxBQ##TAIL(const S* pSrc, T* pDst, int count, const T* pTapsX); \
+    TARN_KERNEL void ownsIIRyBQ##TAIL(const T* pValues, T* pKept, S* pDst, int count, const T* pTapsY, int scaleFactor)
+
 TARN_IIR_PASSES(_32f, Tarn32f);
 TARN_IIR_PASSES(_32fc, Tarn32fc);
 TARN_IIR_PASSES(_64f, Tarn64f);
 TARN_IIR_PASSES(_64fc, Tarn64fc);
 TARN_IIR_SECTION_PASSES(_32f, Tarn32f);
 TARN_IIR_SECTION_PASSES(_64f, Tarn64f);
+TARN_IIR_CONVERTING_PASSES(32f_16s, Tarn32f, Tarn16s);
+TARN_IIR_CONVERTING_PASSES(32fc_16sc, Tarn32fc, Tarn16sc);
+TARN_IIR_CONVERTING_PASSES(64f_32f, Tarn64f, Tarn32f);
+TARN_IIR_CONVERTING_PASSES(64fc_32fc, Tarn64fc, Tarn32fc);
+TARN_IIR_CONVERTING_PASSES(64f_32s, Tarn64f, Tarn32s);
+TARN_IIR_CONVERTING_PASSES(64fc_32sc, Tarn64fc, Tarn32sc);
+TARN_IIR_CONVERTING_PASSES(64f_16s, Tarn64f, Tarn16s);
+TARN_IIR_CONVERTING_PASSES(64fc_16sc, Tarn64fc, Tarn16sc);
+TARN_IIR_CONVERTING_SECTION_PASSES(_32f_16s, Tarn32f, Tarn16s);
+TARN_IIR_CONVERTING_SECTION_PASSES(64f_32f, Tarn64f, Tarn32f);
+TARN_IIR_CONVERTING_SECTION_PASSES(64f_32s, Tarn64f, Tarn32s);
+TARN_IIR_CONVERTING_SECTION_PASSES(64f_16s, Tarn64f, Tarn16s);
 
 // -- Chunks of at most chunkSamples, and single samples ---------------------------------------------------------------
 

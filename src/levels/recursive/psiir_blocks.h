@@ -2,9 +2,13 @@
 // four outputs at a time.
 #pragma once
 
+#include "frame/simd_slide.h"
 #include "frame/walk.h"
+#include "levels/recursive/psiir_samples.h"
 #include "levels/recursive/psiir_state.h"
 #include "levels/recursive/psiir_tables.h"
+
+#include <algorithm>
 
 namespace tarn {
 
@@ -75,21 +79,35 @@ TARN_INLINE T filterOneCascade(const IirFields<T>& state, T x)
 
 // -- What needs no history: x'[i] = sum of b[k] s[i + order - k] ------------------------------------------------------
 
-template <int groups, typename T>
+// Elements whose sums are computed side by side: as many as leave a register of a 32-bit program for each of them, and
+// enough for their additions not to wait for one another.
+template <typename T>
+inline constexpr int runRegisters = isComplex<T> ? 2 : 4;
+template <typename T>
+inline constexpr int runParts = runRegisters<T>* unitBytes / static_cast<int>(sizeof(Part<T>));
+template <typename T>
+inline constexpr int runElements = runParts<T>* static_cast<int>(sizeof(Part<T>)) / static_cast<int>(sizeof(T));
+
+// `src` is where the first element's input of tap 0 stands. `fixed` is the order if it is known, 0 otherwise.
+template <int fixed, int parts, typename T>
 TARN_INLINE void weighInputs(const T* src, T* dst, const T* table, int order)
 {
-    WeightedSum<T> sums[groups];
-    for (int g = 0; g < groups; ++g) {
-        sums[g] = Numerators<T>::times(table, 0, loadGroup(src + ahead * g + order));
-    }
-    for (int k = 1; k <= order; ++k) {
-        for (int g = 0; g < groups; ++g) {
-            sums[g] = sums[g] + Numerators<T>::times(table, k, loadGroup(src + ahead * g + order - k));
+    constexpr int unit = Numerators<T>::elements;
+    const auto load = [](const T* p) { return loadPack<parts>(reinterpret_cast<const Part<T>*>(p)); };
+    auto sum = Numerators<T>::times(table, load(src));
+    if constexpr (fixed > 0) {
+        repeat<fixed>([&](auto k) { sum = sum + Numerators<T>::times(table + unit * (k + 1), load(src - (k + 1))); });
+    } else {
+        TARN_ROLLED
+        for (int k = order; k > 0; --k) {
+            table += unit;
+            src -= 1;
+            settleAddress(table);
+            settleAddress(src);
+            sum = sum + Numerators<T>::times(table, load(src));
         }
     }
-    for (int g = 0; g < groups; ++g) {
-        storeGroup(dst + ahead * g, sums[g].total());
-    }
+    store(reinterpret_cast<Part<T>*>(dst), sum.total());
 }
 
 template <typename T>
@@ -103,18 +121,19 @@ TARN_INLINE T tapOf(const T* table, int k)
     }
 }
 
-// `fixed` is the order if it is known, 0 otherwise.
 template <int fixed, typename T>
 void weighAllInputs(const T* src, T* dst, int count, const T* table, int anyOrder)
 {
-    constexpr int groupsAtOnce = isComplex<T> || sizeof(T) > sizeof(Tarn32f) ? 1 : 2;
+    constexpr int run = runElements<T>;
     const int order = fixed > 0 ? fixed : anyOrder;
     int i = 0;
-    for (; i <= count - groupsAtOnce * ahead; i += groupsAtOnce * ahead) {
-        weighInputs<groupsAtOnce>(src + i, dst + i, table, order);
+    for (; i <= count - run; i += run) {
+        weighInputs<fixed, runParts<T>>(src + i + order, dst + i, table, order);
     }
-    for (; i <= count - ahead; i += ahead) {
-        weighInputs<1>(src + i, dst + i, table, order);
+    if constexpr (run > ahead) {
+        for (; i <= count - ahead; i += ahead) {
+            weighInputs<fixed, groupParts<T>>(src + i + order, dst + i, table, order);
+        }
     }
     for (; i < count; ++i) {
         T sum = product(tapOf(table, 0), loadElement(src + i + order));
@@ -122,6 +141,26 @@ void weighAllInputs(const T* src, T* dst, int count, const T* table, int anyOrde
             sum = add(sum, product(tapOf(table, k), loadElement(src + i + order - k)));
         }
         store(dst + i, sum);
+    }
+}
+
+// Samples of another type go through a window, where each is converted once. No block is short enough for an order of
+// half the window: blocks are longer than four times their order, and not longer than a chunk.
+inline constexpr int windowSamples = chunkSamples / 2;
+
+template <int fixed, typename T, typename S>
+void weighAllSamples(const S* src, T* dst, int count, const T* table, int order)
+{
+    if constexpr (std::is_same_v<T, S>) {
+        weighAllInputs<fixed>(src, dst, count, table, order);
+    } else {
+        alignas(registerBytes) T window[windowSamples];
+        const int step = windowSamples - order;
+        for (int i = 0; i < count; i += step) {
+            const int n = std::min(step, count - i);
+            samplesToTaps(src + i, window, n + order);
+            weighAllInputs<fixed>(window, dst + i, n, table, order);
+        }
     }
 }
 
@@ -161,9 +200,9 @@ TARN_INLINE WeightedSum<T> withInputs(Group<T> q, const T* rows)
            (Sum::template weighted<2>(loadAlignedGroup(rows + 2 * ahead), q) + Sum::of(lastAlone<T>(q)));
 }
 
-// dst[-order .. -1] are the outputs before. `fixed` is the order if it is up to four, 0 otherwise.
-template <int fixed, typename T>
-void recur(const T* values, T* dst, int count, const T* table, int anyOrder)
+// out.values[-order .. -1] are the outputs before. `fixed` is the order if it is up to four, 0 otherwise.
+template <int fixed, typename T, typename Out>
+void recur(const T* values, Out out, int count, const T* table, int anyOrder)
 {
     using Sum = WeightedSum<T>;
     const int order = fixed > 0 ? fixed : anyOrder;
@@ -172,44 +211,50 @@ void recur(const T* values, T* dst, int count, const T* table, int anyOrder)
 
     T history[ahead] = {};
     for (int k = 1; k <= recent; ++k) {
-        history[ahead - k] = loadElement(dst - k);
+        history[ahead - k] = loadElement(out.values - k);
     }
     Group<T> before = loadGroup(history);
     int i = 0;
     for (; i <= count - ahead; i += ahead) {
         auto sum = withInputs(loadGroup(values + i), inputRows);
         if constexpr (fixed == 0) {
-            for (int k = ahead + 1; k <= order; ++k) {
-                sum = sum + Sum::weighted(loadAlignedGroup(table + std::ptrdiff_t{ahead} * (k - 1)),
-                                          loadElement(dst + i - k));
+            const T* row = table + ahead * (ahead - 1);
+            const T* past = out.values + i - ahead;
+            TARN_ROLLED
+            for (int k = order - ahead; k > 0; --k) {
+                row += ahead;
+                past -= 1;
+                settleAddress(row);
+                settleAddress(past);
+                sum = sum + Sum::weighted(loadAlignedGroup(row), past);
             }
         }
         before = withRecent<recent>(sum, before, table).total();
-        storeGroup(dst + i, before);
+        out.put(i, before);
     }
     for (; i < count; ++i) {
         T y = loadElement(values + i);
         for (int k = 1; k <= order; ++k) {
-            y = add(y, product(table[std::ptrdiff_t{ahead} * (k - 1)], loadElement(dst + i - k)));
+            y = add(y, product(table[std::ptrdiff_t{ahead} * (k - 1)], loadElement(out.values + i - k)));
         }
-        store(dst + i, y);
+        out.put(i, y);
     }
 }
 
-template <typename T>
-void recurAny(const T* values, T* dst, int count, const T* table, int order)
+template <typename T, typename Out>
+void recurAny(const T* values, Out out, int count, const T* table, int order)
 {
     switch (order) {
     case 1:
-        return recur<1>(values, dst, count, table, order);
+        return recur<1>(values, out, count, table, order);
     case 2:
-        return recur<2>(values, dst, count, table, order);
+        return recur<2>(values, out, count, table, order);
     case 3:
-        return recur<3>(values, dst, count, table, order);
+        return recur<3>(values, out, count, table, order);
     case 4:
-        return recur<4>(values, dst, count, table, order);
+        return recur<4>(values, out, count, table, order);
     default:
-        return recur<0>(values, dst, count, table, order);
+        return recur<0>(values, out, count, table, order);
     }
 }
 

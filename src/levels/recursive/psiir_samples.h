@@ -1,11 +1,10 @@
-// Results of recursive filters as samples of the caller's type.
+// Samples of the caller's type as elements of the type that a filter computes in, and its results as such samples.
 #pragma once
 
 #include "frame/factor.h"
 #include "frame/rounding.h"
 #include "frame/samples.h"
-#include "frame/simd_round.h"
-#include "frame/walk.h"
+#include "frame/simd.h"
 
 namespace tarn {
 
@@ -23,34 +22,107 @@ P scaleOf(int scaleFactor)
     }
 }
 
-// Parts of results as parts of samples: integers rounded to the nearest and limited, a NaN to the lowest.
-template <typename D, Float P>
-struct ToSamples {
-    P scale;
-    template <typename X>
-    TARN_INLINE auto operator()(X x) const
+// Filters of integers compute to the nearest whatever the caller's rounding mode is, since their results are rounded
+// while they go on; filters of floats compute in the caller's mode.
+struct CallersRounding {
+    CallersRounding() {} // not trivial, so that a guard of it is no unused variable
+};
+template <typename S>
+using SamplesRounding = std::conditional_t<std::is_floating_point_v<Part<S>>, CallersRounding, NearestRounding>;
+
+// One sample, exact.
+template <typename T, typename S>
+TARN_INLINE T sampleAs(const S* p)
+{
+    const S x = loadElement(p);
+    if constexpr (isComplex<S>) {
+        return {static_cast<Part<T>>(x.re), static_cast<Part<T>>(x.im)};
+    } else {
+        return static_cast<T>(x);
+    }
+}
+
+// Parts of results as parts of samples: integers rounded and limited, a NaN to the lowest.
+template <Float D, typename X>
+TARN_INLINE void storeResults(D* p, X x, Element<X> /*scale*/)
+{
+    store(p, narrowFloat(x));
+}
+template <Integer D, Float P>
+TARN_INLINE void storeResults(D* p, P x, P scale)
+{
+    store(p, roundLimited<D>(mul(x, scale)));
+}
+template <Integer D, Float P, int N>
+TARN_INLINE void storeResults(D* p, Pack<P, N> x, P scale)
+{
+    using X = Pack<P, N>;
+    const auto limited = min(max(mul(x, splat<X>(scale)), splat<X>(lowest<D>)), splat<X>(highest<D>));
+    if constexpr (std::is_same_v<D, Tarn16s>) {
+        storeNarrowed(p, roundToInteger(limited));
+    } else {
+        store(p, roundToInteger(limited));
+    }
+}
+
+// Where results go that are elements of the caller's own type.
+template <typename T>
+struct Results {
+    T* values;
+
+    TARN_INLINE Results operator+(int n) const { return {values + n}; }
+    TARN_INLINE void put(int i, T x) const { store(values + i, x); }
+    template <int N>
+    TARN_INLINE void put(int i, Pack<Part<T>, N> x) const
     {
-        if constexpr (std::is_floating_point_v<D>) {
-            return narrowFloat(x);
-        } else {
-            return roundLimited<D>(mul(x, splat<X>(scale)));
-        }
+        store(reinterpret_cast<Part<T>*>(values + i), x);
     }
 };
 
-template <typename S, typename T>
-void resultsToSamples(const T* src, S* dst, int len, int scaleFactor)
-{
-    using D = Part<S>;
-    using P = Part<T>;
-    const ToSamples<D, P> convert{scaleOf<P>(scaleFactor)};
-    const int parts = len * static_cast<int>(sizeof(T) / sizeof(P));
-    if constexpr (std::is_floating_point_v<D>) {
-        walk(reinterpret_cast<D*>(dst), parts, convert, reinterpret_cast<const P*>(src));
-    } else {
-        const NearestRounding nearest;
-        walk(reinterpret_cast<D*>(dst), parts, convert, reinterpret_cast<const P*>(src));
+// Where results go that become samples of another type: they are kept as well, since the recursion needs them
+// unrounded.
+template <typename T, typename S>
+struct ConvertedResults {
+    T* values;
+    S* samples;
+    Part<T> scale;
+
+    TARN_INLINE ConvertedResults operator+(int n) const { return {values + n, samples + n, scale}; }
+    TARN_INLINE void put(int i, T x) const
+    {
+        store(values + i, x);
+        auto* const parts = reinterpret_cast<Part<S>*>(samples + i);
+        if constexpr (isComplex<T>) {
+            storeResults(parts, x.re, scale);
+            storeResults(parts + 1, x.im, scale);
+        } else {
+            storeResults(parts, x, scale);
+        }
     }
-}
+    template <int N>
+    TARN_INLINE void put(int i, Pack<Part<T>, N> x) const
+    {
+        store(reinterpret_cast<Part<T>*>(values + i), x);
+        storeResults(reinterpret_cast<Part<S>*>(samples + i), x, scale);
+    }
+    // The samples of all that is kept already.
+    void convertAll(int len) const
+    {
+        constexpr int partsOf = static_cast<int>(sizeof(T) / sizeof(Part<T>));
+        const auto* const from = reinterpret_cast<const Part<T>*>(values);
+        auto* const to = reinterpret_cast<Part<S>*>(samples);
+        const int parts = len * partsOf;
+        int i = 0;
+        for (; i <= parts - partsAtOnce; i += partsAtOnce) {
+            storeResults(to + i, loadPack<partsAtOnce>(from + i), scale);
+        }
+        for (; i < parts; ++i) {
+            storeResults(to + i, loadElement(from + i), scale);
+        }
+    }
+
+private:
+    static constexpr int partsAtOnce = 4;
+};
 
 } // namespace tarn

@@ -83,47 +83,50 @@ TARN_INLINE Group<T> lastAlone(Group<T> x)
     return keepFloatWhere(loadAligned<groupParts<T>>(mask.lanes), x);
 }
 
-// A sum of products of groups with single elements. Complex products are summed by the parts of the elements, and
-// joined at the end: each takes two multiplications then, and no exchange of parts.
-template <typename T>
+// A sum of products of runs of elements, groups for instance, with single elements. Complex products are summed by the
+// parts of the elements, and joined at the end: each takes two multiplications then, and no exchange of parts.
+template <typename T, typename Run = Group<T>>
 struct WeightedSum;
 
-template <Float T>
-struct WeightedSum<T> {
-    Group<T> sum;
+template <Float T, typename Run>
+struct WeightedSum<T, Run> {
+    Run sum;
 
-    static TARN_INLINE WeightedSum of(Group<T> x) { return {x}; }
+    static TARN_INLINE WeightedSum of(Run x) { return {x}; }
     // The element in lane k of `from`.
     template <int k>
-    static TARN_INLINE WeightedSum weighted(Group<T> weights, Group<T> from)
+    static TARN_INLINE WeightedSum weighted(Run weights, Group<T> from)
     {
         return {mul(weights, splatLane<k>(from))};
     }
-    static TARN_INLINE WeightedSum weighted(Group<T> weights, T x) { return {mul(weights, splat<Group<T>>(x))}; }
+    static TARN_INLINE WeightedSum weighted(Run weights, const T* x)
+    {
+        return {mul(weights, splat<Run>(loadElement(x)))};
+    }
     TARN_INLINE WeightedSum operator+(WeightedSum other) const { return {add(sum, other.sum)}; }
-    TARN_INLINE Group<T> total() const { return sum; }
+    TARN_INLINE Run total() const { return sum; }
 };
 
-template <typename T>
+template <typename T, typename Run>
     requires isComplex<T>
-struct WeightedSum<T> {
-    Group<T> byRe, byIm;
+struct WeightedSum<T, Run> {
+    Run byRe, byIm;
 
-    static TARN_INLINE WeightedSum of(Group<T> x) { return {x, splat<Group<T>>(0)}; }
+    static TARN_INLINE WeightedSum of(Run x) { return {x, splat<Run>(0)}; }
     template <int k>
-    static TARN_INLINE WeightedSum weighted(Group<T> weights, Group<T> from)
+    static TARN_INLINE WeightedSum weighted(Run weights, Group<T> from)
     {
         return {mul(weights, splatLane<2 * k>(from)), mul(weights, splatLane<2 * k + 1>(from))};
     }
-    static TARN_INLINE WeightedSum weighted(Group<T> weights, T x)
+    static TARN_INLINE WeightedSum weighted(Run weights, const T* x)
     {
-        return {mul(weights, splat<Group<T>>(x.re)), mul(weights, splat<Group<T>>(x.im))};
+        return {mul(weights, splat<Run>(loadElement(&x->re))), mul(weights, splat<Run>(loadElement(&x->im)))};
     }
     TARN_INLINE WeightedSum operator+(WeightedSum other) const
     {
         return {add(byRe, other.byRe), add(byIm, other.byIm)};
     }
-    TARN_INLINE Group<T> total() const { return subAdd(byRe, swapParts(byIm)); }
+    TARN_INLINE Run total() const { return subAdd(byRe, swapParts(byIm)); }
 };
 
 // -- Numerators -------------------------------------------------------------------------------------------------------
@@ -149,14 +152,15 @@ struct Numerators {
         }
     }
 
-    // Tap k of a table times a group.
-    static TARN_INLINE WeightedSum<T> times(const T* table, int k, Group<T> x)
+    // The tap at a place of the table times a run of elements.
+    template <typename Run>
+    static TARN_INLINE WeightedSum<T, Run> times(const T* tap, Run x)
     {
-        const auto* const unit = reinterpret_cast<const P*>(table) + std::ptrdiff_t{width} * k;
+        const auto* const unit = reinterpret_cast<const P*>(tap);
         if constexpr (isComplex<T>) {
-            return {mul(x, repeated<groupParts<T>>(unit)), mul(x, repeated<groupParts<T>>(unit + copies))};
+            return {mul(x, repeated<Run::size>(unit)), mul(x, repeated<Run::size>(unit + copies))};
         } else {
-            return {mul(x, repeated<groupParts<T>>(unit))};
+            return {mul(x, repeated<Run::size>(unit))};
         }
     }
 
