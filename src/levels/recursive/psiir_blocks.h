@@ -2,7 +2,7 @@
 // four outputs at a time.
 #pragma once
 
-#include "frame/simd_slide.h"
+#include "frame/simd_neighbours.h"
 #include "frame/walk.h"
 #include "levels/recursive/psiir_samples.h"
 #include "levels/recursive/psiir_state.h"
