@@ -28,6 +28,7 @@
 #include "tarns/hilbert.h"
 #include "tarns/iir.h"
 #include "tarns/iirstate.h"
+#include "tarns/lms.h"
 #include "tarns/logic.h"
 #include "tarns/magnitude.h"
 #include "tarns/median.h"

@@ -18,6 +18,14 @@ inline D convertedTo(S x)
     }
 }
 
+template <typename S, typename D>
+inline void copyConverted(const S* src, D* dst, int len)
+{
+    for (int i = 0; i < len; ++i) {
+        store(dst + i, convertedTo<D>(loadElement(src + i)));
+    }
+}
+
 // The same backwards: callers have the newest sample and the first tap in front, states have the oldest and the last.
 template <typename S, typename D>
 inline void reverseConverted(const S* src, D* dst, int len)
@@ -39,13 +47,13 @@ inline void fillDelay(const S* pDlyLine, D* line, int len)
 }
 
 // A doubled line has every sample twice, `len` apart, so that the newest `len` of them lie side by side wherever they
-// begin. Takes one in and answers with the window that begins at the oldest then.
+// begin. Takes one in and answers with the window that begins at the oldest then. The line may lie anywhere.
 template <typename T>
 TARN_INLINE T* enterSample(T* line, int& begin, int len, T sample)
 {
     T* const place = line + begin;
-    place[0] = sample;
-    place[len] = sample;
+    store(place, sample);
+    store(place + len, sample);
     begin = begin + 1 == len ? 0 : begin + 1;
     return line + begin;
 }

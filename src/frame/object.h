@@ -16,11 +16,11 @@ concept Identified = requires(Object object)
     Object::identifier;
 };
 
-// The checks of an object handed in by a caller: there is one, and it is of the function's kind.
-template <Identified Object>
-inline TarnStatus checkObject(const Object* object)
+// The checks of an object and arrays handed in by a caller: they are there, and the object is of the function's kind.
+template <Identified Object, typename... P>
+inline TarnStatus checkObject(const Object* object, const P*... pointers)
 {
-    if (object == nullptr) {
+    if (object == nullptr || ((pointers == nullptr) || ...)) {
         return tarnStsNullPtrErr;
     }
     return object->idCtx == Object::identifier ? tarnStsNoErr : tarnStsContextMatchErr;
