@@ -294,7 +294,7 @@ TYPED_TEST(LmsRatesTest, Converges)
     const auto system = randomValues<T>(16, 1, Values::unit); // a sixteenth of 32 bits
     const auto src = randomValues<S>(20000, 2, Values::unit);
     const auto fixed = this->make({16, 1, 0, 0}, 0, system);
-    const auto adapting = this->make({16, 1, 0, 0}, 256);
+    const auto adapting = this->make({16, 1, 0, 0}, 32768);
     double late = 0, power = 0;
     for (std::size_t i = 0; i < src.size(); ++i) {
         T wanted{}, out{};
@@ -303,7 +303,7 @@ TYPED_TEST(LmsRatesTest, Converges)
         LmsNumber err = asNumber(wanted);
         err.re -= asNumber(out).re;
         err.im -= asNumber(out).im;
-        // Errors of outputs are 2^16 times those of samples: brought back, so that the product with mu fits.
+        // So small that the product with mu fits.
         const auto re = static_cast<Tarn32s>(err.re) >> 12, im = static_cast<Tarn32s>(err.im) >> 12;
         this->f.updateTaps(this->error(re, im), adapting.get());
         if (i > 19000) {
@@ -328,8 +328,9 @@ TYPED_TEST(LmsRatesTest, KeepsTapsAndLine)
         EXPECT_EQ(this->f.id, state->idCtx);
         EXPECT_EQ(shape.dlyLen(), state->dlyLen);
         EXPECT_EQ(-5, state->mu);
-        if (sizeof(void*) == 4)
+        if (sizeof(void*) == 4) {
             EXPECT_EQ(40u, sizeof *state);
+        }
         GuardedArray<T> back(count, Placement::atEnd());
         GuardedArray<S> backLine(len, Placement::atEnd());
         int index = -1;
@@ -418,8 +419,9 @@ TYPED_TEST(LmsRatesTest, FreesWhatItHasMade)
         EXPECT_EQ(allowed < 3 ? tarnStsNoMemErr : tarnStsNoErr, made);
         EXPECT_EQ(tarnStsNoErr, freed);
         EXPECT_EQ(0, outstanding) << allowed;
-        if (made != tarnStsNoErr)
+        if (made != tarnStsNoErr) {
             EXPECT_EQ(nullptr, state);
+        }
     }
 }
 

@@ -97,7 +97,8 @@ protected:
     /// A quarter of the step from which on a window of full amplitude would make the taps jump to and fro.
     static Tarn32f stepFor(std::size_t n)
     {
-        return static_cast<Tarn32f>(0.25L / (static_cast<Wide>(n) * Family::amplitude * Family::amplitude));
+        const Wide power = Family::amplitude * Family::amplitude * f.scale * f.scale;
+        return static_cast<Tarn32f>(0.25L / (static_cast<Wide>(n) * power));
     }
     static model::LmsFilter modelOf(const std::vector<Tarn32f>& naturalTaps, const std::vector<S>& line, int index,
                                     Wide scale, Wide gain)
@@ -473,7 +474,7 @@ TYPED_TEST(LmsTest, FiltersOneSampleWithoutAState)
         GuardedArray<int> index(1, Placement::atEnd(odd));
         GuardedArray<S> dst(1, Placement::atEnd(odd));
         index.set(0, n - 1);
-        const Tarn32f mu = this->stepFor(count) * static_cast<Tarn32f>(this->f.scale);
+        const Tarn32f mu = this->stepFor(count) * static_cast<Tarn32f>(this->f.scale * this->f.scale);
         auto model = this->modelOf(natural, ring, n - 1, 1, 2 * mu);
         const auto src = this->signal(60, 3), ref = this->signal(60, 4);
         for (std::size_t i = 0; i < src.size(); ++i) {
