@@ -24,6 +24,11 @@ endif()
 add_library(tarns_sanitizers INTERFACE)
 target_compile_options(tarns_sanitizers INTERFACE
     -fsanitize=${TARNS_SANITIZED_COPY} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+if(TARNS_SANITIZED_COPY MATCHES "undefined")
+    # Of the checks at every use of a pointer, which are half of the compile time, only that of alignment tells more than
+    # the sanitizer of addresses does.
+    target_compile_options(tarns_sanitizers INTERFACE -fno-sanitize=null,object-size,pointer-overflow)
+endif()
 target_link_options(tarns_sanitizers INTERFACE -fsanitize=${TARNS_SANITIZED_COPY})
 
 # Results are defined to the bit: no target may contract a*b+c.

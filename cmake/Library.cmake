@@ -46,6 +46,7 @@ function(tarns_add_library target sanitizers)
         target_compile_options(${target} PRIVATE -O3)
         target_link_options(${target} PRIVATE -Wl,-z,defs) # a sanitizer's functions would be the program's
     endif()
+    target_precompile_headers(${target} PRIVATE <frame/precompiled.h>)
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tarns_flags> $<BUILD_INTERFACE:OpenMP::OpenMP_CXX>)
 endfunction()
 
