@@ -4,8 +4,6 @@
 
 #include "frame/walk.h"
 
-#include <array>
-
 namespace tarn {
 
 // The boundary from which such groups are counted where they do not start with the array. It is part of the results,
@@ -43,28 +41,6 @@ template <int boundary = groupBoundary, typename T>
 TARN_INLINE Index headOfGroups(const T* dst, Index len)
 {
     return std::min<Index>(len, elementsToBoundary<boundary>(dst));
-}
-
-// What an operation on elements answers for each element of packs, one after the other: for the group in which one
-// element asks for the other formula.
-template <typename Operation, typename P, typename... More>
-TARN_INLINE auto eachElement(Operation operation, P x, More... more)
-{
-    constexpr int count = P::size;
-    using D = decltype(operation(Element<P>{}, Element<More>{}...));
-    const auto spread = [](auto pack) {
-        std::array<Element<decltype(pack)>, static_cast<std::size_t>(count)> elements;
-        store(elements.data(), pack);
-        return elements;
-    };
-    const auto answers = [operation](auto... elements) {
-        std::array<D, static_cast<std::size_t>(count)> results;
-        for (std::size_t k = 0; k < static_cast<std::size_t>(count); ++k) {
-            results[k] = operation(elements[k]...);
-        }
-        return results;
-    }(spread(x), spread(more)...);
-    return loadPack<count>(answers.data());
 }
 
 } // namespace tarn

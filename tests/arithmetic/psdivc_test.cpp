@@ -25,21 +25,24 @@ TEST(DivisionByConstant, Words)
     for (const RoundingMode mode : {RoundingMode::nearest, RoundingMode::up}) {
         for (const Tarn16s val : std::initializer_list<Tarn16s>{3, -7, 1, -1, 32767, -32768, 10}) {
             const float reciprocal = 1.0F / static_cast<float>(val);
-            std::vector<std::vector<Tarn16s>> expected;
             for (const int s : scaleFactors(-16, 16)) {
                 SCOPED_TRACE(std::to_string(val) + " at " + std::to_string(s));
-                // Found before the rounding mode is set: words do not follow it.
-                std::vector<Tarn16s> quotients;
-                for (int x = -32768; x < 32768; ++x)
-                    quotients.push_back(
-                        model::nearest<Tarn16s>(productByReciprocal(static_cast<float>(x), reciprocal, s)));
-                const auto atScale = [&](Tarn16s x) { return quotients[static_cast<std::size_t>(x + 32768)]; };
-                const RoundingModeScope scope(mode);
+                // Words do not follow the rounding mode, which is set for the calls alone.
+                const auto atScale = [=](Tarn16s x) {
+                    return model::nearest<Tarn16s>(productByReciprocal(static_cast<float>(x), reciprocal, s));
+                };
                 sweepElementwise<Tarn16s, Tarn16s>(
-                    [=](const Tarn16s* src, Tarn16s* dst, int len) { return tarnsDivC_16s_Sfs(src, val, dst, len, s); },
+                    [=](const Tarn16s* src, Tarn16s* dst, int len) {
+                        const RoundingModeScope scope(mode);
+                        return tarnsDivC_16s_Sfs(src, val, dst, len, s);
+                    },
                     atScale, {.thresholds = {32}, .depth = Depth::quick});
-                sweepInPlace<Tarn16s>([=](Tarn16s* x, int len) { return tarnsDivC_16s_ISfs(val, x, len, s); }, atScale,
-                                      {.thresholds = {32}, .depth = Depth::quick});
+                sweepInPlace<Tarn16s>(
+                    [=](Tarn16s* x, int len) {
+                        const RoundingModeScope scope(mode);
+                        return tarnsDivC_16s_ISfs(val, x, len, s);
+                    },
+                    atScale, {.thresholds = {32}, .depth = Depth::quick});
             }
         }
     }

@@ -2,6 +2,7 @@
 #include "frame/report.h"
 
 #include "frame/walk_groups.h"
+#include "frame/walk_singly.h"
 #include "support/sweep.h"
 
 namespace tarn::test {

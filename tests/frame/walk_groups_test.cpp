@@ -1,5 +1,6 @@
 // Walks by position give every element the formula of its place, whatever the addresses and lengths.
 #include "frame/walk_groups.h"
+#include "frame/walk_singly.h"
 
 #include "support/sweep.h"
 

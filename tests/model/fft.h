@@ -1,6 +1,7 @@
 // Plain model of the power-of-two transforms: radix 2 in extended precision, and the definition itself to prove it by.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <numbers>
@@ -20,6 +21,19 @@ inline Bin turn(int sign, std::size_t m, std::size_t n)
     const long double angle =
         2 * std::numbers::pi_v<long double> * static_cast<long double>(m % n) / static_cast<long double>(n);
     return {std::cos(angle), static_cast<long double>(sign) * std::sin(angle)};
+}
+
+/// At least so many angles of half a turn, a power of two: those of the longest transform yet, which are most of its
+/// work.
+inline const std::vector<Bin>& halfTurn(std::size_t count)
+{
+    static std::vector<Bin> turns;
+    if (turns.size() < count) {
+        turns.resize(count);
+        for (std::size_t m = 0; m < count; ++m)
+            turns[m] = turn(1, m, 2 * count);
+    }
+    return turns;
 }
 
 inline Bin product(Bin a, Bin b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
@@ -42,14 +56,13 @@ inline std::vector<Bin> transformByDefinition(const std::vector<Bin>& x, int sig
 inline std::vector<Bin> transform(std::vector<Bin> x, int sign)
 {
     const std::size_t size = x.size();
-    std::vector<Bin> turns(size / 2);
-    for (std::size_t m = 0; m < turns.size(); ++m)
-        turns[m] = turn(sign, m, size);
+    const auto& turns = halfTurn(size / 2);
+    const std::size_t apart = turns.size() / std::max<std::size_t>(size / 2, 1);
     std::vector<Bin> other(size);
     // Each round takes the remaining stride apart and writes sums to the front half, differences to the back half.
     for (std::size_t stride = size / 2; stride > 0; stride /= 2) {
         for (std::size_t block = 0; block < size / 2; block += stride) {
-            const Bin w = turns[block];
+            const Bin w = {turns[block * apart].re, static_cast<long double>(sign) * turns[block * apart].im};
             for (std::size_t i = 0; i < stride; ++i) {
                 const Bin a = x[2 * block + i];
                 const Bin b = product(x[2 * block + stride + i], w);

@@ -15,7 +15,7 @@ D scaledProduct(A a, B b, int s)
     if constexpr (requires { b.re; }) {
         using P = decltype(D::re);
         if constexpr (requires { a.re; }) {
-            const auto times = [](auto x, auto y) { return product(exact(x), exact(y)); };
+            const auto times = [](auto x, auto y) { return Wide(static_cast<std::int64_t>(x) * y); };
             return {scaled<P>(times(a.re, b.re) - times(a.im, b.im), s),
                     scaled<P>(times(a.re, b.im) + times(a.im, b.re), s)};
         } else {

@@ -95,18 +95,21 @@ constexpr Dst saturatedMultiple(Wide t, std::int64_t n)
 template <std::integral Dst>
 constexpr Dst scaled(Wide t, int s)
 {
-    if (s >= 0)
-        return saturated<Dst>(roundedQuotient(t, s));
-    return saturatedMultiple<Dst>(t, -static_cast<std::int64_t>(s));
+    constexpr int largestDivisor = 62;
+    if (s < 0)
+        return saturatedMultiple<Dst>(t, -static_cast<std::int64_t>(s));
+    if (t == Wide(static_cast<std::int64_t>(t.low))) {
+        if (s <= largestDivisor)
+            return saturated<Dst>(roundedQuotient(static_cast<std::int64_t>(t.low), s));
+        if (s > 64) // less than one half
+            return 0;
+    }
+    return saturated<Dst>(roundedQuotient(t, s));
 }
 
 template <std::integral Dst, std::integral T>
 constexpr Dst scaled(T t, int s)
 {
-    constexpr int largestDivisor = 62;
-    const bool fits = std::is_signed_v<T> || sizeof(T) < sizeof(std::int64_t);
-    if (fits && s >= 0 && s <= largestDivisor)
-        return saturated<Dst>(roundedQuotient(static_cast<std::int64_t>(t), s));
     return scaled<Dst>(exact(t), s);
 }
 

@@ -29,30 +29,33 @@ constexpr std::size_t everyValue = 65536;
 constexpr std::size_t mostHardPairs = 4096;
 constexpr std::size_t randomValuesBehind = 2048;
 
-/// Two operands: every pair of bytes; else pairs of hard values, evenly thinned out where there are too many.
+/// Pairs of hard values, evenly thinned out where there are too many.
+template <class First, class Second>
+void makeHardPairs(std::vector<First>& first, std::vector<Second>& second)
+{
+    const std::vector<First>& a = hardValues<First>();
+    const std::vector<Second>& b = hardValues<Second>();
+    const std::size_t pairs = a.size() * b.size();
+    const std::size_t count = std::min(pairs, mostHardPairs);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t pair = i * pairs / count;
+        first.push_back(a[pair / b.size()]);
+        // Turned by one for each row, so that thinning out does not keep to a few columns.
+        second.push_back(b[(pair + pair / b.size()) % b.size()]);
+    }
+}
+
+/// Two operands: every pair of bytes, else hard ones.
 template <class First, class Second>
 void makePairs(std::vector<First>& first, std::vector<Second>& second)
 {
-    auto cross = [&](const std::vector<First>& a, const std::vector<Second>& b, std::size_t most) {
-        const std::size_t pairs = a.size() * b.size();
-        const std::size_t count = std::min(pairs, most);
-        for (std::size_t i = 0; i < count; ++i) {
-            const std::size_t pair = i * pairs / count;
-            first.push_back(a[pair / b.size()]);
-            // Turned by one for each row, so that thinning out does not keep to a few columns.
-            second.push_back(b[(pair + pair / b.size()) % b.size()]);
-        }
-    };
     if constexpr (sizeof(First) == 1 && sizeof(Second) == 1) {
-        std::vector<First> a;
-        std::vector<Second> b;
-        for (int bits = 0; bits < 256; ++bits) {
-            a.push_back(static_cast<First>(bits));
-            b.push_back(static_cast<Second>(bits));
+        for (std::size_t bits = 0; bits < everyValue; ++bits) {
+            first.push_back(static_cast<First>(bits / 256));
+            second.push_back(static_cast<Second>(bits % 256));
         }
-        cross(a, b, everyValue);
     } else {
-        cross(hardValues<First>(), hardValues<Second>(), mostHardPairs);
+        makeHardPairs(first, second);
     }
 }
 
@@ -95,6 +98,26 @@ Columns<Src...> makeColumns(Values kind = Values::mixed, std::size_t atLeast = 0
             values.push_back(randomValue<T>(random, kind));
     };
     [&]<std::size_t... K>(std::index_sequence<K...>) { (extend(std::get<K>(columns), K), ...); }
+    (std::index_sequence_for<Src...>{});
+    return columns;
+}
+
+/// One part in `parts` of columns that hold every value there is, from `turn` on, behind the hard values: what a sweep
+/// takes that is one of many. As many turns see every value; 17 parts cross the rows of pairs.
+template <class... Src>
+Columns<Src...> thinnedColumns(const Columns<Src...>& all, std::size_t turn)
+{
+    constexpr std::size_t parts = 17;
+    Columns<Src...> columns;
+    if constexpr (sizeof...(Src) == 1)
+        std::get<0>(columns) = hardValues<Src...>();
+    else if constexpr (sizeof...(Src) == 2)
+        detail::makeHardPairs(std::get<0>(columns), std::get<1>(columns));
+    const auto thin = [turn](const auto& values, auto& part) {
+        for (std::size_t i = turn % parts; i < values.size(); i += parts)
+            part.push_back(values[i]);
+    };
+    [&]<std::size_t... K>(std::index_sequence<K...>) { (thin(std::get<K>(all), std::get<K>(columns)), ...); }
     (std::index_sequence_for<Src...>{});
     return columns;
 }

@@ -72,10 +72,22 @@ std::size_t shortestColumn(const SweepOptions& options)
     return static_cast<std::size_t>(len);
 }
 
+bool isFull(const SweepOptions& options)
+{
+    static const bool quick = sweepsAreQuick();
+    return options.depth == Depth::full && !quick;
+}
+
+std::size_t nextTurn()
+{
+    static std::size_t turn = 0;
+    return turn++;
+}
+
 Plan makePlan(const SweepOptions& options, std::size_t longest, bool windowsByLength)
 {
     Plan plan;
-    plan.full = options.depth == Depth::full && !sweepsAreQuick();
+    plan.full = isFull(options);
     plan.lengths = lengths(options.thresholds);
     plan.longest = static_cast<int>(longest);
     plan.windowsByLength = windowsByLength;

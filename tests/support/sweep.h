@@ -36,7 +36,8 @@ namespace tarn::test {
 enum class Depth {
     full, ///< every length to 70 at every byte offset of the destination times every one of the sources; quick if the
           ///< environment has TARNS_TEST_DEPTH=quick
-    quick ///< every length to 70, few offsets each, all offsets in turn: some 350 calls
+    quick ///< every length to 70, few offsets each, all offsets in turn: some 350 calls; of operands that take every
+          ///< value there is, a part, another one each time
 };
 
 struct SweepOptions {
@@ -93,6 +94,12 @@ auto valueOf(R result)
 
 /// The columns have to hold the longest run.
 std::size_t shortestColumn(const SweepOptions& options);
+
+/// Whether a sweep has full depth, which the environment may deny.
+bool isFull(const SweepOptions& options);
+
+/// Counts the sweeps that take a part of all values.
+std::size_t nextTurn();
 
 Plan makePlan(const SweepOptions& options, std::size_t longest, bool windowsByLength);
 
@@ -199,19 +206,30 @@ void sweepWindows(AnyCall call, ArrayModel<Dst, Src...> model, const Columns<Src
     run(job);
 }
 
+/// The columns of a test, or those of its types where it has none.
 template <class... Src>
-void completeColumns(Columns<Src...>& columns, const SweepOptions& options)
+const Columns<Src...>& completeColumns(Columns<Src...>& columns, const SweepOptions& options)
 {
     if constexpr (sizeof...(Src) > 0) {
-        if (std::get<0>(columns).empty())
-            columns = makeColumns<Src...>(options.values, shortestColumn(options));
+        if (!std::get<0>(columns).empty())
+            return columns;
+        const std::size_t shortest = shortestColumn(options);
+        if (options.values != Values::mixed || shortest > shortestColumn({})) {
+            columns = makeColumns<Src...>(options.values, shortest);
+            return columns;
+        }
+        static const Columns<Src...> usual = makeColumns<Src...>(Values::mixed, shortest);
+        if (std::get<0>(usual).size() < everyValue || isFull(options))
+            return usual;
+        columns = thinnedColumns(usual, nextTurn());
     }
+    return columns;
 }
 
 template <class Dst, class... Src, class Model>
-void sweep(AnyCall call, Model& model, Columns<Src...>& columns, const SweepOptions& options, Aliasing aliasing)
+void sweep(AnyCall call, Model& model, Columns<Src...>& given, const SweepOptions& options, Aliasing aliasing)
 {
-    completeColumns(columns, options);
+    const Columns<Src...>& columns = completeColumns(given, options);
     if constexpr (elementModel<Model, Src...>) {
         const auto element = [&](Dst& value, const Src&... values) {
             auto result = model(values...);

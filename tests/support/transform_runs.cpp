@@ -3,10 +3,10 @@
 #include "support/compare.h"
 #include "support/fpstate.h"
 #include "support/guarded.h"
+#include "support/hard_values.h"
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <thread>
 
 namespace tarn::test {
@@ -14,12 +14,7 @@ namespace tarn::test {
 template <class T>
 std::vector<T> signal(std::size_t count, unsigned seed)
 {
-    std::mt19937 random(seed);
-    std::uniform_real_distribution<double> uniform(-1, 1);
-    std::vector<T> values(count);
-    for (T& value : values)
-        value = static_cast<T>(uniform(random));
-    return values;
+    return randomValues<T>(count, seed, Values::unit);
 }
 
 template <class T>
@@ -76,8 +71,7 @@ Arrays<T> runAt(const TransformCase<T>& transform, const Arrays<T>& src, const T
         to.push_back(std::make_unique<GuardedArray<T>>(reals, Placement::offset(places.dst)));
         destinations[i] = to.back()->data();
         if (places.inPlace) {
-            for (std::size_t j = 0; j < src[i].size(); ++j)
-                to.back()->set(j, src[i][j]);
+            to.back()->assign(src[i]);
             sources[i] = destinations[i];
         } else {
             from.push_back(std::make_unique<GuardedArray<T>>(src[i], Placement::offset(places.src)));

@@ -43,14 +43,15 @@ void expectAgreementAt(const WordType& word, const Columns<T...>& columns, std::
     const auto pack = word(loadPack<N>(std::get<K>(columns).data() + first)...);
     using Lane = Element<std::remove_const_t<decltype(pack)>>;
     static_assert(std::remove_const_t<decltype(pack)>::size == N);
-    std::vector<Lane> actual(N);
-    store(actual.data(), pack);
-    std::vector<Lane> expected;
-    for (std::size_t i = first; i < first + N; ++i)
-        expected.push_back(laneOf<Lane>(word(std::get<K>(columns)[i]...)));
+    Lane actual[N];
+    store(actual, pack);
+    Lane expected[N];
+    for (std::size_t i = 0; i < N; ++i)
+        expected[i] = laneOf<Lane>(word(std::get<K>(columns)[first + i]...));
+    if (std::memcmp(expected, actual, sizeof actual) == 0)
+        return;
     constexpr bool isMask = std::is_same_v<decltype(word(std::declval<T>()...)), bool>;
-    EXPECT_TRUE(
-        arraysMatch<Lane>(expected.data(), actual.data(), N, {.nan = isMask ? NanRule::sameBits : NanRule::anyNan}))
+    EXPECT_TRUE(arraysMatch<Lane>(expected, actual, N, {.nan = isMask ? NanRule::sameBits : NanRule::anyNan}))
         << "operands from " << first;
 }
 
@@ -60,7 +61,7 @@ template <class... T, class WordType>
 void expectAgreement(const WordType& word)
 {
     constexpr int step = std::max({lanes<T>...});
-    auto columns = makeColumns<T...>(Values::mixed, 2 * step);
+    static const auto columns = makeColumns<T...>(Values::mixed, 2 * step);
     const std::size_t count = std::get<0>(columns).size();
     for (std::size_t first = 0; first + 2 * step <= count; first += step) {
         detail::expectAgreementAt<std::max({registerLanes<T>...}), T...>(word, columns, first,

@@ -7,6 +7,7 @@
 #include "interface/digest/values.h"
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <optional>
 #include <span>
@@ -127,17 +128,39 @@ private:
     std::unique_ptr<void*> place;
 };
 
-const FrontEnd* freeingOf(const std::string& type)
+/// The functions that have to do with objects of one type. Found once: there are many functions to ask.
+struct Kin {
+    const FrontEnd* freeing = nullptr;
+    std::vector<const FrontEnd*> making;
+    const FrontEnd* working = nullptr; ///< the first that gives results
+};
+
+const Kin& kinOf(const std::string& type)
 {
-    for (const FrontEnd& one : frontEnds())
-        if (has(one.name, "Free") && one.arguments.size() == 1 && one.arguments[0].type == type)
-            return &one;
-    return nullptr;
+    static std::map<std::string, Kin> known;
+    const auto [place, isNew] = known.try_emplace(type);
+    Kin& kin = place->second;
+    if (!isNew)
+        return kin;
+    for (const FrontEnd& one : frontEnds()) {
+        const auto& arguments = one.arguments;
+        const auto any = [&](auto is) { return std::any_of(arguments.begin(), arguments.end(), is); };
+        if (kin.freeing == nullptr && has(one.name, "Free") && arguments.size() == 1 && arguments[0].type == type)
+            kin.freeing = &one;
+        // Change of rate is only for functions whose own it is.
+        if (has(one.name, "InitAlloc") && !has(one.name, "FIRMR") && arguments[0].type == type)
+            kin.making.push_back(&one);
+        if (kin.working == nullptr && !has(one.name, "Init") &&
+            any([](const Argument& a) { return a.name == "pDst"; }) &&
+            any([&](const Argument& a) { return a.type == type && a.depth == 1; }))
+            kin.working = &one;
+    }
+    return kin;
 }
 
 void release(const Object& object)
 {
-    const FrontEnd* freeing = object.allocated ? freeingOf(object.type) : nullptr;
+    const FrontEnd* freeing = object.allocated ? kinOf(object.type).freeing : nullptr;
     if (freeing == nullptr)
         return;
     std::vector<Slot> values(1);
@@ -147,12 +170,9 @@ void release(const Object& object)
 
 Object makeObject(const std::string& type, int call, Random& random)
 {
-    for (const FrontEnd& one : frontEnds()) {
-        // Change of rate is only for functions whose own it is.
-        if (!has(one.name, "InitAlloc") || has(one.name, "FIRMR") || one.arguments[0].type != type)
-            continue;
+    for (const FrontEnd* one : kinOf(type).making) {
         for (int attempt = 0; attempt < 20; ++attempt) {
-            Calling making(one, call, random);
+            Calling making(*one, call, random);
             Hash unused;
             making.run(unused);
             if (making.made) {
@@ -304,20 +324,12 @@ std::uint64_t Calling::outputsBefore() const
 
 void Calling::probeOne(const Object& touched, Hash& hash)
 {
-    for (const FrontEnd& one : frontEnds()) {
-        const auto& arguments = one.arguments;
-        const auto of = [&](const char* name) {
-            return std::find_if(arguments.begin(), arguments.end(), [&](const Argument& a) { return a.name == name; });
-        };
-        const bool works = std::any_of(arguments.begin(), arguments.end(),
-                                       [&](const Argument& a) { return a.type == touched.type && a.depth == 1; });
-        if (!works || of("pDst") == arguments.end() || has(one.name, "Init"))
-            continue;
-        for (int length : {5, 70}) {
-            Calling probing(one, length, random, &touched);
-            probing.run(hash);
-        }
+    const FrontEnd* const working = kinOf(touched.type).working;
+    if (working == nullptr)
         return;
+    for (int length : {5, 70}) {
+        Calling probing(*working, length, random, &touched);
+        probing.run(hash);
     }
 }
 
