@@ -98,15 +98,46 @@ private:
     int count;
 };
 
+// Medians in consecutive places of an array, as many as a pack has elements.
+template <int size, typename T, int step>
+struct MedianStep {
+    static constexpr int reach = size / 2;
+    using Medians = Pack<T, step>;
+    using Behind = std::array<Medians, reach>;
+
+    // What lies 1, 2, ... places behind those from p on.
+    static TARN_INLINE Behind behind(const T* p)
+    {
+        Behind packs;
+        repeat<reach>([&](auto k) __attribute__((always_inline)) { packs[k] = loadPack<step>(p - (k + 1)); });
+        return packs;
+    }
+    static TARN_INLINE Medians at(const T* p, const Behind& behind)
+    {
+        return [&]<int... k>(std::integer_sequence<int, k...>) __attribute__((always_inline))
+        {
+            return MedianOf<size>{}(behind[k]..., loadPack<step>(p), loadPack<step>(p + (k + 1))...);
+        }
+        (std::make_integer_sequence<int, reach>{});
+    }
+    static TARN_INLINE Medians at(const T* p) { return at(p, behind(p)); }
+};
+
+// How many steps are written side by side: small networks take less than their loop does.
+template <int size>
+inline constexpr int networksAtOnce = size <= 5 ? 2 : 1;
+
 // dst[n] = the median of src[n - size/2], ..., src[n + size/2] for all n but the first and the last, which are not
-// written. The source may be the destination: what a step needs of the elements in front of it is read before the step
-// in front of it writes, and both ends are found first.
+// written. The source may be the destination: what a step needs of the elements behind it is read before the step
+// behind it writes, and both ends are found first.
 template <int size, typename T>
 void slideNetwork(const T* src, T* dst, int len)
 {
     constexpr int reach = size / 2;
     constexpr int step = std::max(lanes<T>, 2 * ((reach + 1) / 2)); // not less than the reach
-    using Step = Pack<T, step>;
+    constexpr int together = networksAtOnce<size>;
+    using Step = MedianStep<size, T, step>;
+    using Medians = typename Step::Medians;
 
     if (len < 2 * reach + step) {
         if (len > 2) {
@@ -117,35 +148,35 @@ void slideNetwork(const T* src, T* dst, int len)
 
     const MediansApart<size, reach, T> front(src, len, 1, reach - 1);
     const MediansApart<size, reach, T> back(src, len, len - reach, reach - 1);
-    const auto median = [&]<int... k, int... j>(const std::array<Step, reach>& behind, Index n,
-                                                std::integer_sequence<int, k...>, std::integer_sequence<int, j...>)
-        __attribute__((always_inline))
-    {
-        return MedianOf<size>{}(behind[k]..., loadPack<step>(src + n + j)...);
-    };
-    const auto medianAt = [&](const std::array<Step, reach>& behind, Index n) __attribute__((always_inline))
-    {
-        return median(behind, n, std::make_integer_sequence<int, reach>{},
-                      std::make_integer_sequence<int, reach + 1>{});
-    };
-    const auto behindAt = [&](Index n) __attribute__((always_inline))
-    {
-        std::array<Step, reach> behind;
-        repeat<reach>([&](auto k) __attribute__((always_inline)) { behind[k] = loadPack<step>(src + n + k - reach); });
-        return behind;
-    };
+    T* const lastStep = dst + (len - reach - step);
+    const Medians last = Step::at(src + (len - reach - step));
 
-    const Index end = len - reach;
-    const Step last = medianAt(behindAt(end - step), end - step);
-    std::array<Step, reach> behind = behindAt(reach);
-    Index n = reach;
-    for (; n <= end - 2 * step; n += step) {
-        const Step medians = medianAt(behind, n);
-        behind = behindAt(n + step);
-        store(dst + n, medians);
+    const T* from = src + reach;
+    T* to = dst + reach;
+    Index left = len - 2 * reach;
+    typename Step::Behind behind = Step::behind(from);
+    if constexpr (together > 1) {
+        for (; left >= (together + 1) * step; left -= together * step) {
+            std::array<Medians, together> medians;
+            medians[0] = Step::at(from, behind);
+            repeat<together - 1>([&](auto k) __attribute__((always_inline)) {
+                medians[k + 1] = Step::at(from + (k + 1) * step);
+            });
+            from += together * step;
+            behind = Step::behind(from);
+            repeat<together>([&](auto k) __attribute__((always_inline)) { store(to + k * step, medians[k]); });
+            to += together * step;
+        }
     }
-    store(dst + n, medianAt(behind, n));
-    store(dst + (end - step), last);
+    for (; left >= 2 * step; left -= step) {
+        const Medians medians = Step::at(from, behind);
+        from += step;
+        behind = Step::behind(from);
+        store(to, medians);
+        to += step;
+    }
+    store(to, Step::at(from, behind));
+    store(lastStep, last);
     front.storeTo(dst);
     back.storeTo(dst);
 }
