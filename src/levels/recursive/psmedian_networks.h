@@ -125,7 +125,11 @@ struct MedianStep {
 
 // How many steps are written side by side: small networks take less than their loop does.
 template <int size>
-inline constexpr int networksAtOnce = size <= 5 ? 2 : 1;
+inline constexpr int networksAtOnce = 1;
+template <>
+inline constexpr int networksAtOnce<3> = 4;
+template <>
+inline constexpr int networksAtOnce<5> = 2;
 
 // dst[n] = the median of src[n - size/2], ..., src[n + size/2] for all n but the first and the last, which are not
 // written. The source may be the destination: what a step needs of the elements behind it is read before the step
@@ -146,37 +150,42 @@ void slideNetwork(const T* src, T* dst, int len)
         return;
     }
 
+    // Whole steps begin where the destination has a boundary, so that none of their stores touches two lines.
     const MediansApart<size, reach, T> front(src, len, 1, reach - 1);
     const MediansApart<size, reach, T> back(src, len, len - reach, reach - 1);
-    T* const lastStep = dst + (len - reach - step);
+    const Medians first = Step::at(src + reach);
     const Medians last = Step::at(src + (len - reach - step));
+    const int begin = reach + elementsToBoundary(dst + reach);
 
-    const T* from = src + reach;
-    T* to = dst + reach;
-    Index left = len - 2 * reach;
-    typename Step::Behind behind = Step::behind(from);
-    if constexpr (together > 1) {
-        for (; left >= (together + 1) * step; left -= together * step) {
-            std::array<Medians, together> medians;
-            medians[0] = Step::at(from, behind);
-            repeat<together - 1>([&](auto k) __attribute__((always_inline)) {
-                medians[k + 1] = Step::at(from + (k + 1) * step);
-            });
-            from += together * step;
-            behind = Step::behind(from);
-            repeat<together>([&](auto k) __attribute__((always_inline)) { store(to + k * step, medians[k]); });
-            to += together * step;
+    const T* from = src + begin;
+    T* to = dst + begin;
+    Index left = len - reach - begin;
+    if (left >= step) {
+        typename Step::Behind behind = Step::behind(from);
+        if constexpr (together > 1) {
+            for (; left >= (together + 1) * step; left -= together * step) {
+                std::array<Medians, together> medians;
+                medians[0] = Step::at(from, behind);
+                repeat<together - 1>([&](auto k) __attribute__((always_inline)) {
+                    medians[k + 1] = Step::at(from + (k + 1) * step);
+                });
+                from += together * step;
+                behind = Step::behind(from);
+                repeat<together>([&](auto k) __attribute__((always_inline)) { store(to + k * step, medians[k]); });
+                to += together * step;
+            }
         }
+        for (; left >= 2 * step; left -= step) {
+            const Medians medians = Step::at(from, behind);
+            from += step;
+            behind = Step::behind(from);
+            store(to, medians);
+            to += step;
+        }
+        store(to, Step::at(from, behind));
     }
-    for (; left >= 2 * step; left -= step) {
-        const Medians medians = Step::at(from, behind);
-        from += step;
-        behind = Step::behind(from);
-        store(to, medians);
-        to += step;
-    }
-    store(to, Step::at(from, behind));
-    store(lastStep, last);
+    store(dst + reach, first);
+    store(dst + (len - reach - step), last);
     front.storeTo(dst);
     back.storeTo(dst);
 }
