@@ -160,7 +160,7 @@ template <typename Window, typename T>
 TARN_INLINE void slideWindow(const T* src, T* dst, int len, int size, int taken, Arrivals<Sorted<T>> arrivals,
                              Window window)
 {
-    const Index middle = window.placeOf(size / 2);
+    const int middle = window.placeOf(size / 2);
     const auto next = [&](Sorted<T> fresh, Index n) __attribute__((always_inline))
     {
         window.replace(arrivals.exchange(fresh), fresh);
