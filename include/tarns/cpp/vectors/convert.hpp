@@ -26,24 +26,6 @@ inline Warning convert(std::span<const std::int16_t> src, std::span<std::int32_t
             : tarnStsSizeErr);
 }
 
-/// tarnsConvert_24u32u
-inline Warning convert(std::span<const std::uint8_t> src, std::span<std::uint32_t> dst)
-{
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsConvert_24u32u(detail::data<Tarn8u>(src), detail::data<Tarn32u>(dst), detail::count(src))
-            : tarnStsSizeErr);
-}
-
-/// tarnsConvert_24s32s
-inline Warning convert(std::span<const std::uint8_t> src, std::span<std::int32_t> dst)
-{
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsConvert_24s32s(detail::data<Tarn8u>(src), detail::data<Tarn32s>(dst), detail::count(src))
-            : tarnStsSizeErr);
-}
-
 // Converts to floating point:
 
 /// tarnsConvert_8s32f
@@ -79,24 +61,6 @@ inline Warning convert(std::span<const std::uint16_t> src, std::span<float> dst)
     return detail::warning(
         detail::sameSize(src, dst)
             ? tarnsConvert_16u32f(detail::data<Tarn16u>(src), detail::data<Tarn32f>(dst), detail::count(src))
-            : tarnStsSizeErr);
-}
-
-/// tarnsConvert_24s32f
-inline Warning convert_24s32f(std::span<const std::uint8_t> src, std::span<float> dst)
-{
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsConvert_24s32f(detail::data<Tarn8u>(src), detail::data<Tarn32f>(dst), detail::count(src))
-            : tarnStsSizeErr);
-}
-
-/// tarnsConvert_24u32f
-inline Warning convert_24u32f(std::span<const std::uint8_t> src, std::span<float> dst)
-{
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsConvert_24u32f(detail::data<Tarn8u>(src), detail::data<Tarn32f>(dst), detail::count(src))
             : tarnStsSizeErr);
 }
 
@@ -183,24 +147,6 @@ inline Warning convert(std::span<const std::int32_t> src, std::span<std::int16_t
 {
     return detail::warning(detail::sameSize(src, dst)
                                ? tarnsConvert_32s16s_Sfs(detail::data<Tarn32s>(src), detail::data<Tarn16s>(dst),
-                                                         detail::count(src), scaleFactor)
-                               : tarnStsSizeErr);
-}
-
-/// tarnsConvert_32s24s_Sfs
-inline Warning convert(std::span<const std::int32_t> src, std::span<std::uint8_t> dst, int scaleFactor)
-{
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarnsConvert_32s24s_Sfs(detail::data<Tarn32s>(src), detail::data<Tarn8u>(dst),
-                                                         detail::count(src), scaleFactor)
-                               : tarnStsSizeErr);
-}
-
-/// tarnsConvert_32u24u_Sfs
-inline Warning convert(std::span<const std::uint32_t> src, std::span<std::uint8_t> dst, int scaleFactor)
-{
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarnsConvert_32u24u_Sfs(detail::data<Tarn32u>(src), detail::data<Tarn8u>(dst),
                                                          detail::count(src), scaleFactor)
                                : tarnStsSizeErr);
 }

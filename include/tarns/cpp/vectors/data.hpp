@@ -333,15 +333,6 @@ inline Warning swapBytes(std::span<const std::uint16_t> src, std::span<std::uint
             : tarnStsSizeErr);
 }
 
-/// tarnsSwapBytes_24u
-inline Warning swapBytes(std::span<const std::uint8_t> src, std::span<std::uint8_t> dst)
-{
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsSwapBytes_24u(detail::data<Tarn8u>(src), detail::data<Tarn8u>(dst), detail::count(src))
-            : tarnStsSizeErr);
-}
-
 /// tarnsSwapBytes_32u
 inline Warning swapBytes(std::span<const std::uint32_t> src, std::span<std::uint32_t> dst)
 {
@@ -358,14 +349,6 @@ inline Warning swapBytes(std::span<std::uint16_t> srcDst)
 {
     return detail::warning(detail::sameSize(srcDst)
                                ? tarnsSwapBytes_16u_I(detail::data<Tarn16u>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
-}
-
-/// tarnsSwapBytes_24u_I
-inline Warning swapBytes(std::span<std::uint8_t> srcDst)
-{
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsSwapBytes_24u_I(detail::data<Tarn8u>(srcDst), detail::count(srcDst))
                                : tarnStsSizeErr);
 }
 

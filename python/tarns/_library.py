@@ -1,0 +1,42 @@
+"""Loads the shared library, and turns its statuses into exceptions and warnings."""
+import ctypes.util
+import os
+import warnings
+
+from ._declarations import ffi
+
+
+class Error(ValueError):
+    """A call was refused; `status` is the library's number."""
+
+    def __init__(self, status):
+        super().__init__(ffi.string(lib.tarnGetStatusString(status)).decode())
+        self.status = status
+
+
+class Warning(RuntimeWarning):  # pylint: disable=redefined-builtin
+    """A call did what it was asked to, and noticed something: a division by zero, say."""
+
+
+def _load():
+    wanted = os.environ.get("TARNS_LIBRARY")
+    beside = os.path.join(os.path.dirname(__file__), "libtarnst7.so")
+    names = [wanted] if wanted else [beside, "libtarnst7.so", ctypes.util.find_library("tarnst7") or ""]
+    problems = []
+    for name in filter(None, names):
+        try:
+            return ffi.dlopen(name)
+        except OSError as problem:
+            problems.append(str(problem))
+    raise ImportError("the library tarns is not installed; TARNS_LIBRARY can name its file: " + "; ".join(problems))
+
+
+lib = _load()
+
+
+def check(status):
+    """Raises what is below 0, and warns of what is above."""
+    if status < 0:
+        raise Error(status)
+    if status > 0:
+        warnings.warn(ffi.string(lib.tarnGetStatusString(status)).decode(), Warning, stacklevel=4)
