@@ -24,6 +24,11 @@ inline D rounded(S x)
     }
 }
 
+// What the table of a section is computed in. Beside the unit circle a section's poles are sensitive to each of its
+// weights, so these are rounded once.
+template <typename T>
+using Exacter = std::conditional_t<std::is_same_v<T, Tarn64f>, long double, Exact<T>>;
+
 // Rows of the weights of past outputs, then of the inputs, on four outputs. Each column follows from the one in front:
 // its first weight times the filter's own, and the weight of the output before.
 template <typename T>
@@ -70,22 +75,38 @@ inline void writeOrderTables(IirFields<T>* state)
 template <typename T>
 inline void writeSectionTables(IirFields<T>* state)
 {
+    using W = Exacter<T>;
+    const auto sumOf = [](W a, W b, W c, W d) { // a b + c d
+        if constexpr (isComplex<T>) {
+            return add(product(a, b), product(c, d));
+        } else {
+            return a * b + c * d;
+        }
+    };
     state->isSingly = 0;
     for (int section = 0; section < state->numBq; ++section) {
         const T* const taps = state->pTaps + std::ptrdiff_t{sectionTaps} * section;
         const T c1 = negated(taps[3]);
         const T c2 = negated(taps[4]);
         Numerators<T>::write(taps, sectionOrder + 1, state->pTapsX + std::ptrdiff_t{sectionTapsX<T>} * section);
-        const T p = add(product(c1, c1), c2);
-        const T q = add(product(c2, c1), product(p, c1));
-        const T r = add(product(p, c2), product(q, c1));
-        const T u = product(c1, c2);
-        const T v = add(product(c2, c2), product(c1, u));
-        const T w = add(product(c2, u), product(v, c1));
+        const W k1 = rounded<W>(c1);
+        const W k2 = rounded<W>(c2);
+        const W p = sumOf(k1, k1, k2, one<W>());
+        const W q = sumOf(k2, k1, p, k1);
+        const W r = sumOf(p, k2, q, k1);
+        const W u = sumOf(k1, k2, W{}, W{});
+        const W v = sumOf(k2, k2, k1, u);
+        const W w = sumOf(k2, u, v, k1);
+        const T h2 = rounded<T>(p);
+        const T h3 = rounded<T>(q);
         const T zero{};
-        const T weights[sectionTapsY] = {c1, p, q,    r,        c2, u, v,    w,    one<T>(), c1,
-                                         p,  q, zero, one<T>(), c1, p, zero, zero, one<T>(), c1};
-        copy(weights, state->pTapsY + std::ptrdiff_t{sectionTapsY} * section, sectionTapsY);
+        const T rows[][ahead] = {{c1, h2, h3, rounded<T>(r)},
+                                 {c2, rounded<T>(u), rounded<T>(v), rounded<T>(w)},
+                                 {one<T>(), c1, h2, h3},
+                                 {zero, one<T>(), c1, h2},
+                                 {zero, zero, one<T>(), c1}};
+        static_assert(sizeof rows == sizeof(T[sectionTapsY]));
+        copy(&rows[0][0], state->pTapsY + std::ptrdiff_t{sectionTapsY} * section, sectionTapsY);
         if (state->pTapsOne != nullptr) {
             const T single[sectionTapsOne] = {taps[0], taps[1], taps[2], zero, c1, c2, zero, zero};
             copy(single, state->pTapsOne + std::ptrdiff_t{sectionTapsOne} * section, sectionTapsOne);
