@@ -153,10 +153,38 @@ std::vector<typename F::Sample> filterIirInCalls(typename F::State* state,
     return out;
 }
 
+/// The largest sum of weights, over the outputs of a step of four, that past outputs and inputs have in an output.
+inline iir::Wide lookAheadWeight(const iir::Section& s)
+{
+    const std::size_t n = s.a.size();
+    iir::Wide sums[4] = {};
+    const auto addResponse = [&](iir::Numbers y,
+                                 iir::Number input) { // to outputs before, the latest last, and an input
+        for (iir::Wide& sum : sums) {
+            iir::Number next = input;
+            for (std::size_t k = 0; k < n; ++k)
+                next -= iir::product(s.a[k], y[y.size() - 1 - k]);
+            input = 0;
+            y.push_back(next);
+            sum += std::abs(next);
+        }
+    };
+    for (std::size_t k = 0; k < n; ++k) {
+        iir::Numbers history(n);
+        history[n - 1 - k] = 1;
+        addResponse(history, 0);
+    }
+    addResponse(iir::Numbers(n), 1);
+    return *std::max_element(std::begin(sums), std::end(sums));
+}
+
 /// How far results may be from exact ones. An output of a section has at most 2 n + 6 roundings, by whichever road, of
-/// sums whose terms are at most those of the numerators and of the look-ahead, the weights of which are at most
-/// (1 + sum of |c|)^4; an error then goes through the section's recursion, and all sections behind it.
-inline iir::Wide iirBound(const iir::Filter& filter, const iir::Numbers& signal, iir::Wide epsilon)
+/// sums whose terms are at most those of the numerators, and those of the outputs times the weights of looking ahead.
+/// For the recursion an error is one of its input, and the errors of the outputs beside it are missing there: it is
+/// that error times 1 + sum of |a| at most. So it goes through the recursion, and all sections behind it. Single
+/// samples do not look ahead.
+inline iir::Wide iirBound(const iir::Filter& filter, const iir::Numbers& signal, iir::Wide epsilon,
+                          bool looksAhead = true)
 {
     iir::Wide bound = 0;
     iir::Numbers x = signal;
@@ -176,7 +204,7 @@ inline iir::Wide iirBound(const iir::Filter& filter, const iir::Numbers& signal,
         iir::Numbers line(s.a.size());
         const iir::Wide in = peak(x);
         x = iir::run({s}, x, line);
-        iir::Numbers pulse(400);
+        iir::Numbers pulse(signal.size());
         pulse[0] = 1;
         iir::Section recursion = s;
         std::fill(recursion.b.begin(), recursion.b.end(), iir::Number{});
@@ -185,8 +213,9 @@ inline iir::Wide iirBound(const iir::Filter& filter, const iir::Numbers& signal,
         iir::Wide gain = 0;
         for (iir::Number h : iir::run({recursion}, pulse, line))
             gain += std::abs(h);
+        const iir::Wide weight = looksAhead ? lookAheadWeight(s) : 1;
         const iir::Wide own =
-            (2 * static_cast<iir::Wide>(s.a.size()) + 6) * epsilon * (sumB * in + peak(x)) * std::pow(sumA, 4.0L);
+            (2 * static_cast<iir::Wide>(s.a.size()) + 6) * epsilon * (sumB * in + peak(x)) * weight * sumA;
         bound = gain * (sumB * bound + own);
     }
     return 2 * bound;
