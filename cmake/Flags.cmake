@@ -2,7 +2,21 @@
 
 # Dependencies are built here too, so these go to the whole tree: mixing levels or floating-point units in one
 # program would change results in the tests.
-set(TARNS_LEVEL_FLAGS -msse3)
+#
+# The level is the widest vector that the processor must have; results are the same at all of them. Wider registers come
+# with instructions that fuse a product and a sum, which nothing may use: see tarns_flags below.
+if(TARNS_LEVEL STREQUAL "T7")
+    set(TARNS_LEVEL_FLAGS -msse3)
+elseif(TARNS_LEVEL STREQUAL "Y8")
+    set(TARNS_LEVEL_FLAGS -mavx2)
+    add_compile_definitions(TARNS_REGISTER_BYTES=32)
+elseif(TARNS_LEVEL STREQUAL "Z9")
+    set(TARNS_LEVEL_FLAGS -mavx512f -mavx512bw -mavx512dq -mavx512vl -mprefer-vector-width=512)
+    add_compile_definitions(TARNS_REGISTER_BYTES=64)
+else()
+    message(FATAL_ERROR "TARNS_LEVEL is T7, Y8 or Z9, not ${TARNS_LEVEL}")
+endif()
+string(TOLOWER "${TARNS_LEVEL}" TARNS_LEVEL_MARK)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # 32-bit callers may enter with a stack aligned to 4 bytes only. Single and double precision belong on the SSE
     # unit, whose every operation rounds once; long double stays the 80-bit format.
@@ -36,6 +50,10 @@ add_library(tarns_flags INTERFACE)
 target_compile_options(tarns_flags INTERFACE -ffp-contract=off -Wall -Wextra $<$<COMPILE_LANGUAGE:CXX>:-Wconversion>
     # clang counts changes of sign among the conversions, and takes folds and aggregates for slips.
     $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-sign-conversion -Wno-parentheses-equality -Wno-missing-braces>)
+if(TARNS_LEVEL STREQUAL "Z9" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Its own header of these vectors has values that are deliberately undefined.
+    target_compile_options(tarns_flags INTERFACE -Wno-maybe-uninitialized)
+endif()
 if(TARNS_WARNINGS_AS_ERRORS)
     target_compile_options(tarns_flags INTERFACE -Werror)
 endif()

@@ -1,5 +1,26 @@
 # What an installed copy consists of: headers, library, CMake package, pkg-config file.
+#
+# The base level brings all of it. The wider ones add their libraries to an installed base, side by side with it, for
+# programs that link or open the level they want; and on x86-64 once more under the base library's name, in the folder in
+# which the dynamic linker looks first where the processor has such vectors, so that every program gets them.
 include(CMakePackageConfigHelpers)
+
+if(NOT TARNS_LEVEL STREQUAL "T7")
+    install(TARGETS tarns LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+        if(TARNS_LEVEL STREQUAL "Y8")
+            set(TARNS_HWCAPS_DIR glibc-hwcaps/x86-64-v3)
+        else()
+            set(TARNS_HWCAPS_DIR glibc-hwcaps/x86-64-v4)
+        endif()
+        add_library(tarns_by_processor SHARED $<TARGET_OBJECTS:tarns>)
+        set_target_properties(tarns_by_processor PROPERTIES
+            OUTPUT_NAME tarnst7 LINKER_LANGUAGE CXX LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${TARNS_HWCAPS_DIR})
+        tarns_link_library(tarns_by_processor)
+        install(TARGETS tarns_by_processor LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${TARNS_HWCAPS_DIR})
+    endif()
+    return()
+endif()
 
 set(TARNS_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/tarns)
 install(TARGETS tarns EXPORT tarnsTargets

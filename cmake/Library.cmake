@@ -13,14 +13,25 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     set_source_files_properties(${TARNS_WALKING_KERNELS} PROPERTIES COMPILE_OPTIONS "-fno-ivopts;-fno-tree-scev-cprop")
 endif()
 
+set_source_files_properties(${PROJECT_SOURCE_DIR}/core/tarnversion.cpp PROPERTIES
+    COMPILE_DEFINITIONS TARNS_LEVEL_MARK="${TARNS_LEVEL_MARK}")
+
 include(${CMAKE_CURRENT_LIST_DIR}/OpenMP.cmake)
+
+# tarns_link_library(<target>): what its objects are linked with, and what it shows of them.
+function(tarns_link_library target)
+    target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions -Wl,--as-needed
+        -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:OpenMP::OpenMP_CXX>)
+endfunction()
 
 # tarns_add_library(<target> <sanitizers>): the sources under these sanitizers, or optimised if there are none.
 function(tarns_add_library target sanitizers)
     add_library(${target} SHARED ${TARNS_SOURCES})
     # The level is part of the name, so that builds for other levels can be installed side by side.
     set_target_properties(${target} PROPERTIES
-        OUTPUT_NAME tarnst7
+        OUTPUT_NAME tarns${TARNS_LEVEL_MARK}
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
     target_include_directories(${target}
@@ -32,9 +43,7 @@ function(tarns_add_library target sanitizers)
     target_compile_options(${target} PRIVATE
         -fno-tree-vectorize -fno-tree-slp-vectorize $<$<CXX_COMPILER_ID:GNU>:-fno-tree-loop-distribute-patterns>
         -fno-math-errno -fno-exceptions -fno-rtti -fno-semantic-interposition)
-    target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions -Wl,--as-needed
-        -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
-    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    tarns_link_library(${target})
     if(sanitizers)
         # Line numbers are what a report needs; checks by calls instead of inline ones compile a third faster.
         target_compile_options(${target} PRIVATE -O1 -g1 -UNDEBUG
@@ -47,7 +56,7 @@ function(tarns_add_library target sanitizers)
         target_link_options(${target} PRIVATE -Wl,-z,defs) # a sanitizer's functions would be the program's
     endif()
     target_precompile_headers(${target} PRIVATE <frame/precompiled.h>)
-    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tarns_flags> $<BUILD_INTERFACE:OpenMP::OpenMP_CXX>)
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tarns_flags>)
 endfunction()
 
 tarns_add_library(tarns "${TARNS_SANITIZE}")

@@ -1,4 +1,4 @@
-// The version record.
+// The version record. The build says which level it is for.
 #include "tarncore.h"
 
 static const TarnLibraryVersion s_LibVer = {
@@ -6,8 +6,8 @@ static const TarnLibraryVersion s_LibVer = {
     .minor = 0,
     .majorBuild = 19,
     .build = 77,
-    .targetCpu = {'t', '7', 0, 0},
-    .name = "libtarnst7.so",
+    .targetCpu = TARNS_LEVEL_MARK,
+    .name = "libtarns" TARNS_LEVEL_MARK ".so",
     .version = "v4.0",
     .buildDate = "Oct 16 2003",
 };

@@ -103,7 +103,7 @@ typedef struct {
     int minor;             /**< minor version */
     int majorBuild;        /**< build number within the major version */
     int build;             /**< build number */
-    char targetCpu[4];     /**< instruction-set level of the build, "t7" for SSE3, padded with zero bytes */
+    char targetCpu[4];     /**< vector level of the build: "t7" SSE3, "y8" AVX2, "z9" AVX-512; padded with zero bytes */
     const char* name;      /**< name of the library's file */
     const char* version;   /**< version as text */
     const char* buildDate; /**< date of the build as text */

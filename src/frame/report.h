@@ -53,8 +53,8 @@ private:
     TARN_INLINE void gather(Pack<Tarn8u, N> mask)
     {
         if constexpr (N > vectorBytes) {
-            gather(mask.lo);
-            gather(mask.hi);
+            gather(lowHalf(mask));
+            gather(highHalf(mask));
         } else if constexpr (N == vectorBytes) {
             inPacks = bitOr(inPacks, mask);
         } else {

@@ -96,10 +96,10 @@ struct Store24 {
     template <Integer W>
     static TARN_INLINE Register<Stored24> of(Pack<W, registerBytes> x)
     {
-        const __m128i a = pairs(x.lo.lo.v);
-        const __m128i b = pairs(x.lo.hi.v);
-        const __m128i c = pairs(x.hi.lo.v);
-        const __m128i d = pairs(x.hi.hi.v);
+        const __m128i a = pairs(lowHalf(lowHalf(x)).v);
+        const __m128i b = pairs(highHalf(lowHalf(x)).v);
+        const __m128i c = pairs(lowHalf(highHalf(x)).v);
+        const __m128i d = pairs(highHalf(highHalf(x)).v);
         const __m128i first = _mm_unpacklo_epi64(a, c);
         const __m128i second = _mm_unpackhi_epi64(a, c);
         const __m128i third = _mm_unpacklo_epi64(b, d);

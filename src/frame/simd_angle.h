@@ -158,8 +158,8 @@ template <typename T, int N>
 TARN_INLINE SineAndCosine<Pack<T, N>> sineAndCosine(Pack<T, N> x)
 {
     if constexpr (N > registerLanes<T>) {
-        const auto lo = sineAndCosine(x.lo);
-        const auto hi = sineAndCosine(x.hi);
+        const auto lo = sineAndCosine(lowHalf(x));
+        const auto hi = sineAndCosine(highHalf(x));
         return {join(lo.sine, hi.sine), join(lo.cosine, hi.cosine)};
     } else {
         auto y = CircularMethod::ordinary(x);

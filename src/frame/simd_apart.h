@@ -98,8 +98,8 @@ template <Float T, int N>
 TARN_INLINE void storePairsReversed(T* p, Complex<Pack<T, N>> x)
 {
     if constexpr (N > registerLanes<T>) {
-        storePairsReversed(p, Complex<Pack<T, N / 2>>{x.re.hi, x.im.hi});
-        storePairsReversed(p + N, Complex<Pack<T, N / 2>>{x.re.lo, x.im.lo});
+        storePairsReversed(p, Complex<Pack<T, N / 2>>{highHalf(x.re), highHalf(x.im)});
+        storePairsReversed(p + N, Complex<Pack<T, N / 2>>{lowHalf(x.re), lowHalf(x.im)});
     } else {
         const auto lo = zipLow(x.re, x.im);
         const auto hi = zipHigh(x.re, x.im);

@@ -33,8 +33,8 @@ struct KeepFloatWhere {
     {
         return mask ? x : T{0};
     }
-    template <Float T>
-    static TARN_INLINE Register<T> of(Register<T> mask, Register<T> x)
+    template <FloatRegister R>
+    static TARN_INLINE R of(R mask, R x)
     {
         return FloatBits::both(mask, x);
     }
@@ -47,8 +47,8 @@ struct ClearFloatWhere {
     {
         return mask ? T{0} : x;
     }
-    template <Float T>
-    static TARN_INLINE Register<T> of(Register<T> mask, Register<T> x)
+    template <FloatRegister R>
+    static TARN_INLINE R of(R mask, R x)
     {
         return FloatBits::rest(mask, x);
     }

@@ -13,9 +13,9 @@ struct ReOf {
     template <typename T>
         requires isComplex<T>
     static TARN_INLINE Part<T> of(T z) { return z.re; }
-    template <typename T>
-        requires isComplex<T>
-    static TARN_INLINE Register<Part<T>> of(Pack<T, 2 * registerLanes<T>> z)
+    template <typename T, int N>
+        requires(isComplex<T>&& isOneRegister<Part<T>, N>)
+    static TARN_INLINE Pack<Part<T>, N> of(Pack<T, N> z)
     {
         if constexpr (std::is_same_v<T, Tarn16sc>) {
             // A complex word times (1, 0) is the sign-extended part.
@@ -33,9 +33,9 @@ struct ImOf {
     template <typename T>
         requires isComplex<T>
     static TARN_INLINE Part<T> of(T z) { return z.im; }
-    template <typename T>
-        requires isComplex<T>
-    static TARN_INLINE Register<Part<T>> of(Pack<T, 2 * registerLanes<T>> z)
+    template <typename T, int N>
+        requires(isComplex<T>&& isOneRegister<Part<T>, N>)
+    static TARN_INLINE Pack<Part<T>, N> of(Pack<T, N> z)
     {
         if constexpr (std::is_same_v<T, Tarn16sc>) {
             return NarrowSaturated<Tarn16s>::of(mulAddPairs(z, splat<decltype(z)>({0, 1})));
@@ -52,7 +52,8 @@ inline constexpr Word<ImOf> imOf;
 template <typename C>
 struct ComplexFrom {
     static TARN_INLINE C of(Part<C> re, Part<C> im) { return {re, im}; }
-    static TARN_INLINE Pack<C, 2 * registerLanes<C>> of(Register<Part<C>> re, Register<Part<C>> im)
+    template <RegisterOf<Part<C>> R>
+    static TARN_INLINE Like<R, C> of(R re, R im)
     {
         return reinterpretPack<C>(zip(re, im));
     }
@@ -80,10 +81,12 @@ struct SwapParts {
     {
         return {_mm_shufflehi_epi16(_mm_shufflelo_epi16(x.v, 0xB1), 0xB1)};
     }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> x) { return {_mm_shuffle_ps(x.v, x.v, 0xB1)}; }
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> x) { return {_mm_shuffle_pd(x.v, x.v, 1)}; }
-    static TARN_INLINE Register<Tarn32fc> of(Register<Tarn32fc> x) { return {_mm_shuffle_ps(x.v, x.v, 0xB1)}; }
-    static TARN_INLINE Register<Tarn64fc> of(Register<Tarn64fc> x) { return {_mm_shuffle_pd(x.v, x.v, 1)}; }
+    template <RegisterOf<Tarn16sc> R>
+        requires WideRegister<R>
+    static TARN_INLINE R of(R x) { return {native::shuffle<2, native::Exchanged>(x.v)}; }
+    template <AnyRegister R>
+        requires Float<Part<Element<R>>>
+    static TARN_INLINE R of(R x) { return {native::exchanged(x.v)}; }
 };
 inline constexpr Word<SwapParts> swapParts;
 
@@ -92,8 +95,9 @@ struct BothRe {
     template <typename T>
         requires isComplex<T>
     static TARN_INLINE T of(T x) { return {x.re, x.re}; }
-    static TARN_INLINE Register<Tarn32fc> of(Register<Tarn32fc> x) { return {_mm_moveldup_ps(x.v)}; }
-    static TARN_INLINE Register<Tarn64fc> of(Register<Tarn64fc> x) { return {_mm_unpacklo_pd(x.v, x.v)}; }
+    template <AnyRegister R>
+        requires Float<Part<Element<R>>>
+    static TARN_INLINE R of(R x) { return {native::evenTwice(x.v)}; }
 };
 inline constexpr Word<BothRe> bothRe;
 
@@ -101,8 +105,9 @@ struct BothIm {
     template <typename T>
         requires isComplex<T>
     static TARN_INLINE T of(T x) { return {x.im, x.im}; }
-    static TARN_INLINE Register<Tarn32fc> of(Register<Tarn32fc> x) { return {_mm_movehdup_ps(x.v)}; }
-    static TARN_INLINE Register<Tarn64fc> of(Register<Tarn64fc> x) { return {_mm_unpackhi_pd(x.v, x.v)}; }
+    template <AnyRegister R>
+        requires Float<Part<Element<R>>>
+    static TARN_INLINE R of(R x) { return {native::oddTwice(x.v)}; }
 };
 inline constexpr Word<BothIm> bothIm;
 
@@ -129,10 +134,11 @@ inline constexpr Word<PairsTwice> pairsTwice;
 // The imaginary part negated modulo 2^16, which leaves the lowest integer as it is.
 struct ConjugateWrapped {
     static TARN_INLINE Tarn16sc of(Tarn16sc x) { return {x.re, SubInteger::of(Tarn16s{0}, x.im)}; }
-    static TARN_INLINE Register<Tarn16sc> of(Register<Tarn16sc> x)
+    template <RegisterOf<Tarn16sc> R>
+    static TARN_INLINE R of(R x)
     {
-        const __m128i upperHalves = _mm_slli_epi32(_mm_set1_epi32(-1), 16);
-        return {_mm_sub_epi16(_mm_xor_si128(x.v, upperHalves), upperHalves)};
+        const auto upperHalves = splat<SameBytes<R, Tarn32s>>(-0x10000).v;
+        return {native::sub16(native::bitXor(x.v, upperHalves), upperHalves)};
     }
 };
 inline constexpr Word<ConjugateWrapped> conjugateWrapped;
@@ -145,16 +151,15 @@ struct Conjugate {
         requires(isComplex<T>&& Float<Part<T>>)
     static TARN_INLINE T of(T x) { return {x.re, -x.im}; }
     // -x is ~x + 1, and in the upper halves the mask is the -1 to flip by and to take away.
-    static TARN_INLINE Register<Tarn16sc> of(Register<Tarn16sc> x)
+    template <RegisterOf<Tarn16sc> R>
+    static TARN_INLINE R of(R x)
     {
-        const __m128i upperHalves = _mm_set1_epi32(-0x10000);
-        return {_mm_subs_epi16(_mm_xor_si128(x.v, upperHalves), upperHalves)};
+        const auto upperHalves = splat<SameBytes<R, Tarn32s>>(-0x10000).v;
+        return {native::sub16s(native::bitXor(x.v, upperHalves), upperHalves)};
     }
-    static TARN_INLINE Register<Tarn32fc> of(Register<Tarn32fc> x)
-    {
-        return {_mm_xor_ps(x.v, _mm_setr_ps(0.0F, -0.0F, 0.0F, -0.0F))};
-    }
-    static TARN_INLINE Register<Tarn64fc> of(Register<Tarn64fc> x) { return {_mm_xor_pd(x.v, _mm_setr_pd(0.0, -0.0))}; }
+    template <AnyRegister R>
+        requires(isComplex<Element<R>>&& Float<Part<Element<R>>>)
+    static TARN_INLINE R of(R x) { return {native::bitXor(x.v, splat<R>({0, -Part<Element<R>>{0}}).v)}; }
 };
 inline constexpr Word<Conjugate> conjugate;
 
@@ -200,17 +205,13 @@ struct MulComplex {
     template <typename T>
         requires(isComplex<T>&& Float<Part<T>>)
     static TARN_INLINE T of(T a, T b) { return {b.re * a.re - b.im * a.im, b.re * a.im + b.im * a.re}; }
-    static TARN_INLINE Register<Tarn32fc> of(Register<Tarn32fc> a, Register<Tarn32fc> b)
+    template <AnyRegister R>
+        requires(isComplex<Element<R>>&& Float<Part<Element<R>>>)
+    static TARN_INLINE R of(R a, R b)
     {
-        const __m128 byRe = _mm_mul_ps(_mm_moveldup_ps(b.v), a.v);
-        const __m128 byIm = _mm_mul_ps(_mm_movehdup_ps(b.v), SwapParts::of(a).v);
-        return {_mm_addsub_ps(byRe, byIm)};
-    }
-    static TARN_INLINE Register<Tarn64fc> of(Register<Tarn64fc> a, Register<Tarn64fc> b)
-    {
-        const __m128d byRe = _mm_mul_pd(_mm_unpacklo_pd(b.v, b.v), a.v);
-        const __m128d byIm = _mm_mul_pd(_mm_unpackhi_pd(b.v, b.v), SwapParts::of(a).v);
-        return {_mm_addsub_pd(byRe, byIm)};
+        const auto byRe = native::mul(native::evenTwice(b.v), a.v);
+        const auto byIm = native::mul(native::oddTwice(b.v), SwapParts::of(a).v);
+        return {native::subAdd(byRe, byIm)};
     }
 };
 inline constexpr Word<MulComplex> mulComplex;
@@ -221,17 +222,14 @@ struct MulByConjugate {
     template <typename T>
         requires(isComplex<T>&& Float<Part<T>>)
     static TARN_INLINE T of(T a, T b) { return {a.re * b.re + a.im * b.im, a.im * b.re - a.re * b.im}; }
-    static TARN_INLINE Register<Tarn32fc> of(Register<Tarn32fc> a, Register<Tarn32fc> b)
+    template <AnyRegister R>
+        requires(isComplex<Element<R>>&& Float<Part<Element<R>>>)
+    static TARN_INLINE R of(R a, R b)
     {
-        const __m128 byRe = _mm_mul_ps(a.v, _mm_moveldup_ps(b.v));
-        const __m128 byIm = _mm_mul_ps(SwapParts::of(a).v, _mm_movehdup_ps(b.v));
-        return {_mm_addsub_ps(byRe, _mm_xor_ps(byIm, _mm_set1_ps(-0.0F)))};
-    }
-    static TARN_INLINE Register<Tarn64fc> of(Register<Tarn64fc> a, Register<Tarn64fc> b)
-    {
-        const __m128d byRe = _mm_mul_pd(a.v, _mm_unpacklo_pd(b.v, b.v));
-        const __m128d byIm = _mm_mul_pd(SwapParts::of(a).v, _mm_unpackhi_pd(b.v, b.v));
-        return {_mm_addsub_pd(byRe, _mm_xor_pd(byIm, _mm_set1_pd(-0.0)))};
+        using Parts = SameBytes<R, Part<Element<R>>>;
+        const auto byRe = native::mul(a.v, native::evenTwice(b.v));
+        const auto byIm = native::mul(SwapParts::of(a).v, native::oddTwice(b.v));
+        return {native::subAdd(byRe, InvertSigns::of(Parts{byIm}).v)};
     }
 };
 inline constexpr Word<MulByConjugate> mulByConjugate;
@@ -242,35 +240,35 @@ struct DifferenceOfParts {
     static TARN_INLINE Tarn32s of(Tarn16sc a, Tarn16sc b) { return Tarn32s{a.re} * b.re - Tarn32s{a.im} * b.im; }
     // The lowest word has no negative: -a.im is ~a.im + 1, and the b.im that makes the difference is added at the end,
     // where intermediate wraps cancel.
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn16sc> a, Register<Tarn16sc> b)
+    template <RegisterOf<Tarn16sc> R>
+    static TARN_INLINE Like<R, Tarn32s> of(R a, R b)
     {
-        const __m128i upperHalves = _mm_set1_epi32(-0x10000);
-        const __m128i flipped = _mm_madd_epi16(_mm_xor_si128(a.v, upperHalves), b.v);
-        return {_mm_add_epi32(flipped, _mm_srai_epi32(b.v, 16))};
+        using Sums = Like<R, Tarn32s>;
+        const auto upperHalves = splat<Sums>(-0x10000).v;
+        const Sums flipped{native::mulAddPairs(native::bitXor(a.v, upperHalves), b.v)};
+        return AddInteger::of(flipped, ShiftRight::of(Sums{b.v}, 16));
     }
 };
 inline constexpr Word<DifferenceOfParts> differenceOfParts;
 
 // a minus b at even places, a plus b at odd ones.
 struct SubAdd {
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> a, Register<Tarn32f> b)
+    template <FloatRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_addsub_ps(a.v, b.v)};
-    }
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> a, Register<Tarn64f> b)
-    {
-        return {_mm_addsub_pd(a.v, b.v)};
+        return {native::subAdd(a.v, b.v)};
     }
 };
 inline constexpr Word<SubAdd> subAdd;
 
 // x times w, where w is given as it is and with its parts exchanged: x is spread over both parts of the product.
 struct MulSpread {
-    static TARN_INLINE Register<Tarn64fc> of(Register<Tarn64fc> x, Register<Tarn64f> w, Register<Tarn64f> swapped)
+    template <RegisterOf<Tarn64fc> R>
+    static TARN_INLINE R of(R x, SameBytes<R, Tarn64f> w, SameBytes<R, Tarn64f> swapped)
     {
-        const __m128d byRe = _mm_mul_pd(_mm_unpacklo_pd(x.v, x.v), w.v);
-        const __m128d byIm = _mm_mul_pd(_mm_unpackhi_pd(x.v, x.v), swapped.v);
-        return {_mm_addsub_pd(byRe, byIm)};
+        const auto byRe = native::mul(native::evenTwice(x.v), w.v);
+        const auto byIm = native::mul(native::oddTwice(x.v), swapped.v);
+        return {native::subAdd(byRe, byIm)};
     }
 };
 inline constexpr Word<MulSpread> mulSpread;
@@ -283,22 +281,18 @@ struct SquaredMagnitudes {
     template <typename T>
         requires(isComplex<T>&& Float<Part<T>>)
     static TARN_INLINE Part<T> of(T x) { return x.re * x.re + x.im * x.im; }
-    static TARN_INLINE Register<Tarn32f> of(Pack<Tarn32fc, 2 * registerLanes<Tarn32fc>> x)
+    template <typename T, int N>
+        requires(isComplex<T>&& Float<Part<T>>&& isOneRegister<Part<T>, N>)
+    static TARN_INLINE Pack<Part<T>, N> of(Pack<T, N> x)
     {
-        const __m128 lo = _mm_mul_ps(x.lo.v, x.lo.v);
-        const __m128 hi = _mm_mul_ps(x.hi.v, x.hi.v);
-        return {_mm_hadd_ps(lo, hi)};
+        const auto lo = lowHalf(x).v;
+        const auto hi = highHalf(x).v;
+        return {native::pairSums(native::mul(lo, lo), native::mul(hi, hi))};
     }
-    static TARN_INLINE Register<Tarn64f> of(Pack<Tarn64fc, 2 * registerLanes<Tarn64fc>> x)
-    {
-        return of(reinterpretPack<Tarn64f>(x));
-    }
-    static TARN_INLINE Register<Tarn64f> of(Pack<Tarn64f, 2 * registerLanes<Tarn64f>> parts)
-    {
-        const __m128d lo = _mm_mul_pd(parts.lo.v, parts.lo.v);
-        const __m128d hi = _mm_mul_pd(parts.hi.v, parts.hi.v);
-        return {_mm_hadd_pd(lo, hi)};
-    }
+    // Of pairs of parts.
+    template <int N>
+        requires(N > registerLanes<Tarn64f> && isOneRegister<Tarn64f, N / 2>)
+    static TARN_INLINE Pack<Tarn64f, N / 2> of(Pack<Tarn64f, N> parts) { return of(reinterpretPack<Tarn64fc>(parts)); }
     static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> onePair)
     {
         const __m128d squares = _mm_mul_pd(onePair.v, onePair.v);

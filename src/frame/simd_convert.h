@@ -21,28 +21,57 @@ struct Widen {
     {
         return Wide<T>{x};
     }
-    static TARN_INLINE Pack<Tarn16s, 2 * registerLanes<Tarn16s>> of(Register<Tarn8u> x)
+    template <RegisterOf<Tarn8u> R>
+        requires OnlyRegister<R>
+    static TARN_INLINE Pack<Tarn16s, 2 * registerLanes<Tarn16s>> of(R x)
     {
         const __m128i zero = _mm_setzero_si128();
         return {{_mm_unpacklo_epi8(x.v, zero)}, {_mm_unpackhi_epi8(x.v, zero)}};
     }
-    static TARN_INLINE Pack<Tarn16s, 2 * registerLanes<Tarn16s>> of(Register<Tarn8s> x)
+    template <RegisterOf<Tarn8s> R>
+        requires OnlyRegister<R>
+    static TARN_INLINE Pack<Tarn16s, 2 * registerLanes<Tarn16s>> of(R x)
     {
         return {{_mm_srai_epi16(_mm_unpacklo_epi8(x.v, x.v), 8)}, {_mm_srai_epi16(_mm_unpackhi_epi8(x.v, x.v), 8)}};
     }
-    static TARN_INLINE Pack<Tarn32s, 2 * registerLanes<Tarn32s>> of(Register<Tarn16u> x)
+    template <RegisterOf<Tarn16u> R>
+        requires OnlyRegister<R>
+    static TARN_INLINE Pack<Tarn32s, 2 * registerLanes<Tarn32s>> of(R x)
     {
         const __m128i zero = _mm_setzero_si128();
         return {{_mm_unpacklo_epi16(x.v, zero)}, {_mm_unpackhi_epi16(x.v, zero)}};
     }
-    static TARN_INLINE Pack<Tarn32s, 2 * registerLanes<Tarn32s>> of(Register<Tarn16s> x)
+    template <RegisterOf<Tarn16s> R>
+        requires OnlyRegister<R>
+    static TARN_INLINE Pack<Tarn32s, 2 * registerLanes<Tarn32s>> of(R x)
     {
         return {{_mm_srai_epi32(_mm_unpacklo_epi16(x.v, x.v), 16)}, {_mm_srai_epi32(_mm_unpackhi_epi16(x.v, x.v), 16)}};
     }
     static TARN_INLINE Tarn64f of(Tarn32f x) { return static_cast<Tarn64f>(x); }
-    static TARN_INLINE Pack<Tarn64f, 2 * registerLanes<Tarn64f>> of(Register<Tarn32f> x)
+    template <RegisterOf<Tarn32f> R>
+        requires OnlyRegister<R>
+    static TARN_INLINE Pack<Tarn64f, 2 * registerLanes<Tarn64f>> of(R x)
     {
         return {{_mm_cvtps_pd(x.v)}, {_mm_cvtps_pd(_mm_movehl_ps(x.v, x.v))}};
+    }
+    // Where the result is one register.
+    template <AnyRegister R>
+        requires(2 * sizeof(R) <= widestRegister && sizeof(Element<R>) <= 4 && !isComplex<Element<R>>)
+    static TARN_INLINE Like<R, Wide<Element<R>>> of(R x)
+    {
+        using T = Element<R>;
+        if constexpr (std::is_same_v<T, Tarn32f>) {
+            return {native::toDoubles(x.v)};
+        } else if constexpr (std::is_same_v<T, Tarn8u>) {
+            return {native::widen8u(x.v)};
+        } else if constexpr (std::is_same_v<T, Tarn8s>) {
+            return {native::widen8s(x.v)};
+        } else if constexpr (std::is_same_v<T, Tarn16u>) {
+            return {native::widen16u(x.v)};
+        } else {
+            static_assert(std::is_same_v<T, Tarn16s>);
+            return {native::widen16s(x.v)};
+        }
     }
 };
 inline constexpr Word<Widen> widen;
@@ -52,16 +81,23 @@ inline constexpr Word<Widen> widen;
 struct WidenBySign {
     static TARN_INLINE Tarn16s of(Tarn8s x) { return x; }
     static TARN_INLINE Tarn32s of(Tarn16s x) { return x; }
-    static TARN_INLINE Pack<Tarn16s, 2 * registerLanes<Tarn16s>> of(Register<Tarn8s> x)
+    template <RegisterOf<Tarn8s> R>
+        requires OnlyRegister<R>
+    static TARN_INLINE Pack<Tarn16s, 2 * registerLanes<Tarn16s>> of(R x)
     {
         const __m128i signs = _mm_cmpgt_epi8(_mm_setzero_si128(), x.v);
         return {{_mm_unpacklo_epi8(x.v, signs)}, {_mm_unpackhi_epi8(x.v, signs)}};
     }
-    static TARN_INLINE Pack<Tarn32s, 2 * registerLanes<Tarn32s>> of(Register<Tarn16s> x)
+    template <RegisterOf<Tarn16s> R>
+        requires OnlyRegister<R>
+    static TARN_INLINE Pack<Tarn32s, 2 * registerLanes<Tarn32s>> of(R x)
     {
         const __m128i signs = _mm_cmpgt_epi16(_mm_setzero_si128(), x.v);
         return {{_mm_unpacklo_epi16(x.v, signs)}, {_mm_unpackhi_epi16(x.v, signs)}};
     }
+    template <AnyRegister R>
+        requires(2 * sizeof(R) <= widestRegister)
+    static TARN_INLINE auto of(R x) { return Widen::of(x); }
 };
 inline constexpr Word<WidenBySign> widenBySign;
 
@@ -72,13 +108,13 @@ struct SumWidened {
     {
         return static_cast<Wide<T>>(Wide<T>{a} + Wide<T>{b});
     }
-    template <Integer T>
-    static TARN_INLINE auto of(Register<T> a, Register<T> b)
-    {
-        return add(widen(a), widen(b));
-    }
+    template <IntegerRegister R>
+        requires(!std::is_same_v<Element<R>, Tarn16s> || !OnlyRegister<R>)
+    static TARN_INLINE auto of(R a, R b) { return add(widen(a), widen(b)); }
     // The pair sums of a multiply-add by ones save the sign extensions.
-    static TARN_INLINE Pack<Tarn32s, 2 * registerLanes<Tarn32s>> of(Register<Tarn16s> a, Register<Tarn16s> b)
+    template <RegisterOf<Tarn16s> R>
+        requires OnlyRegister<R>
+    static TARN_INLINE TwiceAs<SameBytes<R, Tarn32s>> of(R a, R b)
     {
         const __m128i ones = _mm_set1_epi16(1);
         return {{_mm_madd_epi16(_mm_unpacklo_epi16(a.v, b.v), ones)},
@@ -89,21 +125,31 @@ inline constexpr Word<SumWidened> sumWidened;
 
 // The unsigned elements at even places with zeros on top, and those at odd ones.
 struct WidenEven {
-    static TARN_INLINE Register<Tarn64s> of(Register<Tarn32u> x)
+    template <RegisterOf<Tarn32u> R>
+    static TARN_INLINE SameBytes<R, Tarn64s> of(R x)
     {
-        return {_mm_and_si128(x.v, _mm_set_epi32(0, -1, 0, -1))};
+        return {native::bitAnd(x.v, splat<SameBytes<R, Tarn64s>>(0xFFFFFFFF).v)};
     }
 };
 inline constexpr Word<WidenEven> widenEven;
 struct WidenOdd {
-    static TARN_INLINE Register<Tarn64s> of(Register<Tarn32u> x) { return {_mm_srli_epi64(x.v, 32)}; }
+    template <RegisterOf<Tarn32u> R>
+    static TARN_INLINE SameBytes<R, Tarn64s> of(R x)
+    {
+        return ShiftRightLogical::of(SameBytes<R, Tarn64s>{x.v}, 32);
+    }
 };
 inline constexpr Word<WidenOdd> widenOdd;
 
 // The sum of each even lane and its odd neighbour, in lanes of twice the width.
 struct PairSums {
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn16s> x) { return {_mm_madd_epi16(x.v, _mm_set1_epi16(1))}; }
-    static TARN_INLINE Register<Tarn64s> of(Register<Tarn32u> x)
+    template <RegisterOf<Tarn16s> R>
+    static TARN_INLINE SameBytes<R, Tarn32s> of(R x)
+    {
+        return {native::mulAddPairs(x.v, splat<R>(1).v)};
+    }
+    template <RegisterOf<Tarn32u> R>
+    static TARN_INLINE SameBytes<R, Tarn64s> of(R x)
     {
         return AddInteger::of(WidenEven::of(x), WidenOdd::of(x));
     }
@@ -112,14 +158,17 @@ inline constexpr Word<PairSums> pairSums;
 
 // The sum of the pair's magnitudes, each being the product with its own sign: |-32768| is no exception.
 struct PairMagnitudes {
-    static TARN_INLINE Register<Tarn32u> of(Register<Tarn16s> x)
+    template <RegisterOf<Tarn16s> R>
+    static TARN_INLINE SameBytes<R, Tarn32u> of(R x)
     {
-        const __m128i sign = _mm_or_si128(_mm_srai_epi16(x.v, 15), _mm_set1_epi16(1));
-        return {_mm_madd_epi16(x.v, sign)};
+        const auto sign = native::bitOr(ShiftRight::of(x, 15).v, splat<R>(1).v);
+        return {native::mulAddPairs(x.v, sign)};
     }
-    static TARN_INLINE Register<Tarn32u> of(Register<Tarn16u> x)
+    template <RegisterOf<Tarn16u> R>
+    static TARN_INLINE SameBytes<R, Tarn32u> of(R x)
     {
-        return {_mm_add_epi32(_mm_and_si128(x.v, _mm_set1_epi32(0xFFFF)), _mm_srli_epi32(x.v, 16))};
+        using Sums = SameBytes<R, Tarn32u>;
+        return AddInteger::of(Sums{native::bitAnd(x.v, splat<Sums>(0xFFFF).v)}, ShiftRight::of(Sums{x.v}, 16));
     }
 };
 inline constexpr Word<PairMagnitudes> pairMagnitudes;
@@ -133,24 +182,29 @@ struct NarrowSaturated {
     {
         return clampTo<D>(x);
     }
-    static TARN_INLINE Register<D> of(Pack<D, registerLanes<D>> x) { return x; }
-    template <typename W>
-        requires(sizeof(W) == 2 * sizeof(D))
-    static TARN_INLINE Register<D> of(Pack<W, registerLanes<D>> x)
+    template <RegisterOf<D> R>
+    static TARN_INLINE R of(R x)
     {
+        return x;
+    }
+    template <typename W, int N>
+        requires(sizeof(W) == 2 * sizeof(D) && isOneRegister<D, N>)
+    static TARN_INLINE Pack<D, N> of(Pack<W, N> x)
+    {
+        const auto first = lowHalf(x).v;
+        const auto second = highHalf(x).v;
         if constexpr (std::is_same_v<D, Tarn8u>) {
-            return {_mm_packus_epi16(x.lo.v, x.hi.v)};
+            return {native::narrow16To8u(first, second)};
         } else if constexpr (std::is_same_v<D, Tarn8s>) {
-            return {_mm_packs_epi16(x.lo.v, x.hi.v)};
+            return {native::narrow16To8s(first, second)};
         } else if constexpr (std::is_same_v<D, Tarn16s>) {
-            return {_mm_packs_epi32(x.lo.v, x.hi.v)};
+            return {native::narrow32To16s(first, second)};
         } else {
             static_assert(std::is_same_v<D, Tarn32s>);
-            const __m128 lo = _mm_castsi128_ps(x.lo.v);
-            const __m128 hi = _mm_castsi128_ps(x.hi.v);
-            const Register<Tarn32s> low{_mm_castps_si128(_mm_shuffle_ps(lo, hi, 0x88))};
-            const Register<Tarn32s> high{_mm_castps_si128(_mm_shuffle_ps(lo, hi, 0xDD))};
-            const auto bound = BitXor::of(ShiftRight::of(high, 31), splat<Register<Tarn32s>>(highest<Tarn32s>));
+            using R = Pack<Tarn32s, N>;
+            const R low{native::even32(first, second)};
+            const R high{native::odd32(first, second)};
+            const auto bound = BitXor::of(ShiftRight::of(high, 31), splat<R>(highest<Tarn32s>));
             return SelectInteger::of(EqualInteger::of(ShiftRight::of(low, 31), high), low, bound);
         }
     }
@@ -166,14 +220,15 @@ struct ShiftLeftSaturated {
     {
         return clampTo<T>(static_cast<Tarn64s>(static_cast<unsigned long long>(Tarn64s{x}) << n));
     }
-    template <Integer T>
-        requires(sizeof(T) <= 2)
-    static TARN_INLINE Register<T> of(Register<T> x, int n) { return narrowSaturated<T>(shiftLeft(widen(x), n)); }
+    template <IntegerRegister R>
+        requires(sizeof(Element<R>) <= 2)
+    static TARN_INLINE R of(R x, int n) { return narrowSaturated<Element<R>>(shiftLeft(widen(x), n)); }
     // The shift lost something where shifting back does not give the operand.
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32s> x, int n)
+    template <RegisterOf<Tarn32s> R>
+    static TARN_INLINE R of(R x, int n)
     {
         const auto shifted = ShiftLeft::of(x, n);
-        const auto bound = BitXor::of(ShiftRight::of(x, 31), splat<Register<Tarn32s>>(highest<Tarn32s>));
+        const auto bound = BitXor::of(ShiftRight::of(x, 31), splat<R>(highest<Tarn32s>));
         return SelectInteger::of(EqualInteger::of(ShiftRight::of(shifted, n), x), shifted, bound);
     }
 };
@@ -182,9 +237,14 @@ inline constexpr Word<ShiftLeftSaturated> shiftLeftSaturated;
 // Double precision as single, in the current rounding mode.
 struct NarrowFloat {
     static TARN_INLINE Tarn32f of(Tarn64f x) { return static_cast<Tarn32f>(x); }
-    static TARN_INLINE Register<Tarn32f> of(Pack<Tarn64f, 2 * registerLanes<Tarn64f>> x)
+    template <RegisterOf<Tarn64f> R>
+        requires WideRegister<R>
+    static TARN_INLINE Like<R, Tarn32f> of(R x) { return {native::toFloats(x.v)}; }
+    template <int N>
+        requires(N == 2 * registerLanes<Tarn64f> && widestRegister == registerBytes)
+    static TARN_INLINE Register<Tarn32f> of(Pack<Tarn64f, N> x)
     {
-        return {_mm_movelh_ps(_mm_cvtpd_ps(x.lo.v), _mm_cvtpd_ps(x.hi.v))};
+        return {_mm_movelh_ps(_mm_cvtpd_ps(lowHalf(x).v), _mm_cvtpd_ps(highHalf(x).v))};
     }
 };
 inline constexpr Word<NarrowFloat> narrowFloat;
@@ -195,8 +255,8 @@ struct Retype {
     template <typename T>
         requires(std::is_arithmetic_v<T> && sizeof(T) == sizeof(U))
     static TARN_INLINE U of(T x) { return std::bit_cast<U>(x); }
-    template <typename T>
-    static TARN_INLINE Register<U> of(Register<T> x)
+    template <AnyRegister R>
+    static TARN_INLINE SameBytes<R, U> of(R x)
     {
         return reinterpretPack<U>(x);
     }

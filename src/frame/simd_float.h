@@ -10,6 +10,9 @@ namespace tarn {
 template <typename T>
 concept Float = std::is_floating_point_v<T>;
 
+template <typename X>
+concept FloatRegister = AnyRegister<X> && Float<Element<X>>;
+
 // One word from parts that each serve some of the types.
 template <typename... Parts>
 struct Overloads : Parts... {
@@ -22,31 +25,35 @@ struct OnParts {
     template <typename T>
         requires isComplex<T>
     static TARN_INLINE T of(T a, T b) { return {Operation::of(a.re, b.re), Operation::of(a.im, b.im)}; }
-    template <typename T>
-        requires isComplex<T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <AnyRegister R>
+        requires isComplex<Element<R>>
+    static TARN_INLINE R of(R a, R b)
     {
+        using T = Element<R>;
         return reinterpretPack<T>(Operation::of(reinterpretPack<Part<T>>(a), reinterpretPack<Part<T>>(b)));
     }
 };
 
-// Stamps an operation that is one instruction: the element, then the two register types.
-#define TARN_FLOAT_OPERATION(NAME, EXPRESSION, PS, PD)                                                               \
-    struct NAME {                                                                                                    \
-        template <Float T>                                                                                           \
-        static TARN_INLINE T of(T a, T b)                                                                            \
-        {                                                                                                            \
-            return EXPRESSION;                                                                                       \
-        }                                                                                                            \
-        static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> a, Register<Tarn32f> b) { return {PS(a.v, b.v)}; } \
-        static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> a, Register<Tarn64f> b) { return {PD(a.v, b.v)}; } \
+// Stamps an operation that is one instruction: the element, then the registers.
+#define TARN_FLOAT_OPERATION(NAME, EXPRESSION, INSTRUCTION) \
+    struct NAME {                                           \
+        template <Float T>                                  \
+        static TARN_INLINE T of(T a, T b)                   \
+        {                                                   \
+            return EXPRESSION;                              \
+        }                                                   \
+        template <FloatRegister R>                          \
+        static TARN_INLINE R of(R a, R b)                   \
+        {                                                   \
+            return {native::INSTRUCTION(a.v, b.v)};         \
+        }                                                   \
     }
-TARN_FLOAT_OPERATION(AddFloat, a + b, _mm_add_ps, _mm_add_pd);
-TARN_FLOAT_OPERATION(SubFloat, a - b, _mm_sub_ps, _mm_sub_pd);
-TARN_FLOAT_OPERATION(Mul, a* b, _mm_mul_ps, _mm_mul_pd);
-TARN_FLOAT_OPERATION(Div, a / b, _mm_div_ps, _mm_div_pd);
-TARN_FLOAT_OPERATION(MinFloat, a < b ? a : b, _mm_min_ps, _mm_min_pd);
-TARN_FLOAT_OPERATION(MaxFloat, a > b ? a : b, _mm_max_ps, _mm_max_pd);
+TARN_FLOAT_OPERATION(AddFloat, a + b, add);
+TARN_FLOAT_OPERATION(SubFloat, a - b, sub);
+TARN_FLOAT_OPERATION(Mul, a* b, mul);
+TARN_FLOAT_OPERATION(Div, a / b, div);
+TARN_FLOAT_OPERATION(MinFloat, a < b ? a : b, min);
+TARN_FLOAT_OPERATION(MaxFloat, a > b ? a : b, max);
 #undef TARN_FLOAT_OPERATION
 
 using AddReal = Overloads<AddInteger, AddFloat>;
@@ -78,19 +85,22 @@ TARN_INLINE X polynomial(X z, const Element<X> (&coefficients)[count])
 // -- Comparison and choice --------------------------------------------------------------------------------------------
 
 // Stamps a float comparison: a bool for elements, a mask for registers. Unordered operands compare as IEEE says.
-#define TARN_FLOAT_COMPARISON(NAME, OPERATOR, PS, PD)                                                                \
-    struct NAME {                                                                                                    \
-        template <Float T>                                                                                           \
-        static TARN_INLINE bool of(T a, T b)                                                                         \
-        {                                                                                                            \
-            return a OPERATOR b;                                                                                     \
-        }                                                                                                            \
-        static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> a, Register<Tarn32f> b) { return {PS(a.v, b.v)}; } \
-        static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> a, Register<Tarn64f> b) { return {PD(a.v, b.v)}; } \
+#define TARN_FLOAT_COMPARISON(NAME, OPERATOR, INSTRUCTION) \
+    struct NAME {                                          \
+        template <Float T>                                 \
+        static TARN_INLINE bool of(T a, T b)               \
+        {                                                  \
+            return a OPERATOR b;                           \
+        }                                                  \
+        template <FloatRegister R>                         \
+        static TARN_INLINE R of(R a, R b)                  \
+        {                                                  \
+            return {native::INSTRUCTION(a.v, b.v)};        \
+        }                                                  \
     }
-TARN_FLOAT_COMPARISON(GreaterFloat, >, _mm_cmpgt_ps, _mm_cmpgt_pd);
-TARN_FLOAT_COMPARISON(LessFloat, <, _mm_cmplt_ps, _mm_cmplt_pd);
-TARN_FLOAT_COMPARISON(EqualFloat, ==, _mm_cmpeq_ps, _mm_cmpeq_pd);
+TARN_FLOAT_COMPARISON(GreaterFloat, >, greater);
+TARN_FLOAT_COMPARISON(LessFloat, <, less);
+TARN_FLOAT_COMPARISON(EqualFloat, ==, equal);
 #undef TARN_FLOAT_COMPARISON
 
 struct LessInteger {
@@ -99,8 +109,8 @@ struct LessInteger {
     {
         return a < b;
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
         return GreaterInteger::of(b, a);
     }
@@ -120,13 +130,10 @@ struct NotLess {
     {
         return !(a < b);
     }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> a, Register<Tarn32f> b)
+    template <FloatRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_cmpnlt_ps(a.v, b.v)};
-    }
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> a, Register<Tarn64f> b)
-    {
-        return {_mm_cmpnlt_pd(a.v, b.v)};
+        return {native::notLess(a.v, b.v)};
     }
 };
 inline constexpr Word<NotLess> notLess;
@@ -136,18 +143,15 @@ struct EqualOrUnordered {
     template <typename T>
         requires(!isPack<T>)
     static TARN_INLINE bool of(T x, T y) { return !(x < y || x > y); }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> x, Register<T> y)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R x, R y)
     {
         return EqualInteger::of(x, y);
     }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> x, Register<Tarn32f> y)
+    template <FloatRegister R>
+    static TARN_INLINE R of(R x, R y)
     {
-        return {_mm_or_ps(_mm_cmpeq_ps(x.v, y.v), _mm_cmpunord_ps(x.v, y.v))};
-    }
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> x, Register<Tarn64f> y)
-    {
-        return {_mm_or_pd(_mm_cmpeq_pd(x.v, y.v), _mm_cmpunord_pd(x.v, y.v))};
+        return {native::bitOr(native::equal(x.v, y.v), native::unordered(x.v, y.v))};
     }
 };
 inline constexpr Word<EqualOrUnordered> matchesUnordered;
@@ -158,13 +162,10 @@ struct SelectFloat {
     {
         return mask ? yes : no;
     }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> mask, Register<Tarn32f> yes, Register<Tarn32f> no)
+    template <FloatRegister R>
+    static TARN_INLINE R of(R mask, R yes, R no)
     {
-        return {_mm_or_ps(_mm_and_ps(mask.v, yes.v), _mm_andnot_ps(mask.v, no.v))};
-    }
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> mask, Register<Tarn64f> yes, Register<Tarn64f> no)
-    {
-        return {_mm_or_pd(_mm_and_pd(mask.v, yes.v), _mm_andnot_pd(mask.v, no.v))};
+        return {native::select(mask.v, yes.v, no.v)};
     }
 };
 
@@ -193,10 +194,10 @@ struct AnyOf {
     template <typename T, int N>
     static TARN_INLINE bool of(Pack<T, N> mask)
     {
-        if constexpr (N > registerLanes<T>) {
-            return of(mask.lo) || of(mask.hi);
+        if constexpr (AnyRegister<Pack<T, N>>) {
+            return native::anySet(reinterpretPack<Tarn8u>(mask).v);
         } else {
-            return _mm_movemask_epi8(reinterpret_cast<__m128i>(mask.v)) != 0;
+            return of(mask.lo) || of(mask.hi);
         }
     }
 };
@@ -208,10 +209,10 @@ struct AllOf {
     template <typename T, int N>
     static TARN_INLINE bool of(Pack<T, N> mask)
     {
-        if constexpr (N > registerLanes<T>) {
-            return of(mask.lo) && of(mask.hi);
+        if constexpr (AnyRegister<Pack<T, N>>) {
+            return native::allSet(reinterpretPack<Tarn8u>(mask).v);
         } else {
-            return _mm_movemask_epi8(reinterpret_cast<__m128i>(mask.v)) == 0xFFFF;
+            return of(mask.lo) && of(mask.hi);
         }
     }
 };
@@ -224,17 +225,12 @@ struct IsPositiveNormal {
     {
         return x >= std::numeric_limits<T>::min() && x <= highest<T>;
     }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> x)
+    template <FloatRegister R>
+    static TARN_INLINE R of(R x)
     {
-        constexpr auto lowestNormal = std::numeric_limits<Tarn32f>::min();
-        return {
-            _mm_and_ps(_mm_cmpge_ps(x.v, _mm_set1_ps(lowestNormal)), _mm_cmple_ps(x.v, _mm_set1_ps(highest<Tarn32f>)))};
-    }
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> x)
-    {
-        constexpr auto lowestNormal = std::numeric_limits<Tarn64f>::min();
-        return {
-            _mm_and_pd(_mm_cmpge_pd(x.v, _mm_set1_pd(lowestNormal)), _mm_cmple_pd(x.v, _mm_set1_pd(highest<Tarn64f>)))};
+        using T = Element<R>;
+        return {native::bitAnd(native::notBelow(x.v, splat<R>(std::numeric_limits<T>::min()).v),
+                               native::notAbove(x.v, splat<R>(highest<T>).v))};
     }
 };
 inline constexpr Word<IsPositiveNormal> isPositiveNormal;
@@ -243,29 +239,20 @@ inline constexpr Word<IsPositiveNormal> isPositiveNormal;
 
 // The bits of both, and those of b that a lacks; what sign bits are taken apart and put together with.
 struct FloatBits {
-    static TARN_INLINE Register<Tarn32f> both(Register<Tarn32f> a, Register<Tarn32f> b)
+    template <FloatRegister R>
+    static TARN_INLINE R both(R a, R b)
     {
-        return {_mm_and_ps(a.v, b.v)};
+        return {native::bitAnd(a.v, b.v)};
     }
-    static TARN_INLINE Register<Tarn64f> both(Register<Tarn64f> a, Register<Tarn64f> b)
+    template <FloatRegister R>
+    static TARN_INLINE R rest(R a, R b)
     {
-        return {_mm_and_pd(a.v, b.v)};
+        return {native::bitAndNot(a.v, b.v)};
     }
-    static TARN_INLINE Register<Tarn32f> rest(Register<Tarn32f> a, Register<Tarn32f> b)
+    template <FloatRegister R>
+    static TARN_INLINE R either(R a, R b)
     {
-        return {_mm_andnot_ps(a.v, b.v)};
-    }
-    static TARN_INLINE Register<Tarn64f> rest(Register<Tarn64f> a, Register<Tarn64f> b)
-    {
-        return {_mm_andnot_pd(a.v, b.v)};
-    }
-    static TARN_INLINE Register<Tarn32f> either(Register<Tarn32f> a, Register<Tarn32f> b)
-    {
-        return {_mm_or_ps(a.v, b.v)};
-    }
-    static TARN_INLINE Register<Tarn64f> either(Register<Tarn64f> a, Register<Tarn64f> b)
-    {
-        return {_mm_or_pd(a.v, b.v)};
+        return {native::bitOr(a.v, b.v)};
     }
 };
 
@@ -276,10 +263,10 @@ struct Absolute {
     {
         return std::fabs(x);
     }
-    template <Float T>
-    static TARN_INLINE Register<T> of(Register<T> x)
+    template <FloatRegister R>
+    static TARN_INLINE R of(R x)
     {
-        return FloatBits::rest(splat<Register<T>>(-T{0}), x);
+        return FloatBits::rest(splat<R>(-Element<R>{0}), x);
     }
 };
 inline constexpr Word<Absolute> absolute;
@@ -291,10 +278,10 @@ struct CopySign {
     {
         return std::copysign(x, sign);
     }
-    template <Float T>
-    static TARN_INLINE Register<T> of(Register<T> x, Register<T> sign)
+    template <FloatRegister R>
+    static TARN_INLINE R of(R x, R sign)
     {
-        const auto signBit = splat<Register<T>>(-T{0});
+        const auto signBit = splat<R>(-Element<R>{0});
         return FloatBits::either(FloatBits::rest(signBit, x), FloatBits::both(signBit, sign));
     }
 };
@@ -307,8 +294,11 @@ struct InvertSigns {
     {
         return -x;
     }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> x) { return {_mm_xor_ps(x.v, _mm_set1_ps(-0.0F))}; }
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> x) { return {_mm_xor_pd(x.v, _mm_set1_pd(-0.0))}; }
+    template <FloatRegister R>
+    static TARN_INLINE R of(R x)
+    {
+        return {native::bitXor(x.v, splat<R>(-Element<R>{0}).v)};
+    }
 };
 inline constexpr Word<InvertSigns> invertSigns;
 
@@ -322,8 +312,11 @@ struct SquareRoot {
         const __m128d both = _mm_set1_pd(x);
         return _mm_cvtsd_f64(_mm_sqrt_sd(both, both));
     }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> x) { return {_mm_sqrt_ps(x.v)}; }
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> x) { return {_mm_sqrt_pd(x.v)}; }
+    template <FloatRegister R>
+    static TARN_INLINE R of(R x)
+    {
+        return {native::squareRoot(x.v)};
+    }
 };
 inline constexpr Word<SquareRoot> squareRoot;
 
@@ -331,14 +324,22 @@ inline constexpr Word<SquareRoot> squareRoot;
 // denormals taken as zeros. The bits are the processor's own.
 struct ApproxReciprocal {
     static TARN_INLINE Tarn32f of(Tarn32f x) { return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(x))); }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> x) { return {_mm_rcp_ps(x.v)}; }
+    template <RegisterOf<Tarn32f> R>
+    static TARN_INLINE R of(R x)
+    {
+        return {native::approxReciprocal(x.v)};
+    }
 };
 inline constexpr Word<ApproxReciprocal> approxReciprocal;
 
 // 1 / sqrt(x) to the same accuracy; NaN below zero.
 struct ApproxReciprocalRoot {
     static TARN_INLINE Tarn32f of(Tarn32f x) { return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(x))); }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32f> x) { return {_mm_rsqrt_ps(x.v)}; }
+    template <RegisterOf<Tarn32f> R>
+    static TARN_INLINE R of(R x)
+    {
+        return {native::approxReciprocalRoot(x.v)};
+    }
 };
 inline constexpr Word<ApproxReciprocalRoot> approxReciprocalRoot;
 

@@ -16,6 +16,9 @@ inline constexpr T highest = std::numeric_limits<T>::max();
 template <typename T>
 concept Integer = std::is_integral_v<T>;
 
+template <typename X>
+concept IntegerRegister = AnyRegister<X> && Integer<Element<X>>;
+
 template <typename T>
 using Unsigned = std::make_unsigned_t<T>;
 
@@ -34,10 +37,10 @@ struct BitAnd {
     {
         return static_cast<T>(a & b);
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_and_si128(a.v, b.v)};
+        return {native::bitAnd(a.v, b.v)};
     }
 };
 inline constexpr Word<BitAnd> bitAnd;
@@ -48,10 +51,10 @@ struct BitOr {
     {
         return static_cast<T>(a | b);
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_or_si128(a.v, b.v)};
+        return {native::bitOr(a.v, b.v)};
     }
 };
 inline constexpr Word<BitOr> bitOr;
@@ -62,10 +65,10 @@ struct BitXor {
     {
         return static_cast<T>(a ^ b);
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_xor_si128(a.v, b.v)};
+        return {native::bitXor(a.v, b.v)};
     }
 };
 inline constexpr Word<BitXor> bitXor;
@@ -77,10 +80,10 @@ struct BitAndNot {
     {
         return static_cast<T>(~a & b);
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_andnot_si128(a.v, b.v)};
+        return {native::bitAndNot(a.v, b.v)};
     }
 };
 inline constexpr Word<BitAndNot> bitAndNot;
@@ -96,17 +99,18 @@ struct ShiftLeft {
         constexpr int width = 8 * static_cast<int>(sizeof(T));
         return n < width ? static_cast<T>(static_cast<Tarn64s>(static_cast<unsigned long long>(x) << n)) : T{0};
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> x, int n)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R x, int n)
     {
+        using T = Element<R>;
         const __m128i count = _mm_cvtsi32_si128(n);
         if constexpr (sizeof(T) == 2) {
-            return {_mm_sll_epi16(x.v, count)};
+            return {native::shiftLeft16(x.v, count)};
         } else if constexpr (sizeof(T) == 4) {
-            return {_mm_sll_epi32(x.v, count)};
+            return {native::shiftLeft32(x.v, count)};
         } else {
             static_assert(sizeof(T) == 8);
-            return {_mm_sll_epi64(x.v, count)};
+            return {native::shiftLeft64(x.v, count)};
         }
     }
 };
@@ -123,19 +127,20 @@ struct ShiftRight {
             return n < width ? static_cast<T>(x >> n) : T{0};
         }
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> x, int n)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R x, int n)
     {
+        using T = Element<R>;
         const __m128i count = _mm_cvtsi32_si128(n);
         if constexpr (std::is_same_v<T, Tarn16s>) {
-            return {_mm_sra_epi16(x.v, count)};
+            return {native::shiftRight16s(x.v, count)};
         } else if constexpr (std::is_same_v<T, Tarn16u>) {
-            return {_mm_srl_epi16(x.v, count)};
+            return {native::shiftRight16u(x.v, count)};
         } else if constexpr (std::is_same_v<T, Tarn32s>) {
-            return {_mm_sra_epi32(x.v, count)};
+            return {native::shiftRight32s(x.v, count)};
         } else {
             static_assert(std::is_unsigned_v<T>);
-            return {sizeof(T) == 4 ? _mm_srl_epi32(x.v, count) : _mm_srl_epi64(x.v, count)};
+            return {sizeof(T) == 4 ? native::shiftRight32u(x.v, count) : native::shiftRight64u(x.v, count)};
         }
     }
 };
@@ -148,14 +153,17 @@ struct ShiftRightLogical {
     {
         return static_cast<T>(ShiftRight::of(static_cast<Unsigned<T>>(x), n));
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> x, int n)
+    template <IntegerRegister R>
+        requires(!std::is_same_v<Element<R>, Tarn64s>)
+    static TARN_INLINE R of(R x, int n)
     {
-        return {ShiftRight::of(Register<Unsigned<T>>{x.v}, n).v};
+        using T = Element<R>;
+        return {ShiftRight::of(Like<R, Unsigned<T>>{x.v}, n).v};
     }
-    static TARN_INLINE Register<Tarn64s> of(Register<Tarn64s> x, int n)
+    template <RegisterOf<Tarn64s> R>
+    static TARN_INLINE R of(R x, int n)
     {
-        return {_mm_srl_epi64(x.v, _mm_cvtsi32_si128(n))};
+        return {native::shiftRight64u(x.v, _mm_cvtsi32_si128(n))};
     }
 };
 inline constexpr Word<ShiftRightLogical> shiftRightLogical;
@@ -163,6 +171,9 @@ inline constexpr Word<ShiftRightLogical> shiftRightLogical;
 // All ones where the element is negative, zeros elsewhere.
 struct SignsOf64s {
     static TARN_INLINE Tarn64s of(Tarn64s x) { return x >> 63; }
+    template <RegisterOf<Tarn64s> R>
+        requires WideRegister<R>
+    static TARN_INLINE R of(R x) { return {native::signs64(x.v)}; }
     static TARN_INLINE Register<Tarn64s> of(Register<Tarn64s> x)
     {
         return {_mm_srai_epi32(_mm_shuffle_epi32(x.v, 0xF5), 31)};
@@ -178,17 +189,18 @@ struct AddInteger {
     {
         return static_cast<T>(static_cast<Unsigned<T>>(a) + static_cast<Unsigned<T>>(b));
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
+        using T = Element<R>;
         if constexpr (sizeof(T) == 1) {
-            return {_mm_add_epi8(a.v, b.v)};
+            return {native::add8(a.v, b.v)};
         } else if constexpr (sizeof(T) == 2) {
-            return {_mm_add_epi16(a.v, b.v)};
+            return {native::add16(a.v, b.v)};
         } else if constexpr (sizeof(T) == 4) {
-            return {_mm_add_epi32(a.v, b.v)};
+            return {native::add32(a.v, b.v)};
         } else {
-            return {_mm_add_epi64(a.v, b.v)};
+            return {native::add64(a.v, b.v)};
         }
     }
 };
@@ -199,17 +211,18 @@ struct SubInteger {
     {
         return static_cast<T>(static_cast<Unsigned<T>>(a) - static_cast<Unsigned<T>>(b));
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
+        using T = Element<R>;
         if constexpr (sizeof(T) == 1) {
-            return {_mm_sub_epi8(a.v, b.v)};
+            return {native::sub8(a.v, b.v)};
         } else if constexpr (sizeof(T) == 2) {
-            return {_mm_sub_epi16(a.v, b.v)};
+            return {native::sub16(a.v, b.v)};
         } else if constexpr (sizeof(T) == 4) {
-            return {_mm_sub_epi32(a.v, b.v)};
+            return {native::sub32(a.v, b.v)};
         } else {
-            return {_mm_sub_epi64(a.v, b.v)};
+            return {native::sub64(a.v, b.v)};
         }
     }
 };
@@ -222,27 +235,30 @@ struct GreaterInteger {
     {
         return a > b;
     }
-    static TARN_INLINE Register<Tarn8s> of(Register<Tarn8s> a, Register<Tarn8s> b)
+    template <RegisterOf<Tarn8s> R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_cmpgt_epi8(a.v, b.v)};
+        return {native::greater8s(a.v, b.v)};
     }
-    static TARN_INLINE Register<Tarn16s> of(Register<Tarn16s> a, Register<Tarn16s> b)
+    template <RegisterOf<Tarn16s> R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_cmpgt_epi16(a.v, b.v)};
+        return {native::greater16s(a.v, b.v)};
     }
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32s> a, Register<Tarn32s> b)
+    template <RegisterOf<Tarn32s> R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_cmpgt_epi32(a.v, b.v)};
+        return {native::greater32s(a.v, b.v)};
     }
     // The instructions compare signed lanes: moving both operands by half the range keeps the order.
-    template <Integer T>
-        requires std::is_unsigned_v<T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+        requires std::is_unsigned_v<Element<R>>
+    static TARN_INLINE R of(R a, R b)
     {
-        using S = std::make_signed_t<T>;
-        const auto middle = splat<Register<S>>(lowest<S>);
-        const Register<S> aMoved{_mm_xor_si128(a.v, middle.v)};
-        const Register<S> bMoved{_mm_xor_si128(b.v, middle.v)};
+        using S = std::make_signed_t<Element<R>>;
+        const auto middle = splat<Like<R, S>>(lowest<S>);
+        const Like<R, S> aMoved{native::bitXor(a.v, middle.v)};
+        const Like<R, S> bMoved{native::bitXor(b.v, middle.v)};
         return {of(aMoved, bMoved).v};
     }
 };
@@ -253,16 +269,17 @@ struct EqualInteger {
     {
         return a == b;
     }
-    template <Integer T>
-        requires(sizeof(T) < 8)
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+        requires(sizeof(Element<R>) < 8)
+    static TARN_INLINE R of(R a, R b)
     {
+        using T = Element<R>;
         if constexpr (sizeof(T) == 1) {
-            return {_mm_cmpeq_epi8(a.v, b.v)};
+            return {native::equal8(a.v, b.v)};
         } else if constexpr (sizeof(T) == 2) {
-            return {_mm_cmpeq_epi16(a.v, b.v)};
+            return {native::equal16(a.v, b.v)};
         } else {
-            return {_mm_cmpeq_epi32(a.v, b.v)};
+            return {native::equal32(a.v, b.v)};
         }
     }
 };
@@ -273,10 +290,10 @@ struct SelectInteger {
     {
         return mask ? yes : no;
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> mask, Register<T> yes, Register<T> no)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R mask, R yes, R no)
     {
-        return {_mm_or_si128(_mm_and_si128(mask.v, yes.v), _mm_andnot_si128(mask.v, no.v))};
+        return {native::select(mask.v, yes.v, no.v)};
     }
 };
 
@@ -286,13 +303,22 @@ struct MinInteger {
     {
         return a < b ? a : b;
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
+        using T = Element<R>;
         if constexpr (std::is_same_v<T, Tarn8u>) {
-            return {_mm_min_epu8(a.v, b.v)};
+            return {native::min8u(a.v, b.v)};
         } else if constexpr (std::is_same_v<T, Tarn16s>) {
-            return {_mm_min_epi16(a.v, b.v)};
+            return {native::min16s(a.v, b.v)};
+        } else if constexpr (WideRegister<R> && std::is_same_v<T, Tarn8s>) {
+            return {native::min8s(a.v, b.v)};
+        } else if constexpr (WideRegister<R> && std::is_same_v<T, Tarn16u>) {
+            return {native::min16u(a.v, b.v)};
+        } else if constexpr (WideRegister<R> && std::is_same_v<T, Tarn32s>) {
+            return {native::min32s(a.v, b.v)};
+        } else if constexpr (WideRegister<R> && std::is_same_v<T, Tarn32u>) {
+            return {native::min32u(a.v, b.v)};
         } else {
             return SelectInteger::of(GreaterInteger::of(a, b), b, a);
         }
@@ -305,13 +331,22 @@ struct MaxInteger {
     {
         return a > b ? a : b;
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> a, Register<T> b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R a, R b)
     {
+        using T = Element<R>;
         if constexpr (std::is_same_v<T, Tarn8u>) {
-            return {_mm_max_epu8(a.v, b.v)};
+            return {native::max8u(a.v, b.v)};
         } else if constexpr (std::is_same_v<T, Tarn16s>) {
-            return {_mm_max_epi16(a.v, b.v)};
+            return {native::max16s(a.v, b.v)};
+        } else if constexpr (WideRegister<R> && std::is_same_v<T, Tarn8s>) {
+            return {native::max8s(a.v, b.v)};
+        } else if constexpr (WideRegister<R> && std::is_same_v<T, Tarn16u>) {
+            return {native::max16u(a.v, b.v)};
+        } else if constexpr (WideRegister<R> && std::is_same_v<T, Tarn32s>) {
+            return {native::max32s(a.v, b.v)};
+        } else if constexpr (WideRegister<R> && std::is_same_v<T, Tarn32u>) {
+            return {native::max32u(a.v, b.v)};
         } else {
             return SelectInteger::of(GreaterInteger::of(a, b), a, b);
         }
@@ -325,10 +360,10 @@ struct KeepWhere {
     {
         return mask ? x : T{0};
     }
-    template <Integer T>
-    static TARN_INLINE Register<T> of(Register<T> mask, Register<T> x)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R mask, R x)
     {
-        return {_mm_and_si128(mask.v, x.v)};
+        return {native::bitAnd(mask.v, x.v)};
     }
 };
 inline constexpr Word<KeepWhere> keepWhere;
@@ -345,10 +380,11 @@ struct MoveOrder {
         using U = Unsigned<T>;
         return static_cast<Opposite<T>>(static_cast<U>(x) ^ (U{1} << (8 * sizeof(T) - 1)));
     }
-    template <Integer T>
-    static TARN_INLINE Register<Opposite<T>> of(Register<T> x)
+    template <IntegerRegister R>
+    static TARN_INLINE Like<R, Opposite<Element<R>>> of(R x)
     {
-        return {_mm_xor_si128(x.v, splat<Register<std::make_signed_t<T>>>(lowest<std::make_signed_t<T>>).v)};
+        using S = std::make_signed_t<Element<R>>;
+        return {native::bitXor(x.v, splat<Like<R, S>>(lowest<S>).v)};
     }
 };
 inline constexpr Word<MoveOrder> moveOrder;
@@ -356,9 +392,10 @@ inline constexpr Word<MoveOrder> moveOrder;
 // |a - b|.
 struct Distance {
     static TARN_INLINE Tarn16u of(Tarn16s a, Tarn16s b) { return static_cast<Tarn16u>(a > b ? a - b : b - a); }
-    static TARN_INLINE Register<Tarn16u> of(Register<Tarn16s> a, Register<Tarn16s> b)
+    template <RegisterOf<Tarn16s> R>
+    static TARN_INLINE Like<R, Tarn16u> of(R a, R b)
     {
-        return {_mm_sub_epi16(_mm_max_epi16(a.v, b.v), _mm_min_epi16(a.v, b.v))};
+        return {native::sub16(native::max16s(a.v, b.v), native::min16s(a.v, b.v))};
     }
 };
 inline constexpr Word<Distance> distance;
@@ -373,27 +410,35 @@ struct AddSaturated {
         using W = std::conditional_t<sizeof(T) == 4, Tarn64s, Tarn32s>;
         return clampTo<T>(static_cast<W>(W{a} + W{b}));
     }
-    static TARN_INLINE Register<Tarn8u> of(Register<Tarn8u> a, Register<Tarn8u> b) { return {_mm_adds_epu8(a.v, b.v)}; }
-    static TARN_INLINE Register<Tarn16u> of(Register<Tarn16u> a, Register<Tarn16u> b)
+    template <RegisterOf<Tarn8u> R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_adds_epu16(a.v, b.v)};
+        return {native::add8u(a.v, b.v)};
     }
-    static TARN_INLINE Register<Tarn16s> of(Register<Tarn16s> a, Register<Tarn16s> b)
+    template <RegisterOf<Tarn16u> R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_adds_epi16(a.v, b.v)};
+        return {native::add16u(a.v, b.v)};
+    }
+    template <RegisterOf<Tarn16s> R>
+    static TARN_INLINE R of(R a, R b)
+    {
+        return {native::add16s(a.v, b.v)};
     }
     // Carry out of the top: the wrapped sum is below an operand.
-    static TARN_INLINE Register<Tarn32u> of(Register<Tarn32u> a, Register<Tarn32u> b)
+    template <RegisterOf<Tarn32u> R>
+    static TARN_INLINE R of(R a, R b)
     {
         const auto sum = AddInteger::of(a, b);
         return BitOr::of(sum, GreaterInteger::of(a, sum));
     }
     // The sum wrapped where both operands have the sign that it lacks; the bound has their sign.
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32s> a, Register<Tarn32s> b)
+    template <RegisterOf<Tarn32s> R>
+    static TARN_INLINE R of(R a, R b)
     {
         const auto sum = AddInteger::of(a, b);
         const auto wrapped = ShiftRight::of(BitAndNot::of(BitXor::of(a, b), BitXor::of(a, sum)), 31);
-        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<Register<Tarn32s>>(highest<Tarn32s>));
+        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<R>(highest<Tarn32s>));
         return SelectInteger::of(wrapped, bound, sum);
     }
 };
@@ -408,20 +453,27 @@ struct SubSaturated {
         using W = std::conditional_t<sizeof(T) == 4, Tarn64s, Tarn32s>;
         return clampTo<T>(static_cast<W>(W{a} - W{b}));
     }
-    static TARN_INLINE Register<Tarn8u> of(Register<Tarn8u> a, Register<Tarn8u> b) { return {_mm_subs_epu8(a.v, b.v)}; }
-    static TARN_INLINE Register<Tarn16u> of(Register<Tarn16u> a, Register<Tarn16u> b)
+    template <RegisterOf<Tarn8u> R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_subs_epu16(a.v, b.v)};
+        return {native::sub8u(a.v, b.v)};
     }
-    static TARN_INLINE Register<Tarn16s> of(Register<Tarn16s> a, Register<Tarn16s> b)
+    template <RegisterOf<Tarn16u> R>
+    static TARN_INLINE R of(R a, R b)
     {
-        return {_mm_subs_epi16(a.v, b.v)};
+        return {native::sub16u(a.v, b.v)};
     }
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32s> a, Register<Tarn32s> b)
+    template <RegisterOf<Tarn16s> R>
+    static TARN_INLINE R of(R a, R b)
+    {
+        return {native::sub16s(a.v, b.v)};
+    }
+    template <RegisterOf<Tarn32s> R>
+    static TARN_INLINE R of(R a, R b)
     {
         const auto difference = SubInteger::of(a, b);
         const auto wrapped = ShiftRight::of(BitAnd::of(BitXor::of(a, b), BitXor::of(a, difference)), 31);
-        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<Register<Tarn32s>>(highest<Tarn32s>));
+        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<R>(highest<Tarn32s>));
         return SelectInteger::of(wrapped, bound, difference);
     }
 };

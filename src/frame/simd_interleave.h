@@ -10,10 +10,20 @@ namespace tarn {
 
 // The elements of two packs in turn, a0 b0 a1 b1 ...
 struct Zip {
-    template <typename T>
-    static TARN_INLINE Pack<T, 2 * registerLanes<T>> of(Register<T> a, Register<T> b)
+    template <AnyRegister R>
+    static TARN_INLINE TwiceAs<R> of(R a, R b)
     {
         return {low(a, b), high(a, b)};
+    }
+    template <WideRegister R>
+    static TARN_INLINE R low(R a, R b)
+    {
+        return {native::shuffle<sizeof(Element<R>), native::ZipLow>(a.v, b.v)};
+    }
+    template <WideRegister R>
+    static TARN_INLINE R high(R a, R b)
+    {
+        return {native::shuffle<sizeof(Element<R>), native::ZipHigh>(a.v, b.v)};
     }
     template <typename T>
     static TARN_INLINE Register<T> low(Register<T> a, Register<T> b)
@@ -54,19 +64,19 @@ inline constexpr Word<Zip> zip;
 template <typename T, int N>
 TARN_INLINE Pack<T, N> zipLow(Pack<T, N> a, Pack<T, N> b)
 {
-    if constexpr (N > registerLanes<T>) {
-        return zip(a.lo, b.lo);
-    } else {
+    if constexpr (isOneRegister<T, N>) {
         return Zip::low(a, b);
+    } else {
+        return zip(lowHalf(a), lowHalf(b));
     }
 }
 template <typename T, int N>
 TARN_INLINE Pack<T, N> zipHigh(Pack<T, N> a, Pack<T, N> b)
 {
-    if constexpr (N > registerLanes<T>) {
-        return zip(a.hi, b.hi);
-    } else {
+    if constexpr (isOneRegister<T, N>) {
         return Zip::high(a, b);
+    } else {
+        return zip(highHalf(a), highHalf(b));
     }
 }
 
@@ -79,35 +89,41 @@ TARN_INLINE Pack<T, 2 * N> twice(Pack<T, N> x)
 
 // The elements at even places of twice as many, and those at odd ones.
 struct EvenElements {
-    template <typename T>
-    static TARN_INLINE Register<T> of(Pack<T, 2 * registerLanes<T>> x)
+    template <typename T, int N>
+        requires(N > registerLanes<T> && isOneRegister<T, N / 2>)
+    static TARN_INLINE Pack<T, N / 2> of(Pack<T, N> x)
     {
-        if constexpr (registerLanes<T> == 1) {
-            return x.lo;
+        if constexpr (WideRegister<Pack<T, N / 2>>) {
+            return {native::shuffle<sizeof(T), native::Even>(lowHalf(x).v, highHalf(x).v)};
+        } else if constexpr (registerLanes<T> == 1) {
+            return lowHalf(x);
         } else if constexpr (std::is_same_v<T, Tarn32f>) {
-            return {_mm_shuffle_ps(x.lo.v, x.hi.v, 0x88)};
+            return {_mm_shuffle_ps(lowHalf(x).v, highHalf(x).v, 0x88)};
         } else if constexpr (std::is_same_v<T, Tarn64f>) {
-            return {_mm_unpacklo_pd(x.lo.v, x.hi.v)};
+            return {_mm_unpacklo_pd(lowHalf(x).v, highHalf(x).v)};
         } else {
             // Each with its sign in the place of its neighbour: nothing is left for the packing to saturate.
             static_assert(std::is_same_v<T, Tarn16s>);
-            return {_mm_packs_epi32(_mm_srai_epi32(_mm_slli_epi32(x.lo.v, 16), 16),
-                                    _mm_srai_epi32(_mm_slli_epi32(x.hi.v, 16), 16))};
+            return {_mm_packs_epi32(_mm_srai_epi32(_mm_slli_epi32(lowHalf(x).v, 16), 16),
+                                    _mm_srai_epi32(_mm_slli_epi32(highHalf(x).v, 16), 16))};
         }
     }
 };
 inline constexpr Word<EvenElements> evenElements;
 struct OddElements {
-    template <typename T>
-    static TARN_INLINE Register<T> of(Pack<T, 2 * registerLanes<T>> x)
+    template <typename T, int N>
+        requires(N > registerLanes<T> && isOneRegister<T, N / 2>)
+    static TARN_INLINE Pack<T, N / 2> of(Pack<T, N> x)
     {
-        if constexpr (registerLanes<T> == 1) {
-            return x.hi;
+        if constexpr (WideRegister<Pack<T, N / 2>>) {
+            return {native::shuffle<sizeof(T), native::Odd>(lowHalf(x).v, highHalf(x).v)};
+        } else if constexpr (registerLanes<T> == 1) {
+            return highHalf(x);
         } else if constexpr (std::is_same_v<T, Tarn32f>) {
-            return {_mm_shuffle_ps(x.lo.v, x.hi.v, 0xDD)};
+            return {_mm_shuffle_ps(lowHalf(x).v, highHalf(x).v, 0xDD)};
         } else {
             static_assert(std::is_same_v<T, Tarn64f>);
-            return {_mm_unpackhi_pd(x.lo.v, x.hi.v)};
+            return {_mm_unpackhi_pd(lowHalf(x).v, highHalf(x).v)};
         }
     }
 };
@@ -129,8 +145,10 @@ TARN_INLINE Pack<T, 2 * N> spreadOdd(Pack<T, N> x)
 template <typename T, int N>
 TARN_INLINE Pack<T, N> lowHalves(Pack<T, N> a, Pack<T, N> b)
 {
-    if constexpr (N > registerLanes<T>) {
-        return {a.lo, b.lo};
+    if constexpr (fillsWideRegister<T, N>) {
+        return {native::shuffle<registerBytes / 2, native::LowHalves>(a.v, b.v)};
+    } else if constexpr (N > registerLanes<T>) {
+        return {lowHalf(a), lowHalf(b)};
     } else if constexpr (std::is_same_v<T, Tarn32f>) {
         return {_mm_movelh_ps(a.v, b.v)};
     } else {
@@ -140,8 +158,10 @@ TARN_INLINE Pack<T, N> lowHalves(Pack<T, N> a, Pack<T, N> b)
 template <typename T, int N>
 TARN_INLINE Pack<T, N> highHalves(Pack<T, N> a, Pack<T, N> b)
 {
-    if constexpr (N > registerLanes<T>) {
-        return {a.hi, b.hi};
+    if constexpr (fillsWideRegister<T, N>) {
+        return {native::shuffle<registerBytes / 2, native::HighHalves>(a.v, b.v)};
+    } else if constexpr (N > registerLanes<T>) {
+        return {highHalf(a), highHalf(b)};
     } else if constexpr (std::is_same_v<T, Tarn32f>) {
         return {_mm_movehl_ps(b.v, a.v)};
     } else {

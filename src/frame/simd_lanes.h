@@ -13,10 +13,10 @@ template <typename X, typename Operation>
 TARN_INLINE auto byRegister(X x, Operation operation)
 {
     if constexpr (isPack<X>) {
-        if constexpr (X::size > registerLanes<Element<X>>) {
-            return join(byRegister(x.lo, operation), byRegister(x.hi, operation));
-        } else {
+        if constexpr (AnyRegister<X>) {
             return operation(x);
+        } else {
+            return join(byRegister(lowHalf(x), operation), byRegister(highHalf(x), operation));
         }
     } else {
         return operation(x);
@@ -29,7 +29,7 @@ template <typename T, int N>
 TARN_INLINE T firstLane(Pack<T, N> x)
 {
     if constexpr (N > registerLanes<T>) {
-        return firstLane(x.lo);
+        return firstLane(lowHalf(x));
     } else if constexpr (isSingle<T>) {
         return _mm_cvtss_f32(x.v);
     } else if constexpr (isDouble<T>) {
@@ -48,7 +48,7 @@ template <typename T, int N>
 TARN_INLINE Pack<T, N> withFirstLane(Pack<T, N> x, T value)
 {
     if constexpr (N > registerLanes<T>) {
-        return {withFirstLane(x.lo, value), x.hi};
+        return {withFirstLane(lowHalf(x), value), highHalf(x)};
     } else if constexpr (isSingle<T>) {
         return {_mm_move_ss(x.v, _mm_set_ss(value))};
     } else {
@@ -63,7 +63,7 @@ TARN_INLINE X inFirstLane(Element<X> x)
 {
     using T = Element<X>;
     if constexpr (X::size > registerLanes<T>) {
-        return {inFirstLane<decltype(X::lo)>(x), splat<decltype(X::hi)>(T{0})};
+        return {inFirstLane<HalfOf<X>>(x), splat<HalfOf<X>>(T{0})};
     } else if constexpr (isSingle<T>) {
         return {_mm_set_ss(x)};
     } else {
@@ -78,7 +78,7 @@ TARN_INLINE Pack<T, N> splatLane(Pack<T, N> x)
 {
     if constexpr (N > registerLanes<T>) {
         constexpr int half = N / 2;
-        const auto spread = k < half ? splatLane<k % half>(x.lo) : splatLane<k % half>(x.hi);
+        const auto spread = k < half ? splatLane<k % half>(lowHalf(x)) : splatLane<k % half>(highHalf(x));
         return {spread, spread};
     } else if constexpr (std::is_same_v<T, Tarn32f>) {
         return {_mm_shuffle_ps(x.v, x.v, 0x55 * k)};
@@ -101,7 +101,7 @@ template <int k, Float T, int N>
 TARN_INLINE Pack<T, N> spreadLane(Pack<T, N> x)
 {
     if constexpr (N > registerLanes<T>) {
-        const auto half = spreadLane<k % (N / 2)>(k < N / 2 ? x.lo : x.hi);
+        const auto half = spreadLane<k % (N / 2)>(k < N / 2 ? lowHalf(x) : highHalf(x));
         return {half, half};
     } else if constexpr (isSingle<T>) {
         return {_mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(x.v), k * 0x55))};
@@ -131,8 +131,8 @@ template <int k, typename T, int N>
 TARN_INLINE Pack<T, N> lanesDown(Pack<T, N> x)
 {
     if constexpr (N > registerLanes<T>) {
-        static_assert(k == N / 2, "whole halves, or lanes of one register");
-        return {x.hi, splat<Pack<T, N / 2>>(T{})};
+        static_assert(k == N / 2, "whole halves, or lanes of the narrowest register");
+        return {highHalf(x), splat<Pack<T, N / 2>>(T{})};
     } else {
         constexpr int bytes = k * static_cast<int>(sizeof(T));
         return {reinterpret_cast<Native<T>>(_mm_srli_si128(reinterpret_cast<__m128i>(x.v), bytes))};
@@ -147,7 +147,7 @@ TARN_INLINE auto foldTo(Pack<T, N> x, Join join)
     if constexpr (left == N) {
         return x;
     } else if constexpr (N > registerLanes<T>) {
-        return foldTo<left>(join(x.lo, x.hi), join);
+        return foldTo<left>(join(lowHalf(x), highHalf(x)), join);
     } else {
         const auto half = foldTo<2 * left>(x, join);
         return join(half, lanesDown<left>(half));
@@ -174,11 +174,10 @@ TARN_INLINE Register<Tarn32s> sumsOfLanes(Register<Tarn32s> a, Register<Tarn32s>
 template <typename T, int N>
 TARN_INLINE int firstSet(Pack<T, N> mask)
 {
-    if constexpr (N > registerLanes<T>) {
-        return anyOf(mask.lo) ? firstSet(mask.lo) : N / 2 + firstSet(mask.hi);
+    if constexpr (AnyRegister<Pack<T, N>>) {
+        return std::countr_zero(native::bytesSet(reinterpretPack<Tarn8u>(mask).v)) / static_cast<int>(sizeof(T));
     } else {
-        const int bytes = _mm_movemask_epi8(reinterpret_cast<__m128i>(mask.v));
-        return std::countr_zero(static_cast<unsigned>(bytes)) / static_cast<int>(sizeof(T));
+        return anyOf(mask.lo) ? firstSet(mask.lo) : N / 2 + firstSet(mask.hi);
     }
 }
 
@@ -189,7 +188,7 @@ inline constexpr int wordsSearched = 2 * registerLanes<Tarn16u>;
 TARN_INLINE int wordsNotAbove(const Tarn16u* sorted, Tarn16u value)
 {
     const auto above = greater(loadPack<wordsSearched>(sorted), splat<Pack<Tarn16u, wordsSearched>>(value));
-    const int set = _mm_movemask_epi8(_mm_packs_epi16(above.lo.v, above.hi.v));
+    const int set = _mm_movemask_epi8(_mm_packs_epi16(lowHalf(above).v, highHalf(above).v));
     return std::countr_zero(static_cast<unsigned>(set) | 1u << wordsSearched);
 }
 
@@ -203,11 +202,11 @@ TARN_INLINE void settle(Tarn32s& x) { asm volatile("" : "+r"(x)); }
 template <typename T, int N>
 TARN_INLINE void settle(Pack<T, N>& x)
 {
-    if constexpr (N > registerLanes<T>) {
+    if constexpr (AnyRegister<Pack<T, N>>) {
+        asm volatile("" : "+x"(x.v));
+    } else {
         settle(x.lo);
         settle(x.hi);
-    } else {
-        asm volatile("" : "+x"(x.v));
     }
 }
 

@@ -8,11 +8,14 @@ namespace tarn {
 
 // -- Registers that lie on register boundaries ------------------------------------------------------------------------
 
-// From an address on a register boundary: unlike an access to any address, it can be an instruction's operand.
+// From an address on a boundary of the narrowest register: unlike an access to any address, it can be an instruction's
+// operand. Wider registers need no boundary for that.
 template <int N, typename T>
 TARN_INLINE Pack<T, N> loadAligned(const T* p)
 {
-    if constexpr (N > registerLanes<T>) {
+    if constexpr (fillsWideRegister<T, N>) {
+        return loadPack<N>(p);
+    } else if constexpr (N > registerLanes<T>) {
         return {loadAligned<N / 2>(p), loadAligned<N / 2>(p + N / 2)};
     } else if constexpr (isSingle<T>) {
         return {_mm_load_ps(reinterpret_cast<const float*>(p))};
@@ -23,12 +26,30 @@ TARN_INLINE Pack<T, N> loadAligned(const T* p)
     }
 }
 
+// The elements of one narrowest register, from a boundary of it, as often as a pack holds them.
+template <int N, typename T>
+TARN_INLINE Pack<T, N> loadRepeated(const T* p)
+{
+    if constexpr (fillsWideRegister<T, N>) {
+        Native<Tarn8u, bytesOf<T, N>> all;
+        native::splat(all, _mm_load_si128(reinterpret_cast<const __m128i*>(p)));
+        return reinterpretPack<T>(Pack<Tarn8u, bytesOf<T, N>>{all});
+    } else if constexpr (N > registerLanes<T>) {
+        const auto half = loadRepeated<N / 2>(p);
+        return join(half, half);
+    } else {
+        return loadAligned<N>(p);
+    }
+}
+
 template <typename T, int N>
 TARN_INLINE void storeAligned(T* p, Pack<T, N> x)
 {
-    if constexpr (N > registerLanes<T>) {
-        storeAligned(p, x.lo);
-        storeAligned(p + N / 2, x.hi);
+    if constexpr (fillsWideRegister<T, N>) {
+        store(p, x);
+    } else if constexpr (N > registerLanes<T>) {
+        storeAligned(p, lowHalf(x));
+        storeAligned(p + N / 2, highHalf(x));
     } else if constexpr (isSingle<T>) {
         _mm_store_ps(reinterpret_cast<float*>(p), x.v);
     } else if constexpr (isDouble<T>) {
@@ -38,19 +59,15 @@ TARN_INLINE void storeAligned(T* p, Pack<T, N> x)
     }
 }
 
-// Stores past the caches; `p` lies on a register boundary. A run of them ends with streamFence.
+// Stores past the caches; `p` lies on a boundary of the widest vector. A run of them ends with streamFence.
 template <typename T, int N>
 TARN_INLINE void storeStream(T* p, Pack<T, N> x)
 {
-    if constexpr (N > registerLanes<T>) {
-        storeStream(p, x.lo);
-        storeStream(p + N / 2, x.hi);
-    } else if constexpr (isSingle<T>) {
-        _mm_stream_ps(reinterpret_cast<float*>(p), x.v);
-    } else if constexpr (isDouble<T>) {
-        _mm_stream_pd(reinterpret_cast<double*>(p), x.v);
+    if constexpr (AnyRegister<Pack<T, N>>) {
+        native::stream(p, x.v);
     } else {
-        _mm_stream_si128(reinterpret_cast<__m128i*>(p), x.v);
+        storeStream(p, lowHalf(x));
+        storeStream(p + N / 2, highHalf(x));
     }
 }
 

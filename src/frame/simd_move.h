@@ -22,8 +22,10 @@ struct Reverse {
     template <typename T, int N>
     static TARN_INLINE Pack<T, N> of(Pack<T, N> x)
     {
-        if constexpr (N > registerLanes<T>) {
-            return {of(x.hi), of(x.lo)};
+        if constexpr (fillsWideRegister<T, N> && sizeof(T) <= 8) {
+            return {native::shuffle<sizeof(T), native::Backward>(x.v)};
+        } else if constexpr (N > registerLanes<T>) {
+            return {of(highHalf(x)), of(lowHalf(x))};
         } else if constexpr (N == 1) {
             return x;
         } else if constexpr (sizeof(T) == 8) {
@@ -51,7 +53,7 @@ TARN_INLINE Pack<T, N> reverseElements(Pack<T, N> x)
     if constexpr (parts == 1) {
         return reverse(x);
     } else if constexpr (N > registerLanes<T>) {
-        return {reverseElements<parts>(x.hi), reverseElements<parts>(x.lo)};
+        return {reverseElements<parts>(highHalf(x)), reverseElements<parts>(lowHalf(x))};
     } else if constexpr (registerLanes<T> == parts) {
         return x;
     } else {
@@ -64,6 +66,9 @@ TARN_INLINE Pack<T, N> reverseElements(Pack<T, N> x)
 struct SwapBytes {
     static TARN_INLINE Tarn16u of(Tarn16u x) { return __builtin_bswap16(x); }
     static TARN_INLINE Tarn32u of(Tarn32u x) { return __builtin_bswap32(x); }
+    template <AnyRegister R>
+        requires WideRegister<R>
+    static TARN_INLINE R of(R x) { return {native::shuffle<1, native::BytesBackward<sizeof(Element<R>)>>(x.v)}; }
     static TARN_INLINE Register<Tarn16u> of(Register<Tarn16u> x)
     {
         return {_mm_or_si128(_mm_slli_epi16(x.v, 8), _mm_srli_epi16(x.v, 8))};

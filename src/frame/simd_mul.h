@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/simd_convert.h"
+#include "frame/simd_interleave.h"
 
 namespace tarn {
 
@@ -26,22 +27,32 @@ struct MulWidened {
     static TARN_INLINE Tarn32s of(Tarn16s a, Tarn16s b) { return Tarn32s{a} * b; }
     static TARN_INLINE Tarn32s of(Tarn16u a, Tarn16s b) { return Tarn32s{a} * b; }
     static TARN_INLINE Tarn64s of(Tarn32s a, Tarn32s b) { return Tarn64s{a} * b; }
-    static TARN_INLINE auto of(Register<Tarn8u> a, Register<Tarn8u> b)
+    template <RegisterOf<Tarn8u> R>
+    static TARN_INLINE auto of(R a, R b)
     {
-        const auto x = widen(a);
-        const auto y = widen(b);
-        return Pack<Tarn16u, 2 * registerLanes<Tarn16u>>{{_mm_mullo_epi16(x.lo.v, y.lo.v)},
-                                                         {_mm_mullo_epi16(x.hi.v, y.hi.v)}};
+        return lowProducts(widen(a), widen(b));
     }
-    static TARN_INLINE auto of(Register<Tarn16s> a, Register<Tarn16s> b)
+    template <RegisterOf<Tarn16s> R>
+    static TARN_INLINE auto of(R a, R b)
     {
-        return fromHalves(_mm_mullo_epi16(a.v, b.v), _mm_mulhi_epi16(a.v, b.v));
+        return fromHalves(R{native::mulLow16(a.v, b.v)}, R{native::mulHigh16s(a.v, b.v)});
     }
     // The unsigned product takes a negative b for b + 2^16, which is a too much in the upper half.
-    static TARN_INLINE auto of(Register<Tarn16u> a, Register<Tarn16s> b)
+    template <RegisterOf<Tarn16u> R>
+    static TARN_INLINE auto of(R a, Like<R, Tarn16s> b)
     {
-        const __m128i excess = _mm_and_si128(a.v, _mm_srai_epi16(b.v, 15));
-        return fromHalves(_mm_mullo_epi16(a.v, b.v), _mm_sub_epi16(_mm_mulhi_epu16(a.v, b.v), excess));
+        const auto excess = native::bitAnd(a.v, ShiftRight::of(b, 15).v);
+        return fromHalves(R{native::mulLow16(a.v, b.v)}, R{native::sub16(native::mulHigh16u(a.v, b.v), excess)});
+    }
+    template <RegisterOf<Tarn32s> R>
+        requires WideRegister<R>
+    static TARN_INLINE Like<R, Tarn64s> of(R a, R b)
+    {
+        using Products = SameBytes<R, Tarn64s>;
+        const auto upper = [](R x) { return ShiftRightLogical::of(Products{x.v}, 32).v; };
+        const Products even{native::mulEven32s(a.v, b.v)};
+        const Products odd{native::mulEven32s(upper(a), upper(b))};
+        return zip(even, odd);
     }
     static TARN_INLINE auto of(Register<Tarn32s> a, Register<Tarn32s> b)
     {
@@ -51,9 +62,19 @@ struct MulWidened {
     }
 
 private:
-    static TARN_INLINE Pack<Tarn32s, 2 * registerLanes<Tarn32s>> fromHalves(__m128i low, __m128i high)
+    template <int N>
+    static TARN_INLINE Pack<Tarn16u, N> lowProducts(Pack<Tarn16s, N> x, Pack<Tarn16s, N> y)
     {
-        return {{_mm_unpacklo_epi16(low, high)}, {_mm_unpackhi_epi16(low, high)}};
+        if constexpr (isOneRegister<Tarn16s, N>) {
+            return {native::mulLow16(x.v, y.v)};
+        } else {
+            return join(lowProducts(lowHalf(x), lowHalf(y)), lowProducts(highHalf(x), highHalf(y)));
+        }
+    }
+    template <AnyRegister R>
+    static TARN_INLINE Like<R, Tarn32s> fromHalves(R low, R high)
+    {
+        return reinterpretPack<Tarn32s>(zip(low, high));
     }
 };
 inline constexpr Word<MulWidened> mulWidened;
@@ -62,23 +83,28 @@ inline constexpr Word<MulWidened> mulWidened;
 struct MulAddWidened {
     static TARN_INLINE Tarn32s of(Tarn16s a, Tarn16s b, Tarn16s c) { return Tarn32s{a} * b + c; }
     // The sum of the pair product (a, c) (b, 1).
-    static TARN_INLINE Pack<Tarn32s, 2 * registerLanes<Tarn32s>> of(Register<Tarn16s> a, Register<Tarn16s> b,
-                                                                    Register<Tarn16s> c)
+    template <RegisterOf<Tarn16s> R>
+    static TARN_INLINE Like<R, Tarn32s> of(R a, R b, R c)
     {
-        const __m128i one = _mm_set1_epi16(1);
-        return {{_mm_madd_epi16(_mm_unpacklo_epi16(a.v, c.v), _mm_unpacklo_epi16(b.v, one))},
-                {_mm_madd_epi16(_mm_unpackhi_epi16(a.v, c.v), _mm_unpackhi_epi16(b.v, one))}};
+        const R one = splat<R>(1);
+        return join(products(zipLow(a, c), zipLow(b, one)), products(zipHigh(a, c), zipHigh(b, one)));
+    }
+
+private:
+    template <AnyRegister R>
+    static TARN_INLINE SameBytes<R, Tarn32s> products(R a, R b)
+    {
+        return {native::mulAddPairs(a.v, b.v)};
     }
 };
 inline constexpr Word<MulAddWidened> mulAddWidened;
 
 // The squares of unsigned elements, in their order.
 struct Squares {
-    static TARN_INLINE Pack<Tarn32u, 2 * registerLanes<Tarn32u>> of(Register<Tarn16u> x)
+    template <RegisterOf<Tarn16u> R>
+    static TARN_INLINE Like<R, Tarn32u> of(R x)
     {
-        const __m128i low = _mm_mullo_epi16(x.v, x.v);
-        const __m128i high = _mm_mulhi_epu16(x.v, x.v);
-        return {{_mm_unpacklo_epi16(low, high)}, {_mm_unpackhi_epi16(low, high)}};
+        return reinterpretPack<Tarn32u>(zip(R{native::mulLow16(x.v, x.v)}, R{native::mulHigh16u(x.v, x.v)}));
     }
 };
 inline constexpr Word<Squares> squares;
@@ -91,14 +117,9 @@ struct MulAddPairs {
     {
         return AddInteger::of(Tarn32s{a.re} * b.re, Tarn32s{a.im} * b.im);
     }
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn16sc> a, Register<Tarn16sc> b)
-    {
-        return {_mm_madd_epi16(a.v, b.v)};
-    }
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn16s> a, Register<Tarn16s> b)
-    {
-        return {_mm_madd_epi16(a.v, b.v)};
-    }
+    template <AnyRegister R>
+        requires std::is_same_v<Part<Element<R>>, Tarn16s>
+    static TARN_INLINE SameBytes<R, Tarn32s> of(R a, R b) { return {native::mulAddPairs(a.v, b.v)}; }
 };
 inline constexpr Word<MulAddPairs> mulAddPairs;
 

@@ -7,35 +7,42 @@
 
 namespace tarn {
 
-// Stamps an operation on elements and on registers of 16 bytes from the stem of its instruction. A register's operand
-// is never in memory: the compiler would put an array there, of which nothing says that it is aligned.
-#define TARN_ORDERED_OPERATION(NAME, STEM)                           \
-    struct NAME {                                                    \
-        static TARN_INLINE Tarn32f of(Tarn32f a, Tarn32f b)          \
-        {                                                            \
-            __asm__(STEM "ss\t%1, %0" : "+x"(a) : "xm"(b));          \
-            return a;                                                \
-        }                                                            \
-        static TARN_INLINE Tarn64f of(Tarn64f a, Tarn64f b)          \
-        {                                                            \
-            __asm__(STEM "sd\t%1, %0" : "+x"(a) : "xm"(b));          \
-            return a;                                                \
-        }                                                            \
-        template <Float T, int N>                                    \
-            requires(sizeof(T) * N == 16)                            \
-        static TARN_INLINE Pack<T, N> of(Pack<T, N> a, Pack<T, N> b) \
-        {                                                            \
-            if constexpr (isSingle<T>) {                             \
-                __asm__(STEM "ps\t%1, %0" : "+x"(a.v) : "x"(b.v));   \
-            } else {                                                 \
-                __asm__(STEM "pd\t%1, %0" : "+x"(a.v) : "x"(b.v));   \
-            }                                                        \
-            return a;                                                \
-        }                                                            \
+// Stamps an operation on elements and on registers from the stem of its instruction. A register's operand is never in
+// memory: the compiler would put an array there, of which nothing says that it is aligned. Where registers are wider
+// than 16 bytes the instructions are those of three operands, since the others would wait for what lies above.
+#if TARNS_REGISTER_BYTES > 16
+#define TARN_IN_ORDER(STEM, SUFFIX, OPERAND, a, b) \
+    __asm__("v" STEM SUFFIX "\t%2, %1, %0" : "=x"(a) : "x"(a), OPERAND(b))
+#else
+#define TARN_IN_ORDER(STEM, SUFFIX, OPERAND, a, b) __asm__(STEM SUFFIX "\t%1, %0" : "+x"(a) : OPERAND(b))
+#endif
+#define TARN_ORDERED_OPERATION(NAME, STEM)                  \
+    struct NAME {                                           \
+        static TARN_INLINE Tarn32f of(Tarn32f a, Tarn32f b) \
+        {                                                   \
+            TARN_IN_ORDER(STEM, "ss", "xm", a, b);          \
+            return a;                                       \
+        }                                                   \
+        static TARN_INLINE Tarn64f of(Tarn64f a, Tarn64f b) \
+        {                                                   \
+            TARN_IN_ORDER(STEM, "sd", "xm", a, b);          \
+            return a;                                       \
+        }                                                   \
+        template <FloatRegister R>                          \
+        static TARN_INLINE R of(R a, R b)                   \
+        {                                                   \
+            if constexpr (isSingle<Element<R>>) {           \
+                TARN_IN_ORDER(STEM, "ps", "x", a.v, b.v);   \
+            } else {                                        \
+                TARN_IN_ORDER(STEM, "pd", "x", a.v, b.v);   \
+            }                                               \
+            return a;                                       \
+        }                                                   \
     }
 TARN_ORDERED_OPERATION(AddInOrder, "add");
 TARN_ORDERED_OPERATION(MulInOrder, "mul");
 #undef TARN_ORDERED_OPERATION
+#undef TARN_IN_ORDER
 
 inline constexpr Word<AddInOrder> addInOrder;
 inline constexpr Word<MulInOrder> mulInOrder;
@@ -51,23 +58,14 @@ struct MulComplexInOrder {
         return {MulInOrder::of(b.re, a.re) - MulInOrder::of(b.im, a.im),
                 AddInOrder::of(MulInOrder::of(b.re, a.im), MulInOrder::of(b.im, a.re))};
     }
-    template <int N>
-        requires(sizeof(Tarn32fc) * N == 16)
-    static TARN_INLINE Pack<Tarn32fc, N> of(Pack<Tarn32fc, N> a, Pack<Tarn32fc, N> b)
+    template <AnyRegister R>
+        requires(isComplex<Element<R>>&& Float<Part<Element<R>>>)
+    static TARN_INLINE R of(R a, R b)
     {
-        using Parts = Pack<Tarn32f, 2 * N>;
-        const auto byRe = MulInOrder::of(Parts{_mm_moveldup_ps(b.v)}, Parts{a.v});
-        const auto byIm = MulInOrder::of(Parts{_mm_movehdup_ps(b.v)}, Parts{SwapParts::of(a).v});
-        return {_mm_addsub_ps(byRe.v, byIm.v)};
-    }
-    template <int N>
-        requires(sizeof(Tarn64fc) * N == 16)
-    static TARN_INLINE Pack<Tarn64fc, N> of(Pack<Tarn64fc, N> a, Pack<Tarn64fc, N> b)
-    {
-        using Parts = Pack<Tarn64f, 2 * N>;
-        const auto byRe = MulInOrder::of(Parts{_mm_unpacklo_pd(b.v, b.v)}, Parts{a.v});
-        const auto byIm = MulInOrder::of(Parts{_mm_unpackhi_pd(b.v, b.v)}, Parts{SwapParts::of(a).v});
-        return {_mm_addsub_pd(byRe.v, byIm.v)};
+        using Parts = SameBytes<R, Part<Element<R>>>;
+        const auto byRe = MulInOrder::of(Parts{native::evenTwice(b.v)}, Parts{a.v});
+        const auto byIm = MulInOrder::of(Parts{native::oddTwice(b.v)}, Parts{SwapParts::of(a).v});
+        return {native::subAdd(byRe.v, byIm.v)};
     }
 };
 inline constexpr Word<MulComplexInOrder> mulComplexInOrder;

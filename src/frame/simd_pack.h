@@ -3,7 +3,7 @@
 
 #include "tarncore.h"
 
-#include <pmmintrin.h>
+#include "frame/simd_native_moves.h"
 
 #include <bit>
 #include <cstdint>
@@ -11,25 +11,23 @@
 #include <type_traits>
 #include <utility>
 
-#define TARN_INLINE __attribute__((always_inline)) inline
-
 namespace tarn {
 
-// The width of this level's registers, and that of its widest vector, which is made of so many of them: one, or more to
-// prove that no result depends on the width. The only place that knows.
+// The narrowest register, which every level has, and the widest vector, which is one of the level's widest registers,
+// or several to prove that no result depends on the width.
 #ifndef TARNS_VECTOR_REGISTERS
 #define TARNS_VECTOR_REGISTERS 1
 #endif
 inline constexpr int registerBytes = 16;
-inline constexpr int vectorBytes = TARNS_VECTOR_REGISTERS * registerBytes;
+inline constexpr int vectorBytes = TARNS_VECTOR_REGISTERS * widestRegister;
 static_assert(vectorBytes == 16 || vectorBytes == 32 || vectorBytes == 64);
 
-// The elements of one register, and those of the widest vector. Only what shows in no result and in no layout may
-// follow the latter; a family that fixes a number of lanes writes that number.
+// The elements of the narrowest register, and those of the widest vector. Only what shows in no result and in no layout
+// may follow the latter; a family that fixes a number of lanes writes that number.
 template <typename T>
 inline constexpr int registerLanes = registerBytes / static_cast<int>(sizeof(T));
 template <typename T>
-inline constexpr int lanes = TARNS_VECTOR_REGISTERS* registerLanes<T>;
+inline constexpr int lanes = vectorBytes / registerBytes* registerLanes<T>;
 
 // What a complex element is made of; a real element is its own part.
 template <typename T>
@@ -67,23 +65,18 @@ inline constexpr bool isSingle = std::is_same_v<Part<T>, Tarn32f>;
 template <typename T>
 inline constexpr bool isDouble = std::is_same_v<Part<T>, Tarn64f>;
 
-// The register type that holds elements of a kind.
-template <bool single, bool twice>
-struct NativeOf {
-    using type = __m128i;
-};
-template <>
-struct NativeOf<true, false> {
-    using type = __m128;
-};
-template <>
-struct NativeOf<false, true> {
-    using type = __m128d;
-};
-template <typename T>
-using Native = typename NativeOf<isSingle<T>, isDouble<T>>::type;
+// The compiler's type for a register of so many bytes that holds elements of a kind.
+template <typename T, int bytes = registerBytes>
+using Native = typename native::RegisterType<isSingle<T>, isDouble<T>, bytes>::type;
 
-// N consecutive elements, in whatever registers they need: one when they fill it, two halves above that. The element
+// A level whose registers hold so many bytes has all narrower ones, too.
+template <typename T, int N>
+inline constexpr int bytesOf = N* static_cast<int>(sizeof(T));
+template <typename T, int N>
+inline constexpr bool fillsWideRegister = bytesOf<T, N> <= widestRegister &&
+                                          (bytesOf<T, N> == 32 || bytesOf<T, N> == 64);
+
+// N consecutive elements, in whatever registers they need: one where they fill it, two halves above that. The element
 // counts of all operands of an operation agree, however many registers each type needs for them.
 template <typename T, int N>
 struct Pack {
@@ -99,6 +92,18 @@ struct Pack<T, N> {
     using Element = T;
     static constexpr int size = N;
     Native<T> v;
+};
+
+template <typename T, int N>
+    requires(fillsWideRegister<T, N>)
+struct Pack<T, N> {
+    using Element = T;
+    static constexpr int size = N;
+    Native<T, bytesOf<T, N>> v;
+
+    Pack() = default;
+    TARN_INLINE Pack(Native<T, bytesOf<T, N>> all) : v(all) {}
+    TARN_INLINE Pack(Pack<T, N / 2> low, Pack<T, N / 2> high) : v(native::join(low.v, high.v)) {}
 };
 
 template <typename T>
@@ -135,14 +140,61 @@ struct WithElement<Pack<T, N>, U> {
 template <typename X, typename U>
 using Like = typename WithElement<X, U>::type;
 
+// A pack that is one register.
+template <typename X>
+concept AnyRegister = isPack<X> && requires(X x)
+{
+    x.v;
+};
+// One of elements of this type.
+template <typename X, typename T>
+concept RegisterOf = AnyRegister<X> && std::is_same_v<Element<X>, T>;
+
+// One that is wider than the narrowest.
+template <typename X>
+concept WideRegister = AnyRegister<X> && sizeof(X) > registerBytes;
+// One of a level that has no wider ones.
+template <typename X>
+concept OnlyRegister = AnyRegister<X> && widestRegister == registerBytes;
+template <typename T, int N>
+inline constexpr bool isOneRegister = bytesOf<T, N> == registerBytes || fillsWideRegister<T, N>;
+
+// The pack of other elements in as many bytes, and the one of half or twice as many elements.
+template <typename X, typename U>
+using SameBytes = Pack<U, X::size* static_cast<int>(sizeof(Element<X>)) / static_cast<int>(sizeof(U))>;
+template <typename X>
+using HalfOf = Pack<Element<X>, X::size / 2>;
+template <typename X>
+using TwiceAs = Pack<Element<X>, 2 * X::size>;
+
 template <typename T, int N>
 TARN_INLINE Pack<T, 2 * N> join(Pack<T, N> lo, Pack<T, N> hi)
 {
     return {lo, hi};
 }
 
-// A word of the vocabulary: `Impl::of` has an overload for the element and one for the register of every type that has
-// the operation; a longer pack is served half by half. Arguments that are not packs (shift counts) go to both halves.
+template <typename T, int N>
+TARN_INLINE Pack<T, N / 2> lowHalf(Pack<T, N> x)
+{
+    if constexpr (AnyRegister<Pack<T, N>>) {
+        return {native::low(x.v)};
+    } else {
+        return x.lo;
+    }
+}
+template <typename T, int N>
+TARN_INLINE Pack<T, N / 2> highHalf(Pack<T, N> x)
+{
+    if constexpr (AnyRegister<Pack<T, N>>) {
+        return {native::high(x.v)};
+    } else {
+        return x.hi;
+    }
+}
+
+// A word of the vocabulary: `Impl::of` has an overload for the element and one for the registers of every type that has
+// the operation, or for the narrowest of them; a longer pack is served half by half. Arguments that are not packs
+// (shift counts) go to both halves.
 template <typename Impl>
 struct Word {
     template <typename... X>
@@ -160,7 +212,7 @@ private:
     static TARN_INLINE auto low(X x)
     {
         if constexpr (isPack<X>) {
-            return x.lo;
+            return lowHalf(x);
         } else {
             return x;
         }
@@ -169,7 +221,7 @@ private:
     static TARN_INLINE auto high(X x)
     {
         if constexpr (isPack<X>) {
-            return x.hi;
+            return highHalf(x);
         } else {
             return x;
         }
@@ -195,29 +247,24 @@ TARN_INLINE void store(T* p, std::type_identity_t<T> x)
 template <int N, typename T>
 TARN_INLINE Pack<T, N> loadPack(const T* p)
 {
-    if constexpr (N > registerLanes<T>) {
-        return {loadPack<N / 2>(p), loadPack<N / 2>(p + N / 2)};
-    } else if constexpr (isSingle<T>) {
-        return {_mm_loadu_ps(reinterpret_cast<const float*>(p))};
-    } else if constexpr (isDouble<T>) {
-        return {_mm_loadu_pd(reinterpret_cast<const double*>(p))};
+    using X = Pack<T, N>;
+    if constexpr (AnyRegister<X>) {
+        X x;
+        native::load(x.v, p);
+        return x;
     } else {
-        return {_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))};
+        return {loadPack<N / 2>(p), loadPack<N / 2>(p + N / 2)};
     }
 }
 
 template <typename T, int N>
 TARN_INLINE void store(T* p, Pack<T, N> x)
 {
-    if constexpr (N > registerLanes<T>) {
+    if constexpr (AnyRegister<Pack<T, N>>) {
+        native::store(p, x.v);
+    } else {
         store(p, x.lo);
         store(p + N / 2, x.hi);
-    } else if constexpr (isSingle<T>) {
-        _mm_storeu_ps(reinterpret_cast<float*>(p), x.v);
-    } else if constexpr (isDouble<T>) {
-        _mm_storeu_pd(reinterpret_cast<double*>(p), x.v);
-    } else {
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(p), x.v);
     }
 }
 
@@ -228,29 +275,28 @@ TARN_INLINE X splat(Element<X> value)
     using T = Element<X>;
     if constexpr (!isPack<X>) {
         return value;
-    } else if constexpr (X::size > registerLanes<T>) {
-        const auto half = splat<decltype(X::lo)>(value);
+    } else if constexpr (!AnyRegister<X>) {
+        const auto half = splat<HalfOf<X>>(value);
         return {half, half};
-    } else if constexpr (std::is_same_v<T, Tarn32f>) {
-        return {_mm_set1_ps(value)};
-    } else if constexpr (std::is_same_v<T, Tarn64f>) {
-        return {_mm_set1_pd(value)};
-    } else if constexpr (sizeof(T) == 16) {
-        return loadPack<1>(&value);
-    } else if constexpr (sizeof(T) == 8) {
-        const __m128i pair = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&value));
-        const __m128i both = _mm_unpacklo_epi64(pair, pair);
-        if constexpr (isSingle<T>) {
-            return {_mm_castsi128_ps(both)};
-        } else {
-            return {both};
-        }
-    } else if constexpr (sizeof(T) == 4) {
-        return {_mm_set1_epi32(std::bit_cast<Tarn32s>(value))};
-    } else if constexpr (sizeof(T) == 2) {
-        return {_mm_set1_epi16(static_cast<Tarn16s>(value))};
+    } else if constexpr (std::is_floating_point_v<T>) {
+        X x;
+        native::splat(x.v, value);
+        return x;
     } else {
-        return {_mm_set1_epi8(static_cast<char>(value))};
+        Native<Tarn8u, sizeof(X)> all;
+        if constexpr (sizeof(T) == 16) {
+            native::splat(all, reinterpret_cast<__m128i>(loadPack<1>(&value).v));
+        } else if constexpr (sizeof(T) == 8) {
+            const __m128i pair = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&value));
+            native::splat(all, _mm_unpacklo_epi64(pair, pair));
+        } else if constexpr (sizeof(T) == 4) {
+            native::splat(all, std::bit_cast<Tarn32s>(value));
+        } else if constexpr (sizeof(T) == 2) {
+            native::splat(all, static_cast<Tarn16s>(value));
+        } else {
+            native::splat(all, static_cast<Tarn8s>(value));
+        }
+        return {reinterpret_cast<decltype(X::v)>(all)};
     }
 }
 
@@ -260,11 +306,11 @@ TARN_INLINE X splat(Element<X> value)
 template <typename U, typename T, int N>
 TARN_INLINE auto reinterpretPack(Pack<T, N> x)
 {
-    constexpr int M = N * static_cast<int>(sizeof(T)) / static_cast<int>(sizeof(U));
-    if constexpr (N > registerLanes<T>) {
-        return join(reinterpretPack<U>(x.lo), reinterpretPack<U>(x.hi));
+    using X = SameBytes<Pack<T, N>, U>;
+    if constexpr (AnyRegister<Pack<T, N>>) {
+        return X{reinterpret_cast<decltype(X::v)>(x.v)};
     } else {
-        return Pack<U, M>{reinterpret_cast<Native<U>>(x.v)};
+        return join(reinterpretPack<U>(x.lo), reinterpretPack<U>(x.hi));
     }
 }
 

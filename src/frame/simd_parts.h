@@ -23,8 +23,10 @@ TARN_INLINE auto asDoubles(X z)
         return reinterpretPack<Tarn64f>(z);
     } else if constexpr (std::is_same_v<T, Tarn16sc>) {
         return convert<Tarn64f>(widen(reinterpretPack<Tarn16s>(z)));
+    } else if constexpr (widestRegister > registerBytes) {
+        return widen(reinterpretPack<Tarn32f>(z));
     } else if constexpr (X::size > registerLanes<T>) {
-        return join(asDoubles(z.lo), asDoubles(z.hi));
+        return join(asDoubles(lowHalf(z)), asDoubles(highHalf(z)));
     } else {
         static_assert(std::is_same_v<T, Tarn32fc>);
         return Pack<Tarn64f, 2 * registerLanes<Tarn64f>>{{_mm_cvtps_pd(z.v)}, {_mm_cvtps_pd(_mm_movehl_ps(z.v, z.v))}};
@@ -49,11 +51,13 @@ TARN_INLINE X fromDoubles(Pack<Tarn64f, N> parts)
         return reinterpretPack<T>(parts);
     } else if constexpr (std::is_same_v<T, Tarn16sc>) {
         return reinterpretPack<T>(narrowSaturated<Tarn16s>(roundToInteger(parts)));
+    } else if constexpr (widestRegister > registerBytes) {
+        return reinterpretPack<T>(narrowFloat(parts));
     } else if constexpr (X::size > registerLanes<T>) {
-        return {fromDoubles<decltype(X::lo)>(parts.lo), fromDoubles<decltype(X::hi)>(parts.hi)};
+        return {fromDoubles<HalfOf<X>>(lowHalf(parts)), fromDoubles<HalfOf<X>>(highHalf(parts))};
     } else {
         static_assert(std::is_same_v<T, Tarn32fc>);
-        return {_mm_movelh_ps(_mm_cvtpd_ps(parts.lo.v), _mm_cvtpd_ps(parts.hi.v))};
+        return {_mm_movelh_ps(_mm_cvtpd_ps(lowHalf(parts).v), _mm_cvtpd_ps(highHalf(parts).v))};
     }
 }
 
@@ -63,8 +67,10 @@ TARN_INLINE D inBothParts(Pack<Tarn64f, N> perElement)
 {
     if constexpr (D::size == N) {
         return perElement;
+    } else if constexpr (widestRegister > registerBytes) {
+        return twice(perElement);
     } else if constexpr (N > registerLanes<Tarn64f>) {
-        return {inBothParts<decltype(D::lo)>(perElement.lo), inBothParts<decltype(D::lo)>(perElement.hi)};
+        return {inBothParts<HalfOf<D>>(lowHalf(perElement)), inBothParts<HalfOf<D>>(highHalf(perElement))};
     } else {
         const __m128d x = perElement.v;
         return {{_mm_unpacklo_pd(x, x)}, {_mm_unpackhi_pd(x, x)}};
@@ -73,10 +79,11 @@ TARN_INLINE D inBothParts(Pack<Tarn64f, N> perElement)
 
 // The larger of |re| and |im| in the places of both.
 struct LargerParts {
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64f> parts)
+    template <RegisterOf<Tarn64f> R>
+    static TARN_INLINE R of(R parts)
     {
         const auto sizes = Absolute::of(parts);
-        return {_mm_max_pd(sizes.v, _mm_shuffle_pd(sizes.v, sizes.v, 1))};
+        return {native::max(sizes.v, native::exchanged(sizes.v))};
     }
 };
 inline constexpr Word<LargerParts> largerParts;
@@ -95,7 +102,7 @@ template <typename D>
 TARN_INLINE D realParts(Tarn64f re)
 {
     if constexpr (D::size > registerLanes<Tarn64f>) {
-        const auto half = realParts<decltype(D::lo)>(re);
+        const auto half = realParts<HalfOf<D>>(re);
         return {half, half};
     } else {
         return {_mm_set_sd(re)};

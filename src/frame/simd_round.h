@@ -17,7 +17,11 @@ struct Convert;
 template <>
 struct Convert<Tarn32f> {
     static TARN_INLINE Tarn32f of(Tarn32s x) { return static_cast<Tarn32f>(x); }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32s> x) { return {_mm_cvtepi32_ps(x.v)}; }
+    template <RegisterOf<Tarn32s> R>
+    static TARN_INLINE Like<R, Tarn32f> of(R x)
+    {
+        return {native::toFloats(x.v)};
+    }
 };
 template <typename D>
 inline constexpr Word<Convert<D>> convert;
@@ -26,7 +30,12 @@ inline constexpr Word<Convert<D>> convert;
 template <>
 struct Convert<Tarn64f> {
     static TARN_INLINE Tarn64f of(Tarn32s x) { return x; }
-    static TARN_INLINE Pack<Tarn64f, 2 * registerLanes<Tarn64f>> of(Register<Tarn32s> x)
+    template <RegisterOf<Tarn32s> R>
+        requires(2 * sizeof(R) <= widestRegister)
+    static TARN_INLINE Like<R, Tarn64f> of(R x) { return {native::toDoubles(x.v)}; }
+    template <RegisterOf<Tarn32s> R>
+        requires OnlyRegister<R>
+    static TARN_INLINE Pack<Tarn64f, 2 * registerLanes<Tarn64f>> of(R x)
     {
         return {{_mm_cvtepi32_pd(x.v)}, {_mm_cvtepi32_pd(_mm_shuffle_epi32(x.v, 0x4E))}};
     }
@@ -38,10 +47,19 @@ struct Convert<Tarn64f> {
 struct RoundToInteger {
     static TARN_INLINE Tarn32s of(Tarn32f x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
     static TARN_INLINE Tarn32s of(Tarn64f x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32f> x) { return {_mm_cvtps_epi32(x.v)}; }
-    static TARN_INLINE Register<Tarn32s> of(Pack<Tarn64f, 2 * registerLanes<Tarn64f>> x)
+    template <RegisterOf<Tarn32f> R>
+    static TARN_INLINE Like<R, Tarn32s> of(R x)
     {
-        return {_mm_unpacklo_epi64(_mm_cvtpd_epi32(x.lo.v), _mm_cvtpd_epi32(x.hi.v))};
+        return {native::round(x.v)};
+    }
+    template <RegisterOf<Tarn64f> R>
+        requires WideRegister<R>
+    static TARN_INLINE Like<R, Tarn32s> of(R x) { return {native::round(x.v)}; }
+    template <int N>
+        requires(N == 2 * registerLanes<Tarn64f> && widestRegister == registerBytes)
+    static TARN_INLINE Register<Tarn32s> of(Pack<Tarn64f, N> x)
+    {
+        return {_mm_unpacklo_epi64(_mm_cvtpd_epi32(lowHalf(x).v), _mm_cvtpd_epi32(highHalf(x).v))};
     }
 };
 inline constexpr Word<RoundToInteger> roundToInteger;
@@ -50,10 +68,19 @@ inline constexpr Word<RoundToInteger> roundToInteger;
 struct TruncateToInteger {
     static TARN_INLINE Tarn32s of(Tarn32f x) { return _mm_cvttss_si32(_mm_set_ss(x)); }
     static TARN_INLINE Tarn32s of(Tarn64f x) { return _mm_cvttsd_si32(_mm_set_sd(x)); }
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32f> x) { return {_mm_cvttps_epi32(x.v)}; }
-    static TARN_INLINE Register<Tarn32s> of(Pack<Tarn64f, 2 * registerLanes<Tarn64f>> x)
+    template <RegisterOf<Tarn32f> R>
+    static TARN_INLINE Like<R, Tarn32s> of(R x)
     {
-        return {_mm_unpacklo_epi64(_mm_cvttpd_epi32(x.lo.v), _mm_cvttpd_epi32(x.hi.v))};
+        return {native::truncate(x.v)};
+    }
+    template <RegisterOf<Tarn64f> R>
+        requires WideRegister<R>
+    static TARN_INLINE Like<R, Tarn32s> of(R x) { return {native::truncate(x.v)}; }
+    template <int N>
+        requires(N == 2 * registerLanes<Tarn64f> && widestRegister == registerBytes)
+    static TARN_INLINE Register<Tarn32s> of(Pack<Tarn64f, N> x)
+    {
+        return {_mm_unpacklo_epi64(_mm_cvttpd_epi32(lowHalf(x).v), _mm_cvttpd_epi32(highHalf(x).v))};
     }
 };
 inline constexpr Word<TruncateToInteger> truncateToInteger;
@@ -70,10 +97,11 @@ struct SaturatedConversion {
     {
         return Conversion::of(x > highest<Tarn32s> ? Tarn64f{highest<Tarn32s>} : x);
     }
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32f> x)
+    template <RegisterOf<Tarn32f> R>
+    static TARN_INLINE Like<R, Tarn32s> of(R x)
     {
-        const __m128i tooHigh = _mm_castps_si128(_mm_cmpge_ps(x.v, _mm_set1_ps(beyond)));
-        return {_mm_xor_si128(Conversion::of(x).v, tooHigh)};
+        const R tooHigh{native::notBelow(x.v, splat<R>(beyond).v)};
+        return BitXor::of(Conversion::of(x), reinterpretPack<Tarn32s>(tooHigh));
     }
 };
 inline constexpr Word<SaturatedConversion<RoundToInteger>> roundSaturated;
@@ -92,16 +120,24 @@ TARN_INLINE auto roundLimited(X x)
 struct BitsOf {
     static TARN_INLINE Tarn32s of(Tarn32f x) { return std::bit_cast<Tarn32s>(x); }
     static TARN_INLINE Tarn64s of(Tarn64f x) { return std::bit_cast<Tarn64s>(x); }
-    static TARN_INLINE Register<Tarn32s> of(Register<Tarn32f> x) { return {_mm_castps_si128(x.v)}; }
-    static TARN_INLINE Register<Tarn64s> of(Register<Tarn64f> x) { return {_mm_castpd_si128(x.v)}; }
+    template <FloatRegister R>
+        requires(sizeof(Element<R>) >= 4)
+    static TARN_INLINE auto of(R x)
+    {
+        return reinterpretPack<std::conditional_t<sizeof(Element<R>) == 4, Tarn32s, Tarn64s>>(x);
+    }
 };
 inline constexpr Word<BitsOf> bitsOf;
 
 struct FloatOfBits {
     static TARN_INLINE Tarn32f of(Tarn32s x) { return std::bit_cast<Tarn32f>(x); }
     static TARN_INLINE Tarn64f of(Tarn64s x) { return std::bit_cast<Tarn64f>(x); }
-    static TARN_INLINE Register<Tarn32f> of(Register<Tarn32s> x) { return {_mm_castsi128_ps(x.v)}; }
-    static TARN_INLINE Register<Tarn64f> of(Register<Tarn64s> x) { return {_mm_castsi128_pd(x.v)}; }
+    template <IntegerRegister R>
+        requires(sizeof(Element<R>) >= 4)
+    static TARN_INLINE auto of(R x)
+    {
+        return reinterpretPack<std::conditional_t<sizeof(Element<R>) == 4, Tarn32f, Tarn64f>>(x);
+    }
 };
 inline constexpr Word<FloatOfBits> floatOfBits;
 
@@ -119,7 +155,9 @@ TARN_INLINE Pack<T, N> loadSamples(const T* p)
 template <int N>
 TARN_INLINE Pack<Tarn32f, N> loadSamples(const Tarn16s* p)
 {
-    if constexpr (N > registerLanes<Tarn32f>) {
+    if constexpr (fillsWideRegister<Tarn32f, N>) {
+        return Convert<Tarn32f>::of(Widen::of(loadPack<N>(p)));
+    } else if constexpr (N > registerLanes<Tarn32f>) {
         return {loadSamples<N / 2>(p), loadSamples<N / 2>(p + N / 2)};
     } else {
         const __m128i x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
@@ -131,9 +169,11 @@ TARN_INLINE Pack<Tarn32f, N> loadSamples(const Tarn16s* p)
 template <int N>
 TARN_INLINE void storeNarrowed(Tarn16s* p, Pack<Tarn32s, N> x)
 {
-    if constexpr (N > registerLanes<Tarn32s>) {
-        storeNarrowed(p, x.lo);
-        storeNarrowed(p + N / 2, x.hi);
+    if constexpr (fillsWideRegister<Tarn32s, N>) {
+        store(p, NarrowSaturated<Tarn16s>::of(x));
+    } else if constexpr (N > registerLanes<Tarn32s>) {
+        storeNarrowed(p, lowHalf(x));
+        storeNarrowed(p + N / 2, highHalf(x));
     } else {
         _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_packs_epi32(x.v, x.v));
     }

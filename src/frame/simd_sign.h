@@ -12,8 +12,11 @@ struct AnySign {
     {
         return std::signbit(x);
     }
-    static TARN_INLINE bool of(Register<Tarn32f> x) { return _mm_movemask_ps(x.v) != 0; }
-    static TARN_INLINE bool of(Register<Tarn64f> x) { return _mm_movemask_pd(x.v) != 0; }
+    template <FloatRegister R>
+    static TARN_INLINE bool of(R x)
+    {
+        return native::anySign(x.v);
+    }
 };
 
 } // namespace tarn

@@ -104,6 +104,26 @@ TARN_INLINE void walkElements(Destination dst, Index i, Index end, Operation ope
     }
 }
 
+// Fewer elements than a step has: two packs of half as many that may overlap, or of half as many again, down to the
+// narrowest registers; then single elements.
+template <int step, int narrowest, typename Destination, typename Operation, typename... S>
+TARN_INLINE void walkShort(Destination dst, Index len, Operation operation, S... src)
+{
+    if constexpr (step > narrowest) {
+        constexpr int half = step / 2;
+        if (len < half) {
+            walkShort<half, narrowest>(dst, len, operation, src...);
+        } else {
+            const auto first = operation(loadPack<half>(src)...);
+            const auto last = operation(loadPack<half>(src + (len - half))...);
+            store(dst, first);
+            store(dst + (len - half), last);
+        }
+    } else {
+        walkElements(dst, 0, len, operation, src...);
+    }
+}
+
 // dst[i] = operation(src[i]...) for all i below len. A source may be the destination itself; other overlap is not
 // defined. The operation is called with elements or with packs of stepSize elements and answers in kind, in no stated
 // order.
@@ -119,7 +139,7 @@ TARN_INLINE void walk(Destination dst, Index len, Operation operation, S... src)
     const auto stepAt = [&](Index k) __attribute__((always_inline)) { return operation(loadPack<step>(src + k)...); };
 
     if (len < step) {
-        walkElements(dst, 0, len, operation, src...);
+        walkShort<step, step * registerBytes / widestRegister>(dst, len, operation, src...);
         return;
     }
 

@@ -13,24 +13,27 @@
 
 namespace tarn {
 
-// The signs of all values noted.
+// The signs of all values noted: gathered where a block has several registers, looked at at once where one is wide.
 class Doubts {
 public:
     template <typename X>
     TARN_INLINE void note(X x)
     {
-        if constexpr (X::size > registerLanes<Tarn32f>) {
-            note(x.lo);
-            note(x.hi);
+        if constexpr (WideRegister<X>) {
+            seen |= AnySign::of(x);
+        } else if constexpr (X::size > registerLanes<Tarn32f>) {
+            note(lowHalf(x));
+            note(highHalf(x));
         } else {
             signs = FloatBits::either(signs, x);
         }
     }
 
-    TARN_INLINE bool any() const { return AnySign::of(signs); }
+    TARN_INLINE bool any() const { return seen || AnySign::of(signs); }
 
 private:
     Register<Tarn32f> signs = splat<Register<Tarn32f>>(0);
+    bool seen = false;
 };
 
 template <int block, typename Destination, typename Operation, typename... S>

@@ -91,8 +91,8 @@ TEST(Version, FieldsOfTheRecord)
     EXPECT_EQ(version->minor, 0);
     EXPECT_EQ(version->majorBuild, 19);
     EXPECT_EQ(version->build, 77);
-    EXPECT_EQ(std::memcmp(version->targetCpu, "t7\0\0", 4), 0);
-    EXPECT_STREQ(version->name, "libtarnst7.so");
+    EXPECT_EQ(std::memcmp(version->targetCpu, TARNS_LEVEL_MARK "\0\0", 4), 0);
+    EXPECT_STREQ(version->name, "libtarns" TARNS_LEVEL_MARK ".so");
     EXPECT_STREQ(version->version, "v4.0");
     EXPECT_STREQ(version->buildDate, "Oct 16 2003");
 }

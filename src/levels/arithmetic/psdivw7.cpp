@@ -69,9 +69,9 @@ struct BlocksOfQuotients {
     template <typename X>
     TARN_INLINE X ordinary(Doubts& doubts, X divisor, X dividend) const
     {
-        if constexpr (X::size > registerLanes<Tarn32f>) {
-            const auto low = ordinary(doubts, divisor.lo, dividend.lo);
-            return join(low, ordinary(doubts, divisor.hi, dividend.hi));
+        if constexpr (!AnyRegister<X>) {
+            const auto low = ordinary(doubts, lowHalf(divisor), lowHalf(dividend));
+            return join(low, ordinary(doubts, highHalf(divisor), highHalf(dividend)));
         } else {
             const auto estimate = approxReciprocal(divisor);
             const auto product = mul(divisor, estimate);
@@ -83,8 +83,8 @@ struct BlocksOfQuotients {
     X rare(X divisor, X dividend) const
     {
         if constexpr (X::size > divisionGroup) {
-            const auto low = rare(divisor.lo, dividend.lo);
-            return join(low, rare(divisor.hi, dividend.hi));
+            const auto low = rare(lowHalf(divisor), lowHalf(dividend));
+            return join(low, rare(highHalf(divisor), highHalf(dividend)));
         } else {
             return QuotientOfGroups<RefinedQuotient>{}(zeros, divisor, dividend);
         }

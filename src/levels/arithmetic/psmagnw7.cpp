@@ -139,8 +139,8 @@ struct NewtonMagnitude {
     template <int N>
     TARN_INLINE auto ordinary(Doubts& doubts, Pack<Tarn32fc, N> z) const
     {
-        if constexpr (N > registerLanes<Tarn32f>) {
-            return join(ordinary(doubts, z.lo), ordinary(doubts, z.hi));
+        if constexpr (!isOneRegister<Tarn32f, N>) {
+            return join(ordinary(doubts, lowHalf(z)), ordinary(doubts, highHalf(z)));
         } else {
             const auto root = ordinaryRoot(PowerOfFloats{}(z));
             doubts.note(root);

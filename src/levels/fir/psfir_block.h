@@ -12,7 +12,7 @@ namespace tarn {
 
 inline constexpr int tapsOfPass = 4;
 
-// Outputs side by side: the 16 bytes in which the table of the taps has its multiples.
+// Outputs of the narrowest register: the 16 bytes in which the table of the taps has its multiples.
 template <typename T>
 inline constexpr int blockLanes = 16 / static_cast<int>(sizeof(T));
 
@@ -48,7 +48,13 @@ TARN_INLINE X passSum(const T* src, const Part<T>* tap)
 // changes no bit.
 template <typename X, int count, typename T>
 struct Outputs {
-    static constexpr int step = isPack<X> ? blockLanes<T> : 1;
+    static constexpr int step = [] {
+        if constexpr (isPack<X>) {
+            return X::size;
+        } else {
+            return 1;
+        }
+    }();
 
     const T* src;
     const Part<T>* tap;
@@ -127,15 +133,19 @@ inline constexpr int outputRegisters = 2;
 template <bool more = false, typename T>
 void filterBlock(const Part<T>* table, const T* src, T* dst, int len, int tapsLen)
 {
-    constexpr int step = blockLanes<T>;
-    using X = Pack<T, step>;
+    constexpr int step = lanes<T>;
     constexpr int block = outputRegisters * step;
     int i = 0;
     for (; i <= len - block; i += block) {
-        filterOutputs<X, outputRegisters, more>(table, src + i, dst + i, tapsLen);
+        filterOutputs<Pack<T, step>, outputRegisters, more>(table, src + i, dst + i, tapsLen);
     }
     for (; i <= len - step; i += step) {
-        filterOutputs<X, 1, more>(table, src + i, dst + i, tapsLen);
+        filterOutputs<Pack<T, step>, 1, more>(table, src + i, dst + i, tapsLen);
+    }
+    if constexpr (step > blockLanes<T>) {
+        for (; i <= len - blockLanes<T>; i += blockLanes<T>) {
+            filterOutputs<Pack<T, blockLanes<T>>, 1, more>(table, src + i, dst + i, tapsLen);
+        }
     }
     for (; i < len; ++i) {
         filterOutputs<T, 1, more>(table, src + i, dst + i, tapsLen);

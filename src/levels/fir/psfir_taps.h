@@ -18,9 +18,10 @@ struct TapLayout<T> {
     static constexpr int tableLen(int tapsLen) { return width * tapsLen; }
     static void write(T tap, T* table) { store(table, splat<Pack<T, width>>(tap)); }
     static TARN_INLINE T multiply(T x, const T* table) { return mul(x, *table); }
-    static TARN_INLINE Pack<T, width> multiply(Pack<T, width> x, const T* table)
+    template <int N>
+    static TARN_INLINE Pack<T, N> multiply(Pack<T, N> x, const T* table)
     {
-        return mul(x, loadAligned<width>(table));
+        return mul(x, loadRepeated<N>(table));
     }
 };
 
@@ -48,10 +49,11 @@ struct TapLayout<Tarn32fc> {
         return {add(mul(x.re, table[0]), mul(x.im, table[width / 2])),
                 add(mul(x.im, table[1]), mul(x.re, table[width / 2 + 1]))};
     }
-    static TARN_INLINE Pack<Tarn32fc, 2> multiply(Pack<Tarn32fc, 2> x, const Tarn32f* table)
+    template <int N>
+    static TARN_INLINE Pack<Tarn32fc, N> multiply(Pack<Tarn32fc, N> x, const Tarn32f* table)
     {
-        const auto byRe = mul(reinterpretPack<Tarn32f>(x), loadAligned<width / 2>(table));
-        const auto byIm = mul(reinterpretPack<Tarn32f>(swapParts(x)), loadAligned<width / 2>(table + width / 2));
+        const auto byRe = mul(reinterpretPack<Tarn32f>(x), loadRepeated<2 * N>(table));
+        const auto byIm = mul(reinterpretPack<Tarn32f>(swapParts(x)), loadRepeated<2 * N>(table + width / 2));
         return reinterpretPack<Tarn32fc>(add(byRe, byIm));
     }
 };
@@ -71,9 +73,10 @@ struct TapLayout<Tarn64fc> {
     {
         return mulComplex(Tarn64fc{table[0], table[1]}, x);
     }
-    static TARN_INLINE Pack<Tarn64fc, 1> multiply(Pack<Tarn64fc, 1> x, const Tarn64f* table)
+    template <int N>
+    static TARN_INLINE Pack<Tarn64fc, N> multiply(Pack<Tarn64fc, N> x, const Tarn64f* table)
     {
-        return mulSpread(x, loadAligned<width / 2>(table), loadAligned<width / 2>(table + width / 2));
+        return mulSpread(x, loadRepeated<2 * N>(table), loadRepeated<2 * N>(table + width / 2));
     }
 };
 

@@ -43,8 +43,8 @@ struct TakeMixed {
     TARN_INLINE PartSums operator()(PartSums sum, Reduced<Tarn16s> a, Pack<Tarn16sc, reducedLanes<Tarn16s>> b) const
     {
         const auto real = pairsTwice(a);
-        const auto lo = moved(mulAddPairs(real.lo, partsOfPairs(b.lo)));
-        const auto hi = moved(mulAddPairs(real.hi, partsOfPairs(b.hi)));
+        const auto lo = moved(mulAddPairs(lowHalf(real), partsOfPairs(lowHalf(b))));
+        const auto hi = moved(mulAddPairs(highHalf(real), partsOfPairs(highHalf(b))));
         return {add(sum.re, add(widenEven(lo), widenEven(hi))), add(sum.im, add(widenOdd(lo), widenOdd(hi)))};
     }
 };

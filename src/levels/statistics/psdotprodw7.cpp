@@ -122,7 +122,7 @@ template <typename T, int N>
 TARN_INLINE Reduced<T> inOneRegister(Pack<T, N> x)
 {
     if constexpr (N > reducedLanes<T>) {
-        return add(inOneRegister(x.lo), inOneRegister(x.hi));
+        return add(inOneRegister(lowHalf(x)), inOneRegister(highHalf(x)));
     } else {
         return x;
     }

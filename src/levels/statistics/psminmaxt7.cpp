@@ -54,7 +54,7 @@ TARN_INLINE void minMaxOfIntegers(const T* p, int len, T* smallest, T* largest, 
         const auto start = moved(loadPack<step>(p));
         using State = Extremes<std::remove_const_t<decltype(start)>>;
         const auto takePair = [moved](State state, Pack<T, 2 * step> x) {
-            return WidenExtremes{}(state, ordered(moved(x.lo), moved(x.hi)));
+            return WidenExtremes{}(state, ordered(moved(lowHalf(x)), moved(highHalf(x))));
         };
         const auto takeOne = [moved](State state, Reduced<T> x) { return WidenExtremes{}(state, moved(x)); };
         Accumulators<State, 1> states(State{start, start});

@@ -28,7 +28,7 @@ TARN_INLINE Tarn64f rootOf(Tarn64f p) { return squareRoot(p); }
 TARN_INLINE Tarn64f joinInDouble(Reduced<Tarn32f> sum)
 {
     const auto wide = widen(sum);
-    return foldLanes(add(wide.lo, wide.hi), add);
+    return foldLanes(add(lowHalf(wide), highHalf(wide)), add);
 }
 TARN_INLINE Tarn64f joinInDouble(Reduced<Tarn64f> sum) { return foldLanes(sum, add); }
 

@@ -100,7 +100,7 @@ private:
     static TARN_INLINE Reduced<Tarn64s> squaresInLanes(Reduced<Tarn16u> x)
     {
         const auto all = squares(x);
-        return add(pairSums(all.lo), pairSums(all.hi));
+        return add(pairSums(lowHalf(all)), pairSums(highHalf(all)));
     }
 };
 

@@ -96,10 +96,12 @@ TARN_INLINE Moments<Tarn32f> momentsOfBlock(const Tarn32f* p, Index len)
     Index i = 0;
     for (; i <= len - 4 * step; i += 4 * step) {
         const auto x = loadPack<4 * step>(p + i);
-        const auto sum = add(add(x.lo.lo, x.lo.hi), add(x.hi.lo, x.hi.hi));
+        const auto sum =
+            add(add(lowHalf(lowHalf(x)), highHalf(lowHalf(x))), add(lowHalf(highHalf(x)), highHalf(highHalf(x))));
         const auto squares = mul(x, x);
-        moments = moments + Moments<Reduced<Tarn32f>>{
-                                sum, add(add(squares.lo.lo, squares.lo.hi), add(squares.hi.lo, squares.hi.hi))};
+        moments =
+            moments + Moments<Reduced<Tarn32f>>{sum, add(add(lowHalf(lowHalf(squares)), highHalf(lowHalf(squares))),
+                                                         add(lowHalf(highHalf(squares)), highHalf(highHalf(squares))))};
     }
     i = takePacks<step>(moments, i, len, AddMoments{}, p);
     if (i <= len - 2) {

@@ -85,7 +85,7 @@ void ownsSum_32s64s_W7(const Tarn32s* pSrc, int len, Tarn64s* pSum)
 {
     const auto signExtendedPairs = [](Reduced<Tarn32s> x) {
         const auto wide = reinterpretPack<Tarn64s>(complexFrom<Tarn32sc>(x, shiftRight(x, 31)));
-        return add(wide.lo, wide.hi);
+        return add(lowHalf(wide), highHalf(wide));
     };
     store(pSum, sumExact<reducedLanes<Tarn32s>>(
                     len, signExtendedPairs, [](Tarn32s x) { return Tarn64s{x}; }, pSrc));

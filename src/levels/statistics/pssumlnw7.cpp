@@ -39,7 +39,7 @@ TARN_INLINE Logs takeGroup(Logs logs, Pack<Tarn32f, 4> x)
     const auto exponents = shiftRight(sub(bits, one), mantissaBits);
     const auto mantissas = widen(reinterpretPack<Tarn32f>(sub(bits, shiftLeft(exponents, mantissaBits))));
     const auto notPositive = less(bits, splat<Pack<Tarn32s, 4>>(1));
-    return {add(logs.exponents, exponents), mul(logs.mantissas, mul(mantissas.lo, mantissas.hi)),
+    return {add(logs.exponents, exponents), mul(logs.mantissas, mul(lowHalf(mantissas), highHalf(mantissas))),
             bitOr(logs.bad, bitOr(notPositive, greater(bits, largest)))};
 }
 
@@ -64,7 +64,7 @@ TARN_INLINE Logs takeGroup(Logs logs, Pack<Tarn64f, 2> x)
 TARN_INLINE Logs takeGroup(Logs logs, Pack<Tarn16s, 8> x)
 {
     const auto floats = convert<Tarn32f>(widen(x));
-    return takeGroup(takeGroup(logs, floats.lo), floats.hi);
+    return takeGroup(takeGroup(logs, lowHalf(floats)), highHalf(floats));
 }
 
 // The floating-point value that an element is taken for.

@@ -58,7 +58,7 @@ template <typename T>
 TARN_INLINE auto alternating(T middle)
 {
     using X = Pack<T, sumLanes<T>>;
-    return zip(splat<X>(middle), splat<X>(-middle)).lo;
+    return zipLow(splat<X>(middle), splat<X>(-middle));
 }
 
 // `count` registers of coefficients with even index, and as many with odd index, each summed up in the order of the

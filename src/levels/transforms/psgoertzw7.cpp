@@ -52,8 +52,8 @@ template <int N, typename Take>
 TARN_INLINE void takeEach(Pack<Tarn64f, N> parts, Take take)
 {
     if constexpr (N > Parts::size) {
-        takeEach(parts.lo, take);
-        takeEach(parts.hi, take);
+        takeEach(lowHalf(parts), take);
+        takeEach(highHalf(parts), take);
     } else {
         take(parts);
     }
@@ -117,8 +117,8 @@ TARN_INLINE void twoBins(const T* src, int len, D* val, const Tarn64fc* turns)
         bins.beforeLast = roundedToSingle(bins.beforeLast);
     }
     const auto both = binsOf(bins.last, bins.beforeLast, cosines, join(crossedLanes(first), crossedLanes(second)));
-    storeBins(val, both.lo);
-    storeBins(val + 1, both.hi);
+    storeBins(val, lowHalf(both));
+    storeBins(val + 1, highHalf(both));
 }
 
 } // namespace
