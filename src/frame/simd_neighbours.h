@@ -11,7 +11,7 @@ template <typename T, int N>
 TARN_INLINE Pack<T, N> fromNextLanes(Pack<T, N> x, Pack<T, N> behind)
 {
     if constexpr (N > registerLanes<T>) {
-        return {fromNextLanes(x.lo, x.hi), fromNextLanes(x.hi, behind.lo)};
+        return {fromNextLanes(lowHalf(x), highHalf(x)), fromNextLanes(highHalf(x), lowHalf(behind))};
     } else {
         constexpr int bytes = static_cast<int>(sizeof(T));
         const __m128i down = _mm_srli_si128(reinterpret_cast<__m128i>(x.v), bytes);
@@ -23,7 +23,7 @@ template <typename T, int N>
 TARN_INLINE Pack<T, N> fromPreviousLanes(Pack<T, N> x, Pack<T, N> before)
 {
     if constexpr (N > registerLanes<T>) {
-        return {fromPreviousLanes(x.lo, before.hi), fromPreviousLanes(x.hi, x.lo)};
+        return {fromPreviousLanes(lowHalf(x), highHalf(before)), fromPreviousLanes(highHalf(x), lowHalf(x))};
     } else {
         constexpr int bytes = static_cast<int>(sizeof(T));
         const __m128i up = _mm_slli_si128(reinterpret_cast<__m128i>(x.v), bytes);
