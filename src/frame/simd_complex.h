@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/simd_interleave.h"
+#include "frame/simd_memory.h"
 #include "frame/simd_mul.h"
 
 namespace tarn {
@@ -159,7 +160,19 @@ struct Conjugate {
     }
     template <AnyRegister R>
         requires(isComplex<Element<R>>&& Float<Part<Element<R>>>)
-    static TARN_INLINE R of(R x) { return {native::bitXor(x.v, splat<R>({0, -Part<Element<R>>{0}}).v)}; }
+    static TARN_INLINE R of(R x)
+    {
+        using P = Part<Element<R>>;
+        using Parts = SameBytes<R, P>;
+        alignas(R) static constexpr auto signs = [] {
+            std::array<P, Parts::size> parts{};
+            for (std::size_t i = 1; i < parts.size(); i += 2) {
+                parts[i] = -P{0};
+            }
+            return parts;
+        }();
+        return {native::bitXor(x.v, loadAligned<Parts::size>(signs.data()).v)};
+    }
 };
 inline constexpr Word<Conjugate> conjugate;
 
