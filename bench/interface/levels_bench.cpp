@@ -1,0 +1,281 @@
+// The levels side by side in one program, with FFTW and VOLK beside them at their own widest:
+//     TARNS_LEVEL_LIBRARIES=DIR/libtarnst7.so:DIR/libtarnsy8.so:DIR/libtarnsz9.so levels_bench
+// scripts/bench-levels builds the levels and runs it.
+#include "tarns.h"
+
+#include <benchmark/benchmark.h>
+#include <dlfcn.h>
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#ifdef TARNS_HAVE_VOLK
+#include <volk/volk.h>
+#endif
+#ifdef TARNS_HAVE_FFTW
+#include <fftw3.h>
+#endif
+
+namespace {
+
+struct Level {
+    std::string name;
+    void* library;
+
+    template <typename Function>
+    Function* function(const char* symbol) const
+    {
+        void* const address = dlsym(library, symbol);
+        if (address == nullptr) {
+            std::fprintf(stderr, "%s\n", dlerror());
+            std::exit(1);
+        }
+        Function* f;
+        static_assert(sizeof f == sizeof address);
+        std::memcpy(&f, &address, sizeof f);
+        return f;
+    }
+};
+#define TARN_OF(LEVEL, NAME) (LEVEL).function<decltype(NAME)>(#NAME)
+
+constexpr std::size_t line = 64;
+constexpr int longest = 1 << 16;
+
+// An array on a boundary of cache lines, with values from 1 to 2 and signs.
+template <typename T>
+T* array()
+{
+    T* const p = static_cast<T*>(std::aligned_alloc(line, sizeof(T) * longest));
+    for (int i = 0; i < longest; ++i) {
+        const double value = (1 + i % 997 / 997.0) * (i % 3 == 0 ? -1 : 1);
+        p[i] = static_cast<T>(std::is_integral_v<T> ? 1000 * value : value);
+    }
+    return p;
+}
+
+// Every case has its arrays to itself, and keeps them.
+void add(const std::string& name, int n, const std::string& who, const std::function<void()>& call)
+{
+    benchmark::RegisterBenchmark((name + "/" + std::to_string(n) + "/" + who).c_str(), [call](benchmark::State& state) {
+        for (auto _ : state) {
+            call();
+            benchmark::ClobberMemory();
+        }
+    });
+}
+
+template <typename S, typename D, typename Function>
+void addUnary(const std::vector<Level>& levels, const char* name, const char* symbol, Function* /*shape*/, int n)
+{
+    const S* const a = array<S>();
+    D* const d = array<D>();
+    for (const Level& level : levels) {
+        auto* const f = level.function<Function>(symbol);
+        add(name, n, level.name, [=] { f(a, d, n); });
+    }
+}
+
+template <typename T, typename Function>
+void addBinary(const std::vector<Level>& levels, const char* name, const char* symbol, Function* /*shape*/, int n)
+{
+    const T* const a = array<T>();
+    const T* const b = array<T>();
+    T* const d = array<T>();
+    for (const Level& level : levels) {
+        auto* const f = level.function<Function>(symbol);
+        add(name, n, level.name, [=] { f(a, b, d, n); });
+    }
+}
+#define TARN_UNARY(NAME, SYMBOL, S, D) addUnary<S, D>(levels, NAME, #SYMBOL, SYMBOL, n)
+#define TARN_BINARY(NAME, SYMBOL, T) addBinary<T>(levels, NAME, #SYMBOL, SYMBOL, n)
+
+void addElementwise(const std::vector<Level>& levels, int n)
+{
+    TARN_BINARY("add_32f", tarnsAdd_32f, Tarn32f);
+    TARN_BINARY("mul_32f", tarnsMul_32f, Tarn32f);
+    TARN_BINARY("div_32f", tarnsDiv_32f, Tarn32f);
+    TARN_UNARY("sqrt_32f", tarnsSqrt_32f, Tarn32f, Tarn32f);
+    TARN_UNARY("exp_32f", tarnsExp_32f, Tarn32f, Tarn32f);
+    TARN_UNARY("ln_32f", tarnsLn_32f, Tarn32f, Tarn32f);
+    TARN_UNARY("arctan_32f", tarnsArctan_32f, Tarn32f, Tarn32f);
+    TARN_UNARY("convert_16s32f", tarnsConvert_16s32f, Tarn16s, Tarn32f);
+    auto* const parts = array<Tarn32f>();
+    auto* const others = array<Tarn32f>();
+    auto* const result = array<Tarn32f>();
+    auto* const words = array<Tarn16s>();
+    auto* const moreWords = array<Tarn16s>();
+    auto* const wordsOut = array<Tarn16s>();
+    const auto* const z = reinterpret_cast<Tarn32fc*>(parts);
+    const auto* const w = reinterpret_cast<Tarn32fc*>(others);
+    auto* const zOut = reinterpret_cast<Tarn32fc*>(result);
+    for (const Level& level : levels) {
+        auto* const multiply = TARN_OF(level, tarnsMul_32fc);
+        auto* const magnitude = TARN_OF(level, tarnsMagnitude_32fc);
+        auto* const convert = TARN_OF(level, tarnsConvert_32f16s_Sfs);
+        auto* const sum = TARN_OF(level, tarnsAdd_16s_Sfs);
+        auto* const product = TARN_OF(level, tarnsMul_16s_Sfs);
+        add("mul_32fc", n, level.name, [=] { multiply(z, w, zOut, n); });
+        add("magnitude_32fc", n, level.name, [=] { magnitude(z, result, n); });
+        add("convert_32f16s", n, level.name, [=] { convert(parts, wordsOut, n, tarnRndNear, 0); });
+        add("add_16s_Sfs1", n, level.name, [=] { sum(words, moreWords, wordsOut, n, 1); });
+        add("mul_16s_Sfs8", n, level.name, [=] { product(words, moreWords, wordsOut, n, 8); });
+    }
+    for (const Level& level : levels) {
+        auto* const sum = TARN_OF(level, tarnsSum_32f);
+        auto* const dot = TARN_OF(level, tarnsDotProd_32f);
+        auto* const index = TARN_OF(level, tarnsMaxIndx_32f);
+        add("sum_32f", n, level.name, [=] { sum(parts, n, result, tarnAlgHintNone); });
+        add("dotProd_32f", n, level.name, [=] { dot(parts, others, n, result); });
+        add("maxIndx_32f", n, level.name, [=] {
+            int at;
+            index(parts, n, result, &at);
+            benchmark::DoNotOptimize(at);
+        });
+    }
+#ifdef TARNS_HAVE_VOLK
+    const auto un = static_cast<unsigned>(n);
+    const auto* const zv = reinterpret_cast<const lv_32fc_t*>(parts);
+    const auto* const wv = reinterpret_cast<const lv_32fc_t*>(others);
+    add("add_32f", n, "VOLK", [=] { volk_32f_x2_add_32f(result, parts, others, un); });
+    add("mul_32f", n, "VOLK", [=] { volk_32f_x2_multiply_32f(result, parts, others, un); });
+    add("div_32f", n, "VOLK", [=] { volk_32f_x2_divide_32f(result, parts, others, un); });
+    add("sqrt_32f", n, "VOLK", [=] { volk_32f_sqrt_32f(result, parts, un); });
+    add("exp_32f", n, "VOLK", [=] { volk_32f_exp_32f(result, parts, un); });
+    add("ln_32f", n, "VOLK", [=] { volk_32f_log2_32f(result, parts, un); });
+    add("arctan_32f", n, "VOLK", [=] { volk_32f_atan_32f(result, parts, un); });
+    add("convert_16s32f", n, "VOLK", [=] { volk_16i_s32f_convert_32f(result, words, 1, un); });
+    add("convert_32f16s", n, "VOLK", [=] { volk_32f_s32f_convert_16i(wordsOut, parts, 1, un); });
+    add("mul_32fc", n, "VOLK", [=] { volk_32fc_x2_multiply_32fc(reinterpret_cast<lv_32fc_t*>(result), zv, wv, un); });
+    add("magnitude_32fc", n, "VOLK", [=] { volk_32fc_magnitude_32f(result, zv, un); });
+    add("sum_32f", n, "VOLK", [=] { volk_32f_accumulator_s32f(result, parts, un); });
+    add("dotProd_32f", n, "VOLK", [=] { volk_32f_x2_dot_prod_32f(result, parts, others, un); });
+    add("maxIndx_32f", n, "VOLK", [=] { volk_32f_index_max_32u(reinterpret_cast<uint32_t*>(result), parts, un); });
+#endif
+}
+
+template <typename T, typename State, typename Init, typename Run>
+void addFilter(const char* name, const Level& level, Init init, Run run, int n)
+{
+    State* state = nullptr;
+    init(&state);
+    const T* const src = array<T>();
+    T* const dst = array<T>();
+    add(name, n, level.name, [=] { run(src, dst, n, state); });
+}
+
+void addFilters(const std::vector<Level>& levels, int n)
+{
+    static Tarn32f taps[32];
+    for (int i = 0; i < 32; ++i) {
+        taps[i] = static_cast<Tarn32f>(1.0 / (i + 1));
+    }
+    static const Tarn32f sections[12] = {1, 0.5F, 0.25F, 1, -0.5F, 0.25F, 1, 0.5F, 0.25F, 1, -0.25F, 0.125F};
+    for (const Level& level : levels) {
+        auto* const initFir = TARN_OF(level, tarnsFIRInitAlloc_32f);
+        addFilter<Tarn32f, TarnsFIRState_32f>(
+            "fir_32f_32taps", level, [=](auto** state) { initFir(state, taps, 32, nullptr); },
+            TARN_OF(level, tarnsFIR_32f), n);
+        auto* const initIir = TARN_OF(level, tarnsIIRInitAlloc_BiQuad_32f);
+        addFilter<Tarn32f, TarnsIIRState_32f>(
+            "biquad2_32f", level, [=](auto** state) { initIir(state, sections, 2, nullptr); },
+            TARN_OF(level, tarnsIIR_32f), n);
+    }
+}
+
+void addTransforms(const std::vector<Level>& levels, int order)
+{
+    const int n = 1 << order;
+    for (const Level& level : levels) {
+        auto* const singles = array<Tarn32f>();
+        auto* const singlesOut = array<Tarn32f>();
+        auto* const doubles = array<Tarn64f>();
+        auto* const doublesOut = array<Tarn64f>();
+        auto* const work = array<Tarn64f>();
+        TarnsFFTSpec_C_32fc* single = nullptr;
+        TarnsFFTSpec_C_64fc* twice = nullptr;
+        TarnsFFTSpec_R_32f* real = nullptr;
+        TARN_OF(level, tarnsFFTInitAlloc_C_32fc)(&single, order, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone);
+        TARN_OF(level, tarnsFFTInitAlloc_C_64fc)(&twice, order, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone);
+        TARN_OF(level, tarnsFFTInitAlloc_R_32f)(&real, order, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone);
+        auto* const runSingle = TARN_OF(level, tarnsFFTFwd_CToC_32fc);
+        auto* const runDouble = TARN_OF(level, tarnsFFTFwd_CToC_64fc);
+        auto* const runReal = TARN_OF(level, tarnsFFTFwd_RToPerm_32f);
+        auto* const buffer = reinterpret_cast<Tarn8u*>(work);
+        add("fft_32fc", n, level.name, [=] {
+            runSingle(reinterpret_cast<Tarn32fc*>(singles), reinterpret_cast<Tarn32fc*>(singlesOut), single, buffer);
+        });
+        add("fft_64fc", n, level.name, [=] {
+            runDouble(reinterpret_cast<Tarn64fc*>(doubles), reinterpret_cast<Tarn64fc*>(doublesOut), twice, buffer);
+        });
+        add("fft_32f", n, level.name, [=] { runReal(singles, singlesOut, real, buffer); });
+    }
+#ifdef TARNS_HAVE_FFTW
+    auto* const in = reinterpret_cast<fftwf_complex*>(array<Tarn32f>());
+    auto* const out = reinterpret_cast<fftwf_complex*>(array<Tarn32f>());
+    auto* const din = reinterpret_cast<fftw_complex*>(array<Tarn64f>());
+    auto* const dout = reinterpret_cast<fftw_complex*>(array<Tarn64f>());
+    auto* const rin = array<Tarn32f>();
+    fftwf_plan single = fftwf_plan_dft_1d(n, in, out, FFTW_FORWARD, FFTW_MEASURE);
+    fftw_plan twice = fftw_plan_dft_1d(n, din, dout, FFTW_FORWARD, FFTW_MEASURE);
+    fftwf_plan real = fftwf_plan_dft_r2c_1d(n, rin, out, FFTW_MEASURE);
+    add("fft_32fc", n, "FFTW", [=] { fftwf_execute(single); });
+    add("fft_64fc", n, "FFTW", [=] { fftw_execute(twice); });
+    add("fft_32f", n, "FFTW", [=] { fftwf_execute(real); });
+#endif
+}
+
+// What a caller's own code of 128 bits takes after a call: the upper halves of registers that a call leaves set would
+// make every instruction wait.
+void addTransitions(const std::vector<Level>& levels)
+{
+    auto* const a = array<Tarn32f>();
+    auto* const d = array<Tarn32f>();
+    for (const Level& level : levels) {
+        auto* const sum = TARN_OF(level, tarnsAdd_32f);
+        add("caller_code_after_a_call", 1024, level.name, [=] {
+            sum(a, a, d, 64);
+            for (int i = 0; i < 1024; ++i) {
+                Tarn32f x = a[i] * 0.5F;
+                asm volatile("addss %1, %0" : "+x"(x) : "x"(x));
+                d[i] = x;
+            }
+        });
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    std::vector<Level> levels;
+    const char* const list = std::getenv("TARNS_LEVEL_LIBRARIES");
+    std::istringstream paths(list != nullptr ? list : "");
+    for (std::string path; std::getline(paths, path, ':');) {
+        void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+        if (library == nullptr) {
+            std::fprintf(stderr, "%s\n", dlerror());
+            return 1;
+        }
+        levels.push_back({"", library});
+        levels.back().name = TARN_OF(levels.back(), tarnsGetLibVersion)()->targetCpu;
+    }
+    for (const int n : {64, 1024, 16384}) {
+        addElementwise(levels, n);
+        addFilters(levels, n);
+    }
+    for (const int order : {4, 6, 8, 10, 12, 14}) {
+        addTransforms(levels, order);
+    }
+    addTransitions(levels);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
