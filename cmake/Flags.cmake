@@ -52,7 +52,7 @@ target_compile_options(tarns_flags INTERFACE -ffp-contract=off -Wall -Wextra $<$
     $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-sign-conversion -Wno-parentheses-equality -Wno-missing-braces>)
 if(TARNS_LEVEL STREQUAL "Z9" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Its own header of these vectors has values that are deliberately undefined.
-    target_compile_options(tarns_flags INTERFACE -Wno-maybe-uninitialized)
+    target_compile_options(tarns_flags INTERFACE -Wno-uninitialized -Wno-maybe-uninitialized)
 endif()
 if(TARNS_WARNINGS_AS_ERRORS)
     target_compile_options(tarns_flags INTERFACE -Werror)
