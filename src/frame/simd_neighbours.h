@@ -39,9 +39,9 @@ TARN_INLINE Pack<T, N> slide(Pack<T, N> a, Pack<T, N> b)
     if constexpr (k == 0) {
         return a;
     } else if constexpr (N > registerLanes<T> && k >= N / 2) {
-        return {slide<k - N / 2>(a.hi, b.lo), slide<k - N / 2>(b.lo, b.hi)};
+        return {slide<k - N / 2>(highHalf(a), lowHalf(b)), slide<k - N / 2>(lowHalf(b), highHalf(b))};
     } else if constexpr (N > registerLanes<T>) {
-        return {slide<k>(a.lo, a.hi), slide<k>(a.hi, b.lo)};
+        return {slide<k>(lowHalf(a), highHalf(a)), slide<k>(highHalf(a), lowHalf(b))};
     } else if constexpr (isDouble<T>) {
         return {_mm_shuffle_pd(a.v, b.v, 1)};
     } else {
