@@ -1,9 +1,11 @@
 // The forward filters of wavelet banks: every second output of a convolution.
 #include "frame/simd.h"
 #include "levels/coding/pswt.h"
-#include "levels/coding/pswt_lines.h"
+#include "levels/coding/pswt_heads.h"
+#include "levels/coding/pswt_unroll.h"
 
 #include <algorithm>
+#include <array>
 
 using namespace tarn;
 
@@ -12,13 +14,75 @@ namespace {
 using V = Vector<Tarn32f>;
 constexpr int width = V::size;
 
-// Neighbouring samples with their taps, in the order of the window: a filter of an odd length has its last tap alone in
-// front. An output is (p0 + p2 + ..) + (p1 + p3 + ..), p being the products of the pairs, + the lone product. So a
-// vector of samples needs no shuffle before it is multiplied.
+// Pairs of neighbouring samples are multiplied by pairs of taps, in the order of the window, so that no vector needs a
+// shuffle in front of its product; a filter of an odd length has its last tap alone before the pairs. An output is
+// (p0 + p2 + ..) + (p1 + p3 + ..), p being the products of the pairs, + the lone product.
+
+// Filters of up to so many pairs have loops of their own. Others are gone through in passes of four pairs.
+constexpr int mostPairs = 5;
+constexpr int pairsOfPass = 4;
+
+template <int pairs>
+using TapVectors = std::array<V, static_cast<unsigned>(pairs)>;
+template <int pairs>
+TARN_INLINE TapVectors<pairs> tapVectors(const Tarn32f* table)
+{
+    TapVectors<pairs> taps;
+    unroll<pairs>([&](auto i) { taps[i] = loadAligned<width>(table + width * i); });
+    return taps;
+}
+
+// The sums of `vectors` vectors of products.
+template <int vectors>
+struct PairSums {
+    const Tarn32f* samples;
+    V sums[vectors];
+
+    // By samples rather than by sums: those that two vectors share are loaded once, and a sum is done before the next
+    // but one begins.
+    template <int pairs, bool first>
+    TARN_INLINE void pass(const TapVectors<pairs>& taps)
+    {
+        constexpr int apart = width / 2; // pairs from one vector to the next
+        unroll<pairs + apart*(vectors - 1)>([&](auto at) {
+            V x = loadPack<width>(samples + 2 * at);
+            settle(x); // or it would be loaded once for each sum
+            unroll<vectors>([&](auto v) {
+                constexpr int pair = decltype(at)::value - apart * decltype(v)::value;
+                if constexpr (pair >= 0 && pair < pairs) {
+                    const V p = mul(x, taps[pair]);
+                    sums[v] = first && pair == 0 ? p : add(sums[v], p);
+                }
+            });
+        });
+        samples += 2 * pairs;
+    }
+
+    TARN_INLINE void passes(const Tarn32f* table, int pairs)
+    {
+        pass<pairsOfPass, true>(tapVectors<pairsOfPass>(table));
+        for (pairs -= pairsOfPass; pairs >= pairsOfPass; pairs -= pairsOfPass) {
+            table += pairsOfPass * width;
+            pass<pairsOfPass, false>(tapVectors<pairsOfPass>(table));
+        }
+        table += pairsOfPass * width;
+        if (pairs == 3) {
+            pass<3, false>(tapVectors<3>(table));
+        } else if (pairs == 2) {
+            pass<2, false>(tapVectors<2>(table));
+        } else if (pairs == 1) {
+            pass<1, false>(tapVectors<1>(table));
+        }
+    }
+};
+
+// A filter of so many pairs, or of more than have a loop of their own if that is 0.
+template <int known, bool isOdd>
 class DownTaps {
 public:
     explicit DownTaps(const WaveletKernel& kernel)
-        : pairs(kernel.len / 2), isOdd(kernel.len % 2 != 0), lone(kernel.pTaps[kernel.len - 1]), table(kernel.pTable)
+        : pairs(known != 0 ? known : kernel.len / 2), lone(kernel.pTaps[kernel.len - 1]), table(kernel.pTable),
+          held(tapVectors<known>(kernel.pTable))
     {
     }
 
@@ -26,20 +90,14 @@ public:
     template <int vectors>
     TARN_INLINE void vectorOutputs(const Tarn32f* src, Tarn32f* dst) const
     {
-        const Tarn32f* const first = src + (isOdd ? 1 : 0);
-        V sums[2 * vectors];
-        V tap = loadAligned<width>(table);
-        for (int v = 0; v < 2 * vectors; ++v) {
-            sums[v] = mul(loadPack<width>(first + width * v), tap);
-        }
-        for (int i = 1; i < pairs; ++i) {
-            tap = loadAligned<width>(table + std::ptrdiff_t{width} * i);
-            for (int v = 0; v < 2 * vectors; ++v) {
-                sums[v] = add(sums[v], mul(loadPack<width>(first + 2 * i + width * v), tap));
-            }
+        PairSums<2 * vectors> products{src + (isOdd ? 1 : 0), {}};
+        if constexpr (known != 0) {
+            products.template pass<known, true>(held);
+        } else {
+            products.passes(table, pairs);
         }
         for (int v = 0; v < vectors; ++v) {
-            const auto both = join(sums[2 * v], sums[2 * v + 1]);
+            const auto both = join(products.sums[2 * v], products.sums[2 * v + 1]);
             V y = add(evenElements(both), oddElements(both));
             if (isOdd) {
                 y = add(y, mul(evenElements(loadPack<2 * width>(src + 2 * width * v)), splat<V>(lone)));
@@ -64,10 +122,39 @@ public:
 
 private:
     int pairs;
-    bool isOdd;
     Tarn32f lone;
     const Tarn32f* table;
+    TapVectors<known> held; // in registers, which the compiler does not dare while outputs are stored
 };
+
+template <int known, bool isOdd>
+void filterDown(const Tarn32f* src, Tarn32f* dst, std::ptrdiff_t count, const WaveletKernel& kernel)
+{
+    constexpr int atOnce = 2;
+    const DownTaps<known, isOdd> taps(kernel);
+    for (; count >= atOnce * width; count -= atOnce * width) {
+        taps.template vectorOutputs<atOnce>(src, dst);
+        src += 2 * atOnce * width;
+        dst += atOnce * width;
+    }
+    for (; count >= width; count -= width) {
+        taps.template vectorOutputs<1>(src, dst);
+        src += 2 * width;
+        dst += width;
+    }
+    for (; count > 0; --count) {
+        store(dst++, taps.output(src));
+        src += 2;
+    }
+}
+
+using DownLoop = void (*)(const Tarn32f*, Tarn32f*, std::ptrdiff_t, const WaveletKernel&);
+template <int... known>
+constexpr auto downLoops(std::integer_sequence<int, known...> /*pairs*/)
+{
+    return std::array<std::array<DownLoop, 2>, sizeof...(known)>{
+        {{filterDown<known, false>, filterDown<known, true>}...}};
+}
 
 // Every second sample times a factor.
 void scaleDown(const Tarn32f* src, Tarn32f* dst, std::ptrdiff_t count, Tarn32f factor)
@@ -103,45 +190,60 @@ void ownsConvDown2_32f(const Tarn32f* pSrc, Tarn32f* pDst, std::ptrdiff_t count,
         scaleDown(pSrc, pDst, count, pKernel->pTaps[0]);
         return;
     }
-    constexpr int atOnce = 2;
-    const DownTaps taps(*pKernel);
-    std::ptrdiff_t k = 0;
-    for (; k <= count - atOnce * width; k += atOnce * width) {
-        taps.vectorOutputs<atOnce>(pSrc + 2 * k, pDst + k);
-    }
-    for (; k <= count - width; k += width) {
-        taps.vectorOutputs<1>(pSrc + 2 * k, pDst + k);
-    }
-    for (; k < count; ++k) {
-        store(pDst + k, taps.output(pSrc + 2 * k));
-    }
+    constexpr auto loops = downLoops(std::make_integer_sequence<int, mostPairs + 1>{});
+    const int pairs = pKernel->len / 2;
+    loops[static_cast<unsigned>(pairs <= mostPairs ? pairs : 0)][pKernel->len % 2 != 0 ? 1 : 0](pSrc, pDst, count,
+                                                                                                *pKernel);
 }
 
 // -- Streams ----------------------------------------------------------------------------------------------------------
 
 namespace {
 
-// The first samples of a block meet those of the line; all others have their past in the block itself.
-Tarn32f* feed(ConvDown2& conv, const Tarn32f* src, std::ptrdiff_t len, Tarn32f* dst)
+// A filter's first outputs, sample by sample.
+Tarn32f* appendDown(ConvDown2& conv, const Tarn32f* src, std::ptrdiff_t len, Tarn32f* dst)
 {
-    const auto enter = [&](std::ptrdiff_t i) { return enterSample(*conv.pLine, loadElement(src + i)); };
-    const auto put = [&](const Tarn32f* window) { store(dst++, wideDotProduct(window, conv.pReversed, conv.len)); };
-    const auto head = std::min<std::ptrdiff_t>(conv.len - ((conv.len & 1) ^ conv.phase), len);
-    for (std::ptrdiff_t i = 0; i < head; ++i) {
-        const Tarn32f* const window = enter(i);
+    for (std::ptrdiff_t i = 0; i < len; ++i) {
+        const Tarn32f* const window = enterSample(*conv.pLine, loadElement(src + i));
         if (conv.phase == 0) {
-            put(window);
+            store(dst++, wideDotProduct(window, conv.pReversed, conv.len));
         }
         conv.phase ^= 1;
     }
-    if (const std::ptrdiff_t rest = len - head; rest > 0) {
-        const std::ptrdiff_t outputs = (rest + 1) / 2;
-        ownsConvDown2_32f(src + (head + 1 - conv.len), dst, outputs, conv.pKernel);
-        dst += outputs;
-        enterSamples(*conv.pLine, src, len);
-        conv.phase ^= static_cast<int>(rest & 1);
-    }
     return dst;
+}
+
+// The same where the whole head is there, and the line is filled anew behind it.
+Tarn32f* beginDown(ConvDown2& conv, const Tarn32f* src, int head, Tarn32f* dst)
+{
+    if (conv.len > mostHeadTaps) {
+        return appendDown(conv, src, head, dst);
+    }
+    const HeadSamples samples(*conv.pLine, src, head);
+    const int outputs = head / 2;
+    Tarn32f sums[HeadSamples::mostSums];
+    samples.sum<2>(1 + conv.phase, conv.pReversed, conv.len, outputs, sums);
+    for (int k = 0; k < outputs; ++k) {
+        store(dst + k, sums[k]);
+    }
+    conv.phase = 0;
+    return dst + outputs;
+}
+
+// The first samples of a block meet those of the line; all others have their past in the block itself.
+Tarn32f* feed(ConvDown2& conv, const Tarn32f* src, std::ptrdiff_t len, Tarn32f* dst)
+{
+    const int head = conv.len - ((conv.len & 1) ^ conv.phase);
+    if (len <= head) {
+        return appendDown(conv, src, len, dst);
+    }
+    dst = beginDown(conv, src, head, dst);
+    const std::ptrdiff_t rest = len - head;
+    const std::ptrdiff_t outputs = (rest + 1) / 2;
+    ownsConvDown2_32f(src + (head + 1 - conv.len), dst, outputs, conv.pKernel);
+    enterSamples(*conv.pLine, src, len);
+    conv.phase = static_cast<int>(rest & 1);
+    return dst + outputs;
 }
 
 } // namespace

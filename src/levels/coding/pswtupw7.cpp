@@ -1,9 +1,11 @@
 // The inverse filters of wavelet banks: a convolution of a signal that has zeros between its samples.
 #include "frame/simd.h"
 #include "levels/coding/pswt.h"
-#include "levels/coding/pswt_lines.h"
+#include "levels/coding/pswt_heads.h"
+#include "levels/coding/pswt_unroll.h"
 
 #include <algorithm>
+#include <array>
 
 using namespace tarn;
 
@@ -14,11 +16,61 @@ constexpr int width = V::size;
 
 // Even outputs are sums with the even taps, odd ones with the odd taps, over the same samples, the oldest first. A
 // filter of an odd length has one even tap more, on the oldest sample.
-template <bool adds>
+
+// Filters of up to so many pairs have loops of their own. Others are gone through in passes of four pairs.
+constexpr int mostPairs = 5;
+constexpr int pairsOfPass = 4;
+
+template <int vectors>
+struct TapSums {
+    const Tarn32f* samples;
+    const Tarn32f* table;
+    V even[vectors];
+    V odd[vectors];
+
+    // The very first products are the sums' beginning: of both, of the odd one where a lone product is there, of none.
+    template <int pairs, bool firstEven, bool firstOdd>
+    TARN_INLINE void pass()
+    {
+        unroll<pairs>([&](auto pair) {
+            const Tarn32f* const taps = table + 2 * width * pair;
+            unroll<vectors>([&](auto v) {
+                constexpr int at = decltype(pair)::value;
+                V x = loadPack<width>(samples + at + width * v);
+                settle(x); // or it would be loaded twice
+                const V forEven = mul(x, loadAligned<width>(taps));
+                const V forOdd = mul(x, loadAligned<width>(taps + width));
+                even[v] = firstEven && at == 0 ? forEven : add(even[v], forEven);
+                odd[v] = firstOdd && at == 0 ? forOdd : add(odd[v], forOdd);
+            });
+        });
+        samples += pairs;
+        table += 2 * width * pairs;
+    }
+
+    template <bool firstEven>
+    TARN_INLINE void passes(int pairs)
+    {
+        pass<pairsOfPass, firstEven, true>();
+        for (pairs -= pairsOfPass; pairs >= pairsOfPass; pairs -= pairsOfPass) {
+            pass<pairsOfPass, false, false>();
+        }
+        if (pairs == 3) {
+            pass<3, false, false>();
+        } else if (pairs == 2) {
+            pass<2, false, false>();
+        } else if (pairs == 1) {
+            pass<1, false, false>();
+        }
+    }
+};
+
+// A filter of so many pairs, or of more than have a loop of their own if that is -1.
+template <bool adds, int known, bool isOdd>
 class UpTaps {
 public:
     explicit UpTaps(const WaveletKernel& kernel)
-        : pairs(kernel.len / 2), isOdd(kernel.len % 2 != 0), lone(kernel.pTaps[kernel.len - 1]), table(kernel.pTable)
+        : pairs(known >= 0 ? known : kernel.len / 2), lone(kernel.pTaps[kernel.len - 1]), table(kernel.pTable)
     {
     }
 
@@ -26,23 +78,18 @@ public:
     template <int vectors>
     TARN_INLINE void vectorOutputs(const Tarn32f* src, Tarn32f* dst) const
     {
-        V even[vectors];
-        V odd[vectors];
-        for (int v = 0; v < vectors; ++v) {
-            even[v] = isOdd ? mul(loadPack<width>(src + width * v), splat<V>(lone)) : splat<V>(0);
-            odd[v] = splat<V>(0);
+        TapSums<vectors> sums{src + (isOdd ? 1 : 0), table, {}, {}};
+        for (int v = 0; isOdd && v < vectors; ++v) {
+            sums.even[v] = mul(loadPack<width>(src + width * v), splat<V>(lone));
+            sums.odd[v] = splat<V>(0); // stays if this is the only tap
         }
-        src += isOdd ? 1 : 0;
-        for (int i = 0; i < pairs; ++i) {
-            const Tarn32f* const taps = table + std::ptrdiff_t{2 * width} * i;
-            for (int v = 0; v < vectors; ++v) {
-                const V x = loadPack<width>(src + i + width * v);
-                even[v] = add(even[v], mul(x, loadAligned<width>(taps)));
-                odd[v] = add(odd[v], mul(x, loadAligned<width>(taps + width)));
-            }
+        if constexpr (known >= 0) {
+            sums.template pass<known, !isOdd, true>();
+        } else {
+            sums.template passes<!isOdd>(pairs);
         }
         for (int v = 0; v < vectors; ++v) {
-            putSums(dst + 2 * width * v, zip(even[v], odd[v]));
+            putSums(dst + 2 * width * v, zip(sums.even[v], sums.odd[v]));
         }
     }
 
@@ -53,9 +100,10 @@ public:
         src += isOdd ? 1 : 0;
         for (int i = 0; i < pairs; ++i) {
             const Tarn32f* const taps = table + std::ptrdiff_t{2 * width} * i;
-            const Tarn32f x = loadElement(src + i);
-            even = add(even, mul(x, taps[0]));
-            odd = add(odd, mul(x, taps[width]));
+            const Tarn32f forEven = mul(loadElement(src + i), taps[0]);
+            const Tarn32f forOdd = mul(loadElement(src + i), taps[width]);
+            even = isOdd || i > 0 ? add(even, forEven) : forEven;
+            odd = i > 0 ? add(odd, forOdd) : forOdd;
         }
         putSum(dst, even);
         if (isPair) {
@@ -74,16 +122,15 @@ private:
     }
 
     int pairs;
-    bool isOdd;
     Tarn32f lone;
     const Tarn32f* table;
 };
 
-template <bool adds>
-void filterUp(const Tarn32f* src, Tarn32f* dst, std::ptrdiff_t count, const WaveletKernel& kernel)
+template <bool adds, int known, bool isOdd>
+void filterAll(const Tarn32f* src, Tarn32f* dst, std::ptrdiff_t count, const WaveletKernel& kernel)
 {
     constexpr int atOnce = 2;
-    const UpTaps<adds> taps(kernel);
+    const UpTaps<adds, known, isOdd> taps(kernel);
     for (; count >= 2 * atOnce * width; count -= 2 * atOnce * width) {
         taps.template vectorOutputs<atOnce>(src, dst);
         src += atOnce * width;
@@ -98,6 +145,25 @@ void filterUp(const Tarn32f* src, Tarn32f* dst, std::ptrdiff_t count, const Wave
         taps.output(src++, dst, count > 1);
         dst += 2;
     }
+}
+
+using UpLoop = void (*)(const Tarn32f*, Tarn32f*, std::ptrdiff_t, const WaveletKernel&);
+template <bool adds, int... known>
+constexpr auto upLoops(std::integer_sequence<int, known...> /*pairs*/)
+{
+    return std::array<std::array<UpLoop, 2>, sizeof...(known)>{
+        {{filterAll<adds, known, false>, filterAll<adds, known, true>}...}};
+}
+
+template <bool adds>
+void filterUp(const Tarn32f* src, Tarn32f* dst, std::ptrdiff_t count, const WaveletKernel& kernel)
+{
+    constexpr auto loops = upLoops<adds>(std::make_integer_sequence<int, mostPairs + 1>{});
+    const int pairs = kernel.len / 2;
+    const bool isOdd = kernel.len % 2 != 0;
+    const UpLoop any = isOdd ? filterAll<adds, -1, true> : filterAll<adds, -1, false>;
+    const UpLoop loop = pairs <= mostPairs ? loops[static_cast<unsigned>(pairs)][isOdd ? 1 : 0] : any;
+    loop(src, dst, count, kernel);
 }
 
 } // namespace
@@ -158,18 +224,40 @@ std::ptrdiff_t append(Up2Conv& conv, const Tarn32f* src, std::ptrdiff_t len, Tar
     return used;
 }
 
+// The first outputs of a block where all of them are there, and the line is filled anew behind them.
+template <bool adds>
+std::ptrdiff_t begin(Up2Conv& conv, const Tarn32f* src, int head, Tarn32f* dst)
+{
+    if (conv.len > mostHeadTaps) {
+        return append<adds>(conv, src, head, dst);
+    }
+    // Phase 1 has an odd output of the line alone in front.
+    const int entered = head / 2;
+    const HeadSamples samples(*conv.pLine, src, entered);
+    Tarn32f even[HeadSamples::mostSums];
+    Tarn32f odd[HeadSamples::mostSums];
+    samples.sum<1>(1, conv.pEven, conv.evenLen, entered, even);
+    samples.sum<1>(1 - conv.phase + conv.evenLen - conv.oddLen, conv.pOdd, conv.oddLen, entered + conv.phase, odd);
+    for (int i = 0; i < head; ++i) {
+        const Tarn32f y = (i & 1) == conv.phase ? even[i / 2] : odd[i / 2];
+        store(dst + i, adds ? add(loadElement(dst + i), y) : y);
+    }
+    conv.phase = 0;
+    return entered;
+}
+
 // The first outputs of a block have samples of the line in their sums; all others those of the block alone.
 template <bool adds>
 std::ptrdiff_t filterBlock(Up2Conv& conv, const Tarn32f* src, std::ptrdiff_t len, Tarn32f* dst)
 {
-    const auto head = std::min<std::ptrdiff_t>(conv.len - (conv.phase ^ (conv.len & 1)), len);
-    const std::ptrdiff_t entered = append<adds>(conv, src, head, dst);
-    const std::ptrdiff_t rest = len - head;
-    if (rest <= 0) {
-        return entered;
+    const int head = conv.len - (conv.phase ^ (conv.len & 1));
+    if (len <= head) {
+        return append<adds>(conv, src, len, dst);
     }
+    const std::ptrdiff_t entered = begin<adds>(conv, src, head, dst);
+    const std::ptrdiff_t rest = len - head;
     filterUp<adds>(src + (entered + 1 - conv.evenLen), dst + head, rest, *conv.pKernel);
-    conv.phase ^= static_cast<int>(rest & 1);
+    conv.phase = static_cast<int>(rest & 1);
     const std::ptrdiff_t used = entered + (rest + 1) / 2;
     enterSamples(*conv.pLine, src, used);
     return used;

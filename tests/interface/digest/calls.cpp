@@ -151,7 +151,7 @@ const Kin& kinOf(const std::string& type)
         if (has(one.name, "InitAlloc") && !has(one.name, "FIRMR") && arguments[0].type == type)
             kin.making.push_back(&one);
         if (kin.working == nullptr && !has(one.name, "Init") &&
-            any([](const Argument& a) { return a.name == "pDst"; }) &&
+            any([](const Argument& a) { return a.name == "pDst" || a.name == "pDstLow"; }) &&
             any([&](const Argument& a) { return a.type == type && a.depth == 1; }))
             kin.working = &one;
     }
@@ -217,8 +217,14 @@ void Calling::number(const Argument& argument, Slot& slot)
             count = std::max(count, static_cast<std::size_t>(6 * std::max(value, 1)));
         else if (isLength(argument.name) || has(argument.name, "Len"))
             count = std::max(count, static_cast<std::size_t>(value));
+        else if (has(argument.name, "lenLow") || has(argument.name, "lenHigh")) // with the delays that follow them
+            count = std::max(count, static_cast<std::size_t>(value) + 40);
         else if (argument.name == "factor" || argument.name == "nChannels")
             manifold = static_cast<std::size_t>(factor = std::max(value, 1));
+        if (argument.name == "dstLen" && has(function.name, "WTFwd")) // two samples for one of each channel
+            count = std::max(count, 2 * static_cast<std::size_t>(value));
+        if (argument.name == "srcLen" && has(function.name, "WTInv"))
+            count = std::max(count, 2 * static_cast<std::size_t>(value));
         if (argument.name == "upFactor" || argument.name == "downFactor")
             manifold = std::max(manifold, static_cast<std::size_t>(std::max(value, 1)));
         if (argument.name == "tapsLen" && has(function.name, "Direct")) // for doubled delay lines

@@ -36,11 +36,15 @@ const std::vector<int>* integersFor(const std::string& name)
         {"factor", range(1, 6, {0})},
         {"flag", {1, 2, 4, 8, 1, 2, 4, 8, 1, 2, 4, 8, 0}},
         {"hint", {0, 1, 2, 3}},
+        {"lenHigh", range(1, 12, {0, 16, 33, 66})},
+        {"lenLow", range(1, 12, {0, 16, 33, 66})},
         {"length", range(1, 40, {45, 49, 60, 64, 101, 121, 151, 181, 202, 302, 360, 512, 1000, 2025, 2187})},
         {"lowLag", range(-12, 12, {-40, -100, -300, -900, 30, 64, 200, 600, -1000000})},
         {"maskSize", range(1, 14, {0, 3, 5, 7, 9, 15, 25, 31, 32, 64, 65, 129, 300})},
         {"nChannels", range(1, 5)},
         {"numBq", range(1, 6, {0})},
+        {"offsHigh", range(-1, 6, {-2, 11, 40})},
+        {"offsLow", range(-1, 6, {-2, 11, 40})},
         {"order", range(0, 11, {0, 1, 2, 3, 4, 5, 6, 7, 8, 12, 13, 15, 17})},
         {"relOp", range(0, 5, {0, 4})},
         {"rndMode", {0, 1, 0, 1, 2}},
@@ -84,12 +88,13 @@ bool isDataNumber(const std::string& name)
 
 bool isDataArray(const std::string& name)
 {
-    return contains({"pDlyLine",    "pDp",       "pDst",     "pDstIm",   "pDstMagn", "pDstPhase",   "pSeed",
-                     "pSrcMagn",    "pSrcPhase", "pDstLen",  "pDstRe",   "pDstVal",  "pIndx",       "pMax",
-                     "pMaxIndx",    "pMean",     "pMin",     "pMinIndx", "pNorm",    "pOrder",      "pOutIndex",
-                     "pOutIndexes", "pOutVal",   "pOutVals", "pSrc",     "pSrc1",    "pSrc2",       "pSrcDst",
-                     "pSrcIm",      "pSrcRe",    "pStdDev",  "pSum",     "pTaps",    "pTapsFactor", "pVal",
-                     "pVals",       "pSrcDstVal"},
+    return contains({"pDlyHigh",  "pDlyLow",     "pDstHigh",  "pDstLow",  "pSrcHigh", "pSrcLow",  "pTapsHigh",
+                     "pTapsLow",  "pDlyLine",    "pDp",       "pDst",     "pDstIm",   "pDstMagn", "pDstPhase",
+                     "pSeed",     "pSrcMagn",    "pSrcPhase", "pDstLen",  "pDstRe",   "pDstVal",  "pIndx",
+                     "pMax",      "pMaxIndx",    "pMean",     "pMin",     "pMinIndx", "pNorm",    "pOrder",
+                     "pOutIndex", "pOutIndexes", "pOutVal",   "pOutVals", "pSrc",     "pSrc1",    "pSrc2",
+                     "pSrcDst",   "pSrcIm",      "pSrcRe",    "pStdDev",  "pSum",     "pTaps",    "pTapsFactor",
+                     "pVal",      "pVals",       "pSrcDstVal"},
                     name);
 }
 
