@@ -160,7 +160,7 @@ TEST(WaveletBankTest, BringsIntegerSamplesBack)
 // The numbers behind a mark in the page, row by row.
 std::vector<std::vector<float>> numbersOf(const std::string& mark)
 {
-    std::ifstream page(std::string(TARNS_SOURCE_DIR) + "/docs/wavelets.md");
+    std::ifstream page(TARNS_SOURCE_DIR "/docs/wavelets.md");
     std::vector<std::vector<float>> rows;
     std::string line;
     while (std::getline(page, line) && line.find("<!-- numbers: " + mark) == std::string::npos) {
