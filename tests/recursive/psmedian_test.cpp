@@ -179,7 +179,7 @@ TEST(FilterMedian, IsTheMiddleOfASortedWindow)
     std::vector<int> masks;
     for (int mask = 1; mask <= 17; ++mask)
         masks.push_back(mask);
-    masks.insert(masks.end(), {23, 24, 25, 31, 32, 33, 63, 64, 65, 66, 127, 128, 129, 131, 301});
+    masks.insert(masks.end(), {31, 32, 33, 63, 64, 65, 95, 96, 97, 98, 191, 193, 301});
     unsigned turn = 0;
     for (const Kind& kind : kinds)
         for (const int mask : masks)
@@ -394,7 +394,7 @@ TEST(FilterMedian, NansStayWithinTheirWindows)
     const double infinity = std::numeric_limits<double>::infinity();
     unsigned seed = 0;
     for (const Kind* kind : {&kind32f, &kind64f})
-        for (const int mask : {3, 5, 7, 9, 11, 31, 151})
+        for (const int mask : {3, 5, 7, 9, 11, 31, 201})
             for (const int nans : {1, 2, 10, 300}) {
                 SCOPED_TRACE(testing::Message() << kind->name << ", mask " << mask << ", NaNs " << nans);
                 Random random(++seed);
