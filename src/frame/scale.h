@@ -28,7 +28,7 @@ TARN_INLINE X halveRounded(X t)
 }
 
 // A 33-bit integer, or a vector of them, as a sum or difference of 32-bit ones needs it: floor(t / 2), and t modulo
-// 2^32.
+// 2^32. Of 64-bit ones, a 65-bit integer.
 template <typename X>
 struct Wide33 {
     X half;
@@ -54,7 +54,7 @@ template <typename X>
 TARN_INLINE X halveRounded(Wide33<X> t)
 {
     const auto rounded = add(t.half, bitAnd(bitAnd(t.wrapped, t.half), splat<X>(1)));
-    const auto leftRange = shiftRightLogical(bitAndNot(t.half, rounded), 31);
+    const auto leftRange = shiftRightLogical(bitAndNot(t.half, rounded), 8 * static_cast<int>(sizeof(Element<X>)) - 1);
     return sub(rounded, leftRange);
 }
 
@@ -62,7 +62,7 @@ TARN_INLINE X halveRounded(Wide33<X> t)
 template <typename X>
 TARN_INLINE X shiftRounded(Wide33<X> t, int s)
 {
-    const auto half = splat<X>(static_cast<Tarn32s>((Tarn64s{1} << (s - 1)) - 1));
+    const auto half = splat<X>(static_cast<Element<X>>((1ull << (s - 1)) - 1));
     const auto oddQuotient = bitAnd(shiftRight(t.half, s - 1), splat<X>(1));
     const auto low = add(add(bitAnd(t.wrapped, splat<X>(3)), half), oddQuotient);
     return shiftRight(add(shiftRight(t.half, 1), shiftRightLogical(low, 2)), s - 2);

@@ -53,7 +53,9 @@ TARN_INLINE X halveRounded(FullWidth<X> t)
 template <typename D, typename X>
 TARN_INLINE auto limitTo(X t)
 {
-    if constexpr (std::is_same_v<Element<X>, Tarn64s>) {
+    if constexpr (std::is_same_v<Element<X>, D>) {
+        return t;
+    } else if constexpr (std::is_same_v<Element<X>, Tarn64s>) {
         static_assert(std::is_same_v<D, Tarn32s>);
         return narrowSaturated<Tarn32s>(t);
     } else {
@@ -77,10 +79,11 @@ TARN_INLINE auto limitTo(FullWidth<X> t)
 template <typename D, typename X>
 TARN_INLINE X limitTo(Wide33<X> t)
 {
-    static_assert(std::is_same_v<D, Tarn32s>);
-    const auto signs = shiftRight(t.half, 31);
+    static_assert(std::is_same_v<D, Element<X>>);
+    constexpr int sign = 8 * static_cast<int>(sizeof(D)) - 1;
+    const auto signs = shiftRight(t.half, sign);
     const auto bound = bitXor(signs, splat<X>(highest<D>));
-    return select(equal(signs, shiftRight(t.wrapped, 31)), t.wrapped, bound);
+    return select(equal(signs, shiftRight(t.wrapped, sign)), t.wrapped, bound);
 }
 
 // -- Complex results part by part

@@ -218,17 +218,25 @@ struct ShiftLeftSaturated {
     template <Integer T>
     static TARN_INLINE T of(T x, int n)
     {
-        return clampTo<T>(static_cast<Tarn64s>(static_cast<unsigned long long>(Tarn64s{x}) << n));
+        if constexpr (sizeof(T) == 8) {
+            const auto shifted = ShiftLeft::of(x, n);
+            return (shifted >> n) == x ? shifted : x < 0 ? lowest<T> : highest<T>;
+        } else {
+            return clampTo<T>(static_cast<Tarn64s>(static_cast<unsigned long long>(Tarn64s{x}) << n));
+        }
     }
     template <IntegerRegister R>
         requires(sizeof(Element<R>) <= 2)
     static TARN_INLINE R of(R x, int n) { return narrowSaturated<Element<R>>(shiftLeft(widen(x), n)); }
     // The shift lost something where shifting back does not give the operand.
-    template <RegisterOf<Tarn32s> R>
+    template <IntegerRegister R>
+        requires(sizeof(Element<R>) >= 4)
     static TARN_INLINE R of(R x, int n)
     {
+        using T = Element<R>;
+        constexpr int sign = 8 * static_cast<int>(sizeof(T)) - 1;
         const auto shifted = ShiftLeft::of(x, n);
-        const auto bound = BitXor::of(ShiftRight::of(x, 31), splat<R>(highest<Tarn32s>));
+        const auto bound = BitXor::of(ShiftRight::of(x, sign), splat<R>(highest<T>));
         return SelectInteger::of(EqualInteger::of(ShiftRight::of(shifted, n), x), shifted, bound);
     }
 };

@@ -116,6 +116,19 @@ struct ShiftLeft {
 };
 inline constexpr Word<ShiftLeft> shiftLeft;
 
+// All ones where the element is negative, zeros elsewhere.
+struct SignsOf64s {
+    static TARN_INLINE Tarn64s of(Tarn64s x) { return x >> 63; }
+    template <RegisterOf<Tarn64s> R>
+        requires WideRegister<R>
+    static TARN_INLINE R of(R x) { return {native::signs64(x.v)}; }
+    static TARN_INLINE Register<Tarn64s> of(Register<Tarn64s> x)
+    {
+        return {_mm_srai_epi32(_mm_shuffle_epi32(x.v, 0xF5), 31)};
+    }
+};
+inline constexpr Word<SignsOf64s> signsOf64s;
+
 struct ShiftRight {
     template <Integer T>
     static TARN_INLINE T of(T x, int n)
@@ -138,6 +151,11 @@ struct ShiftRight {
             return {native::shiftRight16u(x.v, count)};
         } else if constexpr (std::is_same_v<T, Tarn32s>) {
             return {native::shiftRight32s(x.v, count)};
+        } else if constexpr (std::is_same_v<T, Tarn64s>) {
+            // There is no such instruction: what is negative is inverted, shifted, and inverted back.
+            const auto signs = SignsOf64s::of(x);
+            const auto positive = BitXor::of(x, signs);
+            return BitXor::of(R{native::shiftRight64u(positive.v, count)}, signs);
         } else {
             static_assert(std::is_unsigned_v<T>);
             return {sizeof(T) == 4 ? native::shiftRight32u(x.v, count) : native::shiftRight64u(x.v, count)};
@@ -167,19 +185,6 @@ struct ShiftRightLogical {
     }
 };
 inline constexpr Word<ShiftRightLogical> shiftRightLogical;
-
-// All ones where the element is negative, zeros elsewhere.
-struct SignsOf64s {
-    static TARN_INLINE Tarn64s of(Tarn64s x) { return x >> 63; }
-    template <RegisterOf<Tarn64s> R>
-        requires WideRegister<R>
-    static TARN_INLINE R of(R x) { return {native::signs64(x.v)}; }
-    static TARN_INLINE Register<Tarn64s> of(Register<Tarn64s> x)
-    {
-        return {_mm_srai_epi32(_mm_shuffle_epi32(x.v, 0xF5), 31)};
-    }
-};
-inline constexpr Word<SignsOf64s> signsOf64s;
 
 // -- Arithmetic modulo the element's width ---------------------------------------------------------------------------
 
@@ -250,6 +255,13 @@ struct GreaterInteger {
     {
         return {native::greater32s(a.v, b.v)};
     }
+    // The sign of b - a, or of b where the difference may have left 64 bits.
+    template <RegisterOf<Tarn64s> R>
+    static TARN_INLINE R of(R a, R b)
+    {
+        const auto ofDifference = BitAndNot::of(BitXor::of(a, b), SubInteger::of(b, a));
+        return SignsOf64s::of(BitOr::of(BitAndNot::of(a, b), ofDifference));
+    }
     // The instructions compare signed lanes: moving both operands by half the range keeps the order.
     template <IntegerRegister R>
         requires std::is_unsigned_v<Element<R>>
@@ -270,7 +282,6 @@ struct EqualInteger {
         return a == b;
     }
     template <IntegerRegister R>
-        requires(sizeof(Element<R>) < 8)
     static TARN_INLINE R of(R a, R b)
     {
         using T = Element<R>;
@@ -278,8 +289,12 @@ struct EqualInteger {
             return {native::equal8(a.v, b.v)};
         } else if constexpr (sizeof(T) == 2) {
             return {native::equal16(a.v, b.v)};
-        } else {
+        } else if constexpr (sizeof(T) == 4) {
             return {native::equal32(a.v, b.v)};
+        } else {
+            // The sign of the upper half, kept if the lower halves agree as well.
+            const R halves{native::equal32(a.v, b.v)};
+            return SignsOf64s::of(BitAnd::of(halves, ShiftLeft::of(halves, 32)));
         }
     }
 };
@@ -410,6 +425,16 @@ struct AddSaturated {
         using W = std::conditional_t<sizeof(T) == 4, Tarn64s, Tarn32s>;
         return clampTo<T>(static_cast<W>(W{a} + W{b}));
     }
+    static TARN_INLINE Tarn64s of(Tarn64s a, Tarn64s b)
+    {
+        Tarn64s result;
+        return __builtin_add_overflow(a, b, &result) ? (a < 0 ? lowest<Tarn64s> : highest<Tarn64s>) : result;
+    }
+    template <RegisterOf<Tarn8s> R>
+    static TARN_INLINE R of(R a, R b)
+    {
+        return {native::add8s(a.v, b.v)};
+    }
     template <RegisterOf<Tarn8u> R>
     static TARN_INLINE R of(R a, R b)
     {
@@ -433,12 +458,15 @@ struct AddSaturated {
         return BitOr::of(sum, GreaterInteger::of(a, sum));
     }
     // The sum wrapped where both operands have the sign that it lacks; the bound has their sign.
-    template <RegisterOf<Tarn32s> R>
+    template <IntegerRegister R>
+        requires(std::is_signed_v<Element<R>> && sizeof(Element<R>) >= 4)
     static TARN_INLINE R of(R a, R b)
     {
+        using T = Element<R>;
+        constexpr int sign = 8 * static_cast<int>(sizeof(T)) - 1;
         const auto sum = AddInteger::of(a, b);
-        const auto wrapped = ShiftRight::of(BitAndNot::of(BitXor::of(a, b), BitXor::of(a, sum)), 31);
-        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<R>(highest<Tarn32s>));
+        const auto wrapped = ShiftRight::of(BitAndNot::of(BitXor::of(a, b), BitXor::of(a, sum)), sign);
+        const auto bound = BitXor::of(ShiftRight::of(a, sign), splat<R>(highest<T>));
         return SelectInteger::of(wrapped, bound, sum);
     }
 };
@@ -452,6 +480,16 @@ struct SubSaturated {
     {
         using W = std::conditional_t<sizeof(T) == 4, Tarn64s, Tarn32s>;
         return clampTo<T>(static_cast<W>(W{a} - W{b}));
+    }
+    static TARN_INLINE Tarn64s of(Tarn64s a, Tarn64s b)
+    {
+        Tarn64s result;
+        return __builtin_sub_overflow(a, b, &result) ? (a < 0 ? lowest<Tarn64s> : highest<Tarn64s>) : result;
+    }
+    template <RegisterOf<Tarn8s> R>
+    static TARN_INLINE R of(R a, R b)
+    {
+        return {native::sub8s(a.v, b.v)};
     }
     template <RegisterOf<Tarn8u> R>
     static TARN_INLINE R of(R a, R b)
@@ -468,12 +506,15 @@ struct SubSaturated {
     {
         return {native::sub16s(a.v, b.v)};
     }
-    template <RegisterOf<Tarn32s> R>
+    template <IntegerRegister R>
+        requires(std::is_signed_v<Element<R>> && sizeof(Element<R>) >= 4)
     static TARN_INLINE R of(R a, R b)
     {
+        using T = Element<R>;
+        constexpr int sign = 8 * static_cast<int>(sizeof(T)) - 1;
         const auto difference = SubInteger::of(a, b);
-        const auto wrapped = ShiftRight::of(BitAnd::of(BitXor::of(a, b), BitXor::of(a, difference)), 31);
-        const auto bound = BitXor::of(ShiftRight::of(a, 31), splat<R>(highest<Tarn32s>));
+        const auto wrapped = ShiftRight::of(BitAnd::of(BitXor::of(a, b), BitXor::of(a, difference)), sign);
+        const auto bound = BitXor::of(ShiftRight::of(a, sign), splat<R>(highest<T>));
         return SelectInteger::of(wrapped, bound, difference);
     }
 };

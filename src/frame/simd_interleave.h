@@ -36,9 +36,13 @@ struct Zip {
             return {_mm_unpacklo_pd(a.v, b.v)};
         } else if constexpr (sizeof(T) == 4) {
             return {_mm_unpacklo_epi32(a.v, b.v)};
-        } else {
-            static_assert(sizeof(T) == 2);
+        } else if constexpr (sizeof(T) == 2) {
             return {_mm_unpacklo_epi16(a.v, b.v)};
+        } else if constexpr (sizeof(T) == 8) {
+            return {_mm_unpacklo_epi64(a.v, b.v)};
+        } else {
+            static_assert(sizeof(T) == 1);
+            return {_mm_unpacklo_epi8(a.v, b.v)};
         }
     }
     template <typename T>
@@ -52,9 +56,13 @@ struct Zip {
             return {_mm_unpackhi_pd(a.v, b.v)};
         } else if constexpr (sizeof(T) == 4) {
             return {_mm_unpackhi_epi32(a.v, b.v)};
-        } else {
-            static_assert(sizeof(T) == 2);
+        } else if constexpr (sizeof(T) == 2) {
             return {_mm_unpackhi_epi16(a.v, b.v)};
+        } else if constexpr (sizeof(T) == 8) {
+            return {_mm_unpackhi_epi64(a.v, b.v)};
+        } else {
+            static_assert(sizeof(T) == 1);
+            return {_mm_unpackhi_epi8(a.v, b.v)};
         }
     }
 };
@@ -99,6 +107,10 @@ struct EvenElements {
             return lowHalf(x);
         } else if constexpr (std::is_same_v<T, Tarn32f>) {
             return {_mm_shuffle_ps(lowHalf(x).v, highHalf(x).v, 0x88)};
+        } else if constexpr (std::is_same_v<T, Tarn32s>) {
+            return {native::even32(lowHalf(x).v, highHalf(x).v)};
+        } else if constexpr (std::is_same_v<T, Tarn64s>) {
+            return {_mm_unpacklo_epi64(lowHalf(x).v, highHalf(x).v)};
         } else if constexpr (std::is_same_v<T, Tarn64f>) {
             return {_mm_unpacklo_pd(lowHalf(x).v, highHalf(x).v)};
         } else {
@@ -121,6 +133,10 @@ struct OddElements {
             return highHalf(x);
         } else if constexpr (std::is_same_v<T, Tarn32f>) {
             return {_mm_shuffle_ps(lowHalf(x).v, highHalf(x).v, 0xDD)};
+        } else if constexpr (std::is_same_v<T, Tarn32s>) {
+            return {native::odd32(lowHalf(x).v, highHalf(x).v)};
+        } else if constexpr (std::is_same_v<T, Tarn64s>) {
+            return {_mm_unpackhi_epi64(lowHalf(x).v, highHalf(x).v)};
         } else {
             static_assert(std::is_same_v<T, Tarn64f>);
             return {_mm_unpackhi_pd(lowHalf(x).v, highHalf(x).v)};

@@ -46,12 +46,18 @@ void testEvenAndSpread()
     const std::vector<T> values = randomValues<T>(2 * step, 3);
     T even[step];
     store(even, evenElements(loadPack<2 * step>(values.data())));
+    T odd[step];
+    if constexpr (sizeof(T) > 2)
+        store(odd, oddElements(loadPack<2 * step>(values.data())));
     T spreadFirst[2 * step];
     T spreadSecond[2 * step];
     store(spreadFirst, spreadEven(loadPack<step>(values.data())));
     store(spreadSecond, spreadOdd(loadPack<step>(values.data())));
     for (std::size_t i = 0; i < step; ++i) {
         EXPECT_TRUE(valuesMatch<T>(values[2 * i], even[i], {.nan = NanRule::sameBits}));
+        if constexpr (sizeof(T) > 2) {
+            EXPECT_TRUE(valuesMatch<T>(values[2 * i + 1], odd[i], {.nan = NanRule::sameBits}));
+        }
         EXPECT_TRUE(valuesMatch<T>(values[i], spreadFirst[2 * i], {.nan = NanRule::sameBits}));
         EXPECT_TRUE(valuesMatch<T>(T{0}, spreadFirst[2 * i + 1]));
         EXPECT_TRUE(valuesMatch<T>(T{0}, spreadSecond[2 * i]));
@@ -62,8 +68,20 @@ void testEvenAndSpread()
 TEST(SimdInterleave, TakesEvenElementsAndSpreadsThem)
 {
     testEvenAndSpread<Tarn16s>();
+    testEvenAndSpread<Tarn32s>();
+    testEvenAndSpread<Tarn64s>();
     testEvenAndSpread<Tarn32f>();
     testEvenAndSpread<Tarn64f>();
+}
+
+TEST(SimdInterleave, ZipsBytes)
+{
+    Tarn8s elements[32];
+    std::iota(elements, elements + 32, Tarn8s{0});
+    Tarn8s zipped[32];
+    store(zipped, zip(loadPack<16>(elements), loadPack<16>(elements + 16)));
+    for (std::size_t i = 0; i < 32; ++i)
+        EXPECT_EQ(elements[i / 2 + 16 * (i % 2)], zipped[i]);
 }
 
 TEST(SimdInterleave, StoresHalvesAnywhere)

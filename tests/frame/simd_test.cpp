@@ -38,6 +38,10 @@ TEST(Simd, WrappingArithmetic)
 TEST(Simd, SaturatingArithmetic)
 {
     expectAgreement<Tarn8u, Tarn8u>(addSaturated);
+    expectAgreement<Tarn8s, Tarn8s>(addSaturated);
+    expectAgreement<Tarn8s, Tarn8s>(subSaturated);
+    expectAgreement<Tarn64s, Tarn64s>(addSaturated);
+    expectAgreement<Tarn64s, Tarn64s>(subSaturated);
     expectAgreement<Tarn16u, Tarn16u>(addSaturated);
     expectAgreement<Tarn16s, Tarn16s>(addSaturated);
     expectAgreement<Tarn32u, Tarn32u>(addSaturated);
@@ -58,6 +62,10 @@ TEST(Simd, ComparisonsAndChoices)
         expectAgreement<T, T>(max);
         expectAgreement<T, T>([](auto a, auto b) { return select(greater(a, b), a, sub(b, a)); });
     });
+    expectAgreement<Tarn64s, Tarn64s>(greater);
+    expectAgreement<Tarn64s, Tarn64s>(less);
+    expectAgreement<Tarn64s, Tarn64s>(equal);
+    expectAgreement<Tarn64s, Tarn64s>([](auto a, auto b) { return equal(shiftRight(a, 40), shiftRight(b, 40)); });
 }
 
 TEST(Simd, FloatsIncludingNanAndSignedZero)
@@ -93,6 +101,7 @@ TEST(Simd, ShiftsAtEveryCount)
         expectAgreement<Tarn16u>(right);
         expectAgreement<Tarn32s>(right);
         expectAgreement<Tarn32u>(right);
+        expectAgreement<Tarn64s>(right);
         expectAgreement<Tarn16s>(logical);
         expectAgreement<Tarn32s>(logical);
     }
@@ -100,14 +109,16 @@ TEST(Simd, ShiftsAtEveryCount)
 
 TEST(Simd, SaturatingLeftShifts)
 {
-    for (int n = 0; n < 32; ++n) {
+    for (int n = 0; n < 64; ++n) {
         SCOPED_TRACE(n);
         const auto up = [n](auto x) { return shiftLeftSaturated(x, n); };
+        expectAgreement<Tarn64s>(up);
         if (n < 8)
             expectAgreement<Tarn8u>(up);
         if (n < 16)
             expectAgreement<Tarn16s>(up);
-        expectAgreement<Tarn32s>(up);
+        if (n < 32)
+            expectAgreement<Tarn32s>(up);
     }
 }
 
