@@ -25,6 +25,7 @@
 #include "tarns/firstate.h"
 #include "tarns/generators.h"
 #include "tarns/goertzel.h"
+#include "tarns/haar.h"
 #include "tarns/hilbert.h"
 #include "tarns/iir.h"
 #include "tarns/iirstate.h"
@@ -44,6 +45,7 @@
 #include "tarns/subtract.h"
 #include "tarns/threshold.h"
 #include "tarns/wavelets.h"
+#include "tarns/update.h"
 #include "tarns/windows.h"
 
 #endif
