@@ -23,4 +23,5 @@
 #include <tarns/cpp/vectors/statistics.hpp>
 #include <tarns/cpp/vectors/subtract.hpp>
 #include <tarns/cpp/vectors/threshold.hpp>
+#include <tarns/cpp/vectors/update.hpp>
 #include <tarns/cpp/vectors/windows.hpp>
