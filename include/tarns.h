@@ -44,8 +44,8 @@
 #include "tarns/statistics.h"
 #include "tarns/subtract.h"
 #include "tarns/threshold.h"
-#include "tarns/wavelets.h"
 #include "tarns/update.h"
+#include "tarns/wavelets.h"
 #include "tarns/windows.h"
 
 #endif
