@@ -17,3 +17,4 @@
 #include "frame/simd_pack.h"
 #include "frame/simd_parts.h"
 #include "frame/simd_round.h"
+#include "frame/simd_saturated.h"

@@ -1,7 +1,7 @@
 // Floating-point words, and the words that integers and floats share under one name.
 #pragma once
 
-#include "frame/simd_int.h"
+#include "frame/simd_saturated.h"
 
 #include <cmath>
 
