@@ -13,7 +13,10 @@ endfunction()
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${installed})
 file(RENAME ${installed} ${prefix})
 
+# A compiler of two widths tells CMake the folder of its own one alone.
+cmake_path(GET LIBDIR FILENAME processor)
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${build} -G ${GENERATOR} -D CMAKE_BUILD_TYPE=Release
+    -D CMAKE_LIBRARY_ARCHITECTURE=${processor}
     -D CMAKE_PREFIX_PATH=${prefix} -D CMAKE_C_COMPILER=${C_COMPILER} -D CMAKE_CXX_COMPILER=${CXX_COMPILER}
     -D CMAKE_C_FLAGS=${C_FLAGS} -D CMAKE_CXX_FLAGS=${CXX_FLAGS})
 run(${CMAKE_COMMAND} --build ${build})
