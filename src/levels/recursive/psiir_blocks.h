@@ -190,6 +190,36 @@ TARN_INLINE WeightedSum<T> withRecent(WeightedSum<T> sum, Group<T> before, const
     }
 }
 
+// What outputs further back have a share in, a group of them at a time; `dst` is where the next output stands.
+template <typename T>
+TARN_INLINE WeightedSum<T> withFar(WeightedSum<T> sum, const T* dst, const T* rows, int order)
+{
+    using Sum = WeightedSum<T>;
+    const T* row = rows + ahead * ahead;
+    const T* past = dst - ahead;
+    int k = order - ahead;
+    TARN_ROLLED
+    for (; k >= ahead; k -= ahead) {
+        past -= ahead;
+        settleAddress(row);
+        settleAddress(past);
+        const Group<T> group = loadGroup(past);
+        repeat<ahead>([&](auto j) __attribute__((always_inline)) {
+            sum = sum + Sum::template weighted<ahead - 1 - j>(loadAlignedGroup(row + ahead * j), group);
+        });
+        row += ahead * ahead;
+    }
+    TARN_ROLLED
+    for (; k > 0; --k) {
+        past -= 1;
+        settleAddress(row);
+        settleAddress(past);
+        sum = sum + Sum::weighted(loadAlignedGroup(row), past);
+        row += ahead;
+    }
+    return sum;
+}
+
 // The inputs' share in a group of outputs: rows of an order's table that stand behind the past outputs'.
 template <typename T>
 TARN_INLINE WeightedSum<T> withInputs(Group<T> q, const T* rows)
@@ -204,7 +234,6 @@ TARN_INLINE WeightedSum<T> withInputs(Group<T> q, const T* rows)
 template <int fixed, typename T, typename Out>
 void recur(const T* values, Out out, int count, const T* table, int anyOrder)
 {
-    using Sum = WeightedSum<T>;
     const int order = fixed > 0 ? fixed : anyOrder;
     constexpr int recent = fixed > 0 ? fixed : ahead;
     const T* const inputRows = table + std::ptrdiff_t{ahead} * order;
@@ -218,16 +247,7 @@ void recur(const T* values, Out out, int count, const T* table, int anyOrder)
     for (; i <= count - ahead; i += ahead) {
         auto sum = withInputs(loadGroup(values + i), inputRows);
         if constexpr (fixed == 0) {
-            const T* row = table + ahead * (ahead - 1);
-            const T* past = out.values + i - ahead;
-            TARN_ROLLED
-            for (int k = order - ahead; k > 0; --k) {
-                row += ahead;
-                past -= 1;
-                settleAddress(row);
-                settleAddress(past);
-                sum = sum + Sum::weighted(loadAlignedGroup(row), past);
-            }
+            sum = withFar(sum, out.values + i, table, order);
         }
         before = withRecent<recent>(sum, before, table).total();
         out.put(i, before);
