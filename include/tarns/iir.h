@@ -17,9 +17,10 @@ extern "C" {
     the rounding of sums in another order. Where the tables of a high order would amplify rounding errors, the state
     knows it from its taps, and blocks go sample by sample, too.
 
-    NaN and infinite values pass through as they are, and stay in the recursion until the delay line is set. A filter
-    whose input has ended decays into denormal numbers, which take many processors fifty times as long. MXCSR is the
-    caller's: with flush-to-zero and denormals-are-zero set in it they cost nothing.
+    NaN and infinite values pass through as they are, and stay in the recursion until the delay line is set; in blocks
+    they may show up to three outputs early. A filter whose input has ended decays into denormal numbers, which take
+    many processors seventy times as long. MXCSR is the caller's: with flush-to-zero and denormals-are-zero set in it
+    they cost nothing. Filters of integer samples compute to the nearest in any rounding mode.
     @{ */
 
 /** Filters a block: y[n] = sum of b[k] x[n-k] - sum of a[k] y[n-k], or a cascade of such sections.
