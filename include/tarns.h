@@ -46,6 +46,7 @@
 #include "tarns/threshold.h"
 #include "tarns/update.h"
 #include "tarns/wavelets.h"
+#include "tarns/viterbi.h"
 #include "tarns/windows.h"
 
 #endif

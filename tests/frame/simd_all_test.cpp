@@ -39,6 +39,7 @@
 #include "frame/simd_ordered.h"
 #include "frame/simd_pack.h"
 #include "frame/simd_parts.h"
+#include "frame/simd_permute.h"
 #include "frame/simd_round.h"
 #include "frame/simd_shuffle.h"
 #include "frame/simd_sign.h"
