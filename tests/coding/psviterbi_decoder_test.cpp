@@ -3,6 +3,7 @@
 
 #include "model/trellis.h"
 #include "support/hard_values.h"
+#include "support/trellis_decoder.h"
 
 #include <gtest/gtest.h>
 
@@ -51,43 +52,9 @@ int wrongDecisions(const std::vector<Tarn16sc>& sent, const std::vector<Tarn16sc
 
 Bits decode(const TrellisCode& code, const std::vector<Tarn16sc>& received)
 {
-    const auto states = static_cast<std::size_t>(code.states);
-    const std::size_t symbols = received.size() / 2;
-    std::vector<Tarn16u> newMetrics(states, 65535);
-    std::vector<Tarn16u> metrics(states, 30000); // the encoder starts in state 0
-    metrics[0] = 0;
-    std::vector<Tarn16sc> bases(received.size());
-    std::vector<Tarn32u> survivors(symbols * states);
-    Tarn16u minMetric = 0;
-    Tarn8u best = 0;
-    for (std::size_t n = 0; n < symbols; ++n) {
-        std::array<Tarn32u, 16> errors;
-        std::array<Tarn32u, 32> table;
-        for (std::size_t k = 0; k < 2; ++k)
-            EXPECT_EQ(tarnStsNoErr, tarnsGetVarPointDV_16sc(&received[2 * n + k], &bases[2 * n + k], &errors[8 * k],
-                                                            code.map.data(), code.states));
-        EXPECT_EQ(tarnStsNoErr, tarnsBuildSymblTableDV4D_16sc(errors.data(), table.data(), code.states, 0));
-        EXPECT_EQ(tarnStsNoErr,
-                  tarnsCalcStatesDV_16sc(metrics.data(), code.next.data(), newMetrics.data(), table.data(),
-                                         survivors.data(), code.states, static_cast<int>(n * states)));
-        EXPECT_EQ(tarnStsNoErr,
-                  tarnsUpdatePathMetricsDV_16u(newMetrics.data(), &minMetric, &best, metrics.data(), code.states));
-    }
-
-    // Back along the survivors, then the bits in their order.
-    std::vector<int> statesPassed(symbols);
-    std::vector<Tarn16sc> decided(received.size());
-    std::size_t state = best;
-    for (std::size_t n = symbols; n-- > 0;) {
-        const Tarn32u survivor = survivors[n * states + state];
-        decided[2 * n] = TrellisCode::decided(bases[2 * n], static_cast<int>(survivor & 0xFF));
-        decided[2 * n + 1] = TrellisCode::decided(bases[2 * n + 1], static_cast<int>(survivor >> 8 & 0xFF));
-        state = survivor >> 16;
-        statesPassed[n] = static_cast<int>(state);
-    }
-    Bits bits;
-    for (std::size_t n = 0; n < symbols; ++n)
-        code.decode(statesPassed[n], decided[2 * n], decided[2 * n + 1], bits);
+    TrellisDecoder decoder(code);
+    Bits bits = decoder.decode(received);
+    EXPECT_EQ(tarnStsNoErr, decoder.status());
     return bits;
 }
 
