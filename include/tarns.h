@@ -47,6 +47,7 @@
 #include "tarns/update.h"
 #include "tarns/wavelets.h"
 #include "tarns/viterbi.h"
+#include "tarns/wavelets.h"
 #include "tarns/windows.h"
 
 #endif
