@@ -45,7 +45,6 @@
 #include "tarns/subtract.h"
 #include "tarns/threshold.h"
 #include "tarns/update.h"
-#include "tarns/wavelets.h"
 #include "tarns/viterbi.h"
 #include "tarns/wavelets.h"
 #include "tarns/windows.h"
