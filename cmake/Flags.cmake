@@ -49,7 +49,9 @@ target_link_options(tarns_sanitizers INTERFACE -fsanitize=${TARNS_SANITIZED_COPY
 add_library(tarns_flags INTERFACE)
 target_compile_options(tarns_flags INTERFACE -ffp-contract=off -Wall -Wextra $<$<COMPILE_LANGUAGE:CXX>:-Wconversion>
     # clang counts changes of sign among the conversions, and takes folds and aggregates for slips.
-    $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-sign-conversion -Wno-parentheses-equality -Wno-missing-braces>)
+    $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-sign-conversion -Wno-parentheses-equality -Wno-missing-braces>
+    # A precompiled header from a compiler cache is older than the files that it was made of.
+    $<$<COMPILE_LANG_AND_ID:CXX,Clang>:SHELL:-Xclang -fno-pch-timestamp>)
 if(TARNS_LEVEL STREQUAL "Z9" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Its own header of these vectors has values that are deliberately undefined.
     target_compile_options(tarns_flags INTERFACE -Wno-uninitialized -Wno-maybe-uninitialized)

@@ -4,6 +4,9 @@
 cd "$(dirname "$0")/.."
 jobs=$(nproc)
 
+# A compiler cache takes what includes a precompiled header only if told that this is meant.
+export CCACHE_SLOPPINESS="${CCACHE_SLOPPINESS:-pch_defines,time_macros,include_file_mtime,include_file_ctime}"
+
 # configure PRESET [OPTION...]: with a compiler cache if there is one.
 configure()
 {

@@ -76,21 +76,23 @@ TEST(Add, SumsWithoutAScale)
 }
 
 template <class T>
-void sweepFloats(TarnStatus (*outOfPlace)(const T*, const T*, T*, int), TarnStatus (*inPlace)(const T*, T*, int))
+void sweepFloats(TarnStatus (*outOfPlace)(const T*, const T*, T*, int), TarnStatus (*inPlace)(const T*, T*, int),
+                 RoundingMode mode)
 {
+    const RoundingModeScope scope(mode);
+    const SweepOptions options{.depth = mode == RoundingMode::nearest ? Depth::full : Depth::quick};
     const auto model = [](T a, T b) { return floatSum(a, b); };
-    sweepElementwise<T, T, T>(outOfPlace, model);
-    sweepInPlace<T, T>(inPlace, model);
+    sweepElementwise<T, T, T>(outOfPlace, model, options);
+    sweepInPlace<T, T>(inPlace, model, options);
 }
 
 TEST(Add, FloatSumsInEveryRoundingMode)
 {
     for (const RoundingMode mode : allRoundingModes) {
-        RoundingModeScope scope(mode);
-        sweepFloats<Tarn32f>(tarnsAdd_32f, tarnsAdd_32f_I);
-        sweepFloats<Tarn64f>(tarnsAdd_64f, tarnsAdd_64f_I);
-        sweepFloats<Tarn32fc>(tarnsAdd_32fc, tarnsAdd_32fc_I);
-        sweepFloats<Tarn64fc>(tarnsAdd_64fc, tarnsAdd_64fc_I);
+        sweepFloats<Tarn32f>(tarnsAdd_32f, tarnsAdd_32f_I, mode);
+        sweepFloats<Tarn64f>(tarnsAdd_64f, tarnsAdd_64f_I, mode);
+        sweepFloats<Tarn32fc>(tarnsAdd_32fc, tarnsAdd_32fc_I, mode);
+        sweepFloats<Tarn64fc>(tarnsAdd_64fc, tarnsAdd_64fc_I, mode);
     }
 }
 

@@ -20,12 +20,16 @@ float productByReciprocal(float x, float reciprocal, int s)
     return scaled;
 }
 
+// All constants at the factors that have steps of their own or leave the range, else one and another.
+Depth depthOf(int s) { return s == 0 || s == 1 || s == -1 || std::abs(s) == 17 ? Depth::full : Depth::quick; }
+
 TEST(DivisionByConstant, Words)
 {
     for (const RoundingMode mode : {RoundingMode::nearest, RoundingMode::up}) {
-        for (const Tarn16s val : std::initializer_list<Tarn16s>{3, -7, 1, -1, 32767, -32768, 10}) {
-            const float reciprocal = 1.0F / static_cast<float>(val);
-            for (const int s : scaleFactors(-16, 16)) {
+        std::size_t turn = 0;
+        for (const int s : scaleFactors(-16, 16)) {
+            for (const Tarn16s val : constantsAt<Tarn16s>({3, -7, 1, -1, 32767, -32768, 10}, turn++, depthOf(s))) {
+                const float reciprocal = 1.0F / static_cast<float>(val);
                 SCOPED_TRACE(std::to_string(val) + " at " + std::to_string(s));
                 // Words do not follow the rounding mode, which is set for the calls alone.
                 const auto atScale = [=](Tarn16s x) {
@@ -53,9 +57,10 @@ TEST(DivisionByConstant, Bytes)
 {
     for (const RoundingMode mode : allRoundingModes) {
         const RoundingModeScope scope(mode);
-        for (const Tarn8u val : std::initializer_list<Tarn8u>{3, 7, 1, 255, 128}) {
-            volatile float reciprocal = 1.0F / static_cast<float>(val);
-            for (const int s : scaleFactors(-8, 8)) {
+        std::size_t turn = 0;
+        for (const int s : scaleFactors(-8, 8)) {
+            for (const Tarn8u val : constantsAt<Tarn8u>({3, 7, 1, 255, 128}, turn++, depthOf(s))) {
+                volatile float reciprocal = 1.0F / static_cast<float>(val);
                 SCOPED_TRACE(std::to_string(val) + " at " + std::to_string(s));
                 const auto atScale = [&](Tarn8u x) {
                     const float value = productByReciprocal(static_cast<float>(x), reciprocal, s);

@@ -81,8 +81,10 @@ TEST(MulC, ExactScaledProductsOf32BitComplexElements)
     elements[0] = {bottom, bottom};
     elements[1] = {top, bottom};
     elements[2] = {bottom, top};
+    const std::vector<Tarn32sc> constants = {{5, -77777}, {0, 0}, {1, 0}, {bottom, bottom}, {bottom, top}};
+    std::size_t turn = 0;
     for (const int s : range_32sc.factors()) {
-        for (const Tarn32sc val : {Tarn32sc{5, -77777}, {0, 0}, {1, 0}, {bottom, bottom}, {bottom, top}}) {
+        for (const Tarn32sc val : constantsAt(constants, turn++, range_32sc.depth(s))) {
             SCOPED_TRACE(toText(val) + " at " + std::to_string(s));
             const auto model = [=](Tarn32sc a) { return scaledProduct<Tarn32sc>(a, val, s); };
             sweepElementwise<Tarn32sc, Tarn32sc>(

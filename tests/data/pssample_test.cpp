@@ -21,7 +21,7 @@ constexpr float inf32 = std::numeric_limits<float>::infinity();
 // -- Normalization ----------------------------------------------------------------------------------------------------
 
 template <class T, class D>
-void sweepNormalize(TarnStatus (*call)(const T*, T*, int, T, D), T vSub, D vDiv)
+void sweepNormalize(TarnStatus (*call)(const T*, T*, int, T, D), T vSub, D vDiv, Depth depth = Depth::quick)
 {
     const auto model = [&](T x) {
         const D reciprocal = 1 / vDiv;
@@ -31,13 +31,18 @@ void sweepNormalize(TarnStatus (*call)(const T*, T*, int, T, D), T vSub, D vDiv)
             return (x - vSub) * reciprocal;
     };
     sweepElementwise<T, T>([&](const T* src, T* dst, int len) { return call(src, dst, len, vSub, vDiv); }, model,
-                           {.name = "divisor " + toText(vDiv)});
+                           {.name = "divisor " + toText(vDiv), .depth = depth});
 }
 
 TEST(Normalize, FloatsInEveryRoundingMode)
 {
     for (const RoundingMode mode : allRoundingModes) {
         const RoundingModeScope scope(mode);
+        const Depth depth = mode == RoundingMode::nearest ? Depth::full : Depth::quick;
+        sweepNormalize<Tarn32f, Tarn32f>(tarnsNormalize_32f, 0.1f, 7.0f, depth);
+        sweepNormalize<Tarn32fc, Tarn32f>(tarnsNormalize_32fc, {0.1f, -7.0f}, 7.0f, depth);
+        sweepNormalize<Tarn64f, Tarn64f>(tarnsNormalize_64f, 0.1, 7.0, depth);
+        sweepNormalize<Tarn64fc, Tarn64f>(tarnsNormalize_64fc, {0.1, -7.0}, 7.0, depth);
         for (const float vDiv : {3.0f, -0.1f, 1.17549435e-38f, -3e38f, inf32}) {
             sweepNormalize<Tarn32f, Tarn32f>(tarnsNormalize_32f, 0.3f, vDiv);
             sweepNormalize<Tarn32fc, Tarn32f>(tarnsNormalize_32fc, {0.3f, -7.0f}, vDiv);

@@ -87,7 +87,8 @@ Columns<Src...> makeColumns(Values kind = Values::mixed, std::size_t atLeast = 0
     }
     auto extend = [&](auto& values, std::uint64_t column) {
         using T = typename std::remove_cvref_t<decltype(values)>::value_type;
-        const bool complete = values.size() == detail::everyValue;
+        constexpr bool oneByte = sizeof...(Src) == 1 && std::is_integral_v<T> && sizeof(T) == 1;
+        const bool complete = values.size() == detail::everyValue || (oneByte && !values.empty());
         Random random(seed * 16 + column);
         std::size_t len = values.size() + (complete ? 0 : detail::randomValuesBehind);
         if (sizeof...(Src) > 2)

@@ -57,8 +57,9 @@ FpState FpState::current()
         std::uint16_t tags, reserved2;
         std::uint32_t rest[4];
     } environment;
-    // Storing the environment masks every x87 exception, so it is loaded again at once.
-    asm volatile("fnstenv %0\n\tfldenv %0" : "=m"(environment) : : "memory");
+    // Storing the environment masks every x87 exception, so the control word, which comes first in it, is loaded again
+    // at once.
+    asm volatile("fnstenv %0\n\tfldcw %0" : "=m"(environment) : : "memory");
     return {readMxcsr() & ~mxcsrFlags, environment.control, environment.tags};
 }
 

@@ -42,15 +42,26 @@ void sweepScaled(OutOfPlace outOfPlace, InPlace inPlace, ScaleRange range, Model
     }
 }
 
+/// The first constant at every factor, the others at those of full depth, and at each further one another of them.
+template <class T>
+std::vector<T> constantsAt(const std::vector<T>& constants, std::size_t turn, Depth depth)
+{
+    if (depth == Depth::full || constants.size() < 3)
+        return constants;
+    return {constants[0], constants[1 + turn % (constants.size() - 1)]};
+}
+
 /// `model(T element, T val, int s) -> T`.
 template <class T, class OutOfPlace, class InPlace, class Model>
 void sweepScaledConstant(OutOfPlace outOfPlace, InPlace inPlace, ScaleRange range, const std::vector<T>& constants,
                          Model model)
 {
+    std::size_t turn = 0;
     for (const int s : range.factors()) {
         SCOPED_TRACE(s);
-        for (const T& val : constants) {
-            const Depth depth = &val == constants.data() ? range.depth(s) : Depth::quick;
+        const std::vector<T> chosen = constantsAt(constants, turn++, range.depth(s));
+        for (const T& val : chosen) {
+            const Depth depth = &val == chosen.data() ? range.depth(s) : Depth::quick;
             const auto atScale = [&](T a) { return model(a, val, s); };
             sweepElementwise<T, T>([&](const T* a, T* dst, int len) { return outOfPlace(a, val, dst, len, s); },
                                    atScale, {.name = toText(val), .depth = depth});
