@@ -25,9 +25,9 @@ extern "C" {
     precision, which count 2^-16: y is the sum times 2^-16, and h changes by mu 2^-15 e[n] x[n-k], with an e[n] of the
     output before it is rounded.
 
-    Sums are taken in single precision, from the oldest sample on: eight partial sums of every eighth product, of which
-    the last may be of four, the products that are left over, and then all of them together. Results depend neither on
-    how a signal is cut into blocks nor on addresses.
+    Sums are taken in single precision, oldest samples first, as sixteen partial sums of every sixteenth product, or as
+    many as there are, and then all of them together. Results depend neither on how a signal is cut into blocks nor on
+    addresses.
     @{ */
 
 /** State of a filter; opaque. */

@@ -29,6 +29,11 @@ struct Anywhere {
             return static_cast<X>(loadElement(p));
         }
     }
+    template <typename X>
+    static TARN_INLINE void put(Tarn32f* p, X x)
+    {
+        store(p, x);
+    }
 };
 struct OnBoundary {
     template <typename X>
@@ -40,48 +45,86 @@ struct OnBoundary {
             return *p;
         }
     }
+    template <typename X>
+    static TARN_INLINE void put(Tarn32f* p, X x)
+    {
+        if constexpr (isPack<X>) {
+            storeAligned(p, x);
+        } else {
+            *p = x;
+        }
+    }
 };
 
-// The sum of term(i) over all taps: of four at a time into two registers in turn, and of what is left one by one. A
-// term's type tells how many it stands for.
-template <typename Term>
-TARN_INLINE Tarn32f sumOfTerms(int tapsLen, Term term)
+// Where a pass has come to. Packs are reached from here at constant distances.
+template <typename Tap, typename S>
+struct Place {
+    Tap* taps;
+    const S* window;
+    const S* next = nullptr; // the window after that
+
+    TARN_INLINE void advance(int count)
+    {
+        taps += count;
+        window += count;
+        next += count;
+    }
+};
+
+// The sum of the terms of all taps. Those of four at a time go into four registers in turn, so that few of them wait
+// for each other: all wait for the error of the sample before. What is left over is taken one by one.
+template <typename At, typename Term>
+TARN_INLINE Tarn32f sumOfTerms(At at, int tapsLen, Term term)
 {
     constexpr int step = Four::size;
-    Four even = splat<Four>(0);
-    Four odd = even;
-    int i = 0;
-    for (; i <= tapsLen - 2 * step; i += 2 * step) {
-        even = add(even, term(Four{}, i));
-        odd = add(odd, term(Four{}, i + step));
+    constexpr int turn = 4 * step;
+    Four sums[4];
+    repeat<4>([&](auto k) __attribute__((always_inline)) { sums[k] = splat<Four>(0); });
+    int left = tapsLen;
+    for (; left >= turn; left -= turn) {
+        repeat<4>([&](auto k) __attribute__((always_inline)) { sums[k] = add(sums[k], term(Four{}, at, k * step)); });
+        at.advance(turn);
     }
-    if (i <= tapsLen - step) {
-        even = add(even, term(Four{}, i));
-        i += step;
+    if (left >= 2 * step) {
+        sums[0] = add(sums[0], term(Four{}, at, 0));
+        sums[1] = add(sums[1], term(Four{}, at, step));
+        at.advance(2 * step);
+        left -= 2 * step;
+    }
+    if (left >= step) {
+        sums[2] = add(sums[2], term(Four{}, at, 0));
+        at.advance(step);
+        left -= step;
+    }
+    const Tarn32f sum = foldLanes(add(add(sums[0], sums[1]), add(sums[2], sums[3])), add);
+    if (left == 0) {
+        return sum;
     }
     Tarn32f rest = 0;
-    for (; i < tapsLen; ++i) {
-        rest = add(rest, term(Tarn32f{}, i));
+    for (; left > 0; --left) {
+        rest = add(rest, term(Tarn32f{}, at, 0));
+        at.advance(1);
     }
-    return add(foldLanes(add(even, odd), add), rest);
+    return add(sum, rest);
 }
 
 template <typename Taps, typename Window, typename S>
 TARN_INLINE Tarn32f filterWindow(const Tarn32f* taps, const S* window, int tapsLen)
 {
     return sumOfTerms(
-        tapsLen, [=](auto kind, int i) __attribute__((always_inline)) {
+        Place<const Tarn32f, S>{taps, window}, tapsLen,
+        [](auto kind, const auto& at, int i) __attribute__((always_inline)) {
             using X = decltype(kind);
-            return mul(Taps::template load<X>(taps + i), Window::template load<X>(window + i));
+            return mul(Taps::template load<X>(at.taps + i), Window::template load<X>(at.window + i));
         });
 }
 
 // Changes some taps and gives them.
 template <typename X, typename Taps, typename Window, typename S>
-TARN_INLINE X adaptTaps(Tarn32f* taps, Tarn32f e, const S* window, int i)
+TARN_INLINE X adaptTaps(Tarn32f* taps, Tarn32f e, const S* window)
 {
-    const X changed = add(Taps::template load<X>(taps + i), mul(splat<X>(e), Window::template load<X>(window + i)));
-    store(taps + i, changed);
+    const X changed = add(Taps::template load<X>(taps), mul(splat<X>(e), Window::template load<X>(window)));
+    Taps::put(taps, changed);
     return changed;
 }
 
@@ -90,10 +133,10 @@ TARN_INLINE void adaptToWindow(Tarn32f* taps, Tarn32f e, const S* window, int ta
 {
     int i = 0;
     for (; i <= tapsLen - Four::size; i += Four::size) {
-        adaptTaps<Four, Taps, Window>(taps, e, window, i);
+        adaptTaps<Four, Taps, Window>(taps + i, e, window + i);
     }
     for (; i < tapsLen; ++i) {
-        adaptTaps<Tarn32f, Taps, Window>(taps, e, window, i);
+        adaptTaps<Tarn32f, Taps, Window>(taps + i, e, window + i);
     }
 }
 
@@ -101,9 +144,11 @@ template <typename Taps, typename Window>
 TARN_INLINE Tarn32f adaptAndFilter(Tarn32f* taps, Tarn32f e, const Tarn32f* window, const Tarn32f* next, int tapsLen)
 {
     return sumOfTerms(
-        tapsLen, [=](auto kind, int i) __attribute__((always_inline)) {
+        Place<Tarn32f, Tarn32f>{taps, window, next},
+        tapsLen, [e](auto kind, const auto& at, int i) __attribute__((always_inline)) {
             using X = decltype(kind);
-            return mul(adaptTaps<X, Taps, Window>(taps, e, window, i), Window::template load<X>(next + i));
+            return mul(adaptTaps<X, Taps, Window>(at.taps + i, e, at.window + i),
+                       Window::template load<X>(at.next + i));
         });
 }
 
