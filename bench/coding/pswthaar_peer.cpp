@@ -7,12 +7,17 @@
 namespace tarn::bench {
 namespace {
 
-// (a + b) / 2 to nearest, ties to even, in twice the width; of 64 bits in the same width.
+// (a + b) / 2 to nearest, ties to even, in twice the width; of 64 bits from the halves. Doubles as they are defined.
 template <class T>
 T halved(T a, T b)
 {
-    if constexpr (std::is_floating_point_v<T>) {
+    if constexpr (std::is_same_v<T, Tarn64f>) {
+        return static_cast<T>((static_cast<long double>(a) + static_cast<long double>(b)) * 0.5L);
+    } else if constexpr (std::is_floating_point_v<T>) {
         return (a + b) * T(0.5);
+    } else if constexpr (sizeof(T) == 8) {
+        const T half = (a & b) + ((a ^ b) >> 1);
+        return half + ((a ^ b) & half & 1);
     } else {
         using Wide = std::conditional_t<sizeof(T) < 4, int, long long>;
         const Wide sum = static_cast<Wide>(a) + b;
@@ -21,9 +26,18 @@ T halved(T a, T b)
 }
 
 template <class T>
-T limited(long long x)
+T limitedSum(T a, T b)
 {
-    return static_cast<T>(std::clamp<long long>(x, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+    if constexpr (sizeof(T) == 8) {
+        T sum;
+        return !__builtin_add_overflow(a, b, &sum) ? sum
+               : a < 0                             ? std::numeric_limits<T>::min()
+                                                   : std::numeric_limits<T>::max();
+    } else {
+        using Wide = std::conditional_t<sizeof(T) < 4, int, long long>;
+        return static_cast<T>(
+            std::clamp<Wide>(static_cast<Wide>(a) + b, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+    }
 }
 
 } // namespace
@@ -46,8 +60,8 @@ TarnStatus haarInverseLoop(const T* low, const T* high, T* x, int len)
             x[2 * k] = low[k] - high[k];
             x[2 * k + 1] = low[k] + high[k];
         } else {
-            x[2 * k] = limited<T>(static_cast<long long>(low[k]) - high[k]);
-            x[2 * k + 1] = limited<T>(static_cast<long long>(low[k]) + high[k]);
+            x[2 * k] = limitedSum<T>(low[k], static_cast<T>(-high[k]));
+            x[2 * k + 1] = limitedSum<T>(low[k], high[k]);
         }
     }
     return tarnStsNoErr;
