@@ -6,6 +6,7 @@ if(TARNS_DOXYGEN)
     add_custom_target(docs
         COMMAND ${CMAKE_COMMAND} -E make_directory ${TARNS_DOCS_DIR}
         COMMAND ${TARNS_DOXYGEN} ${PROJECT_BINARY_DIR}/Doxyfile
+        COMMAND python3 ${PROJECT_SOURCE_DIR}/scripts/manual-index ${TARNS_DOCS_DIR}
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
         COMMENT "Building the manual in ${TARNS_DOCS_DIR}/html"
         VERBATIM)

@@ -64,6 +64,11 @@ typedef struct {
 } Tarn64fc;
 /** @} */
 
+/** @defgroup core Status texts, version and special values
+    What every caller may want, whatever it computes: the text of a status, the build that runs, the patterns of NaN and
+    the infinities, and the hint between speed and accuracy.
+    @{ */
+
 /** Choice between a fast and an accurate algorithm, where a function offers one. An integer, since every value is
     accepted: those without a name below mean the function's default. */
 typedef int TarnHintAlgorithm;
@@ -113,6 +118,7 @@ typedef struct {
 
     @return address of a constant record, the same on every call. Cannot fail. */
 TARN_API const TarnLibraryVersion* tarnsGetLibVersion(void);
+/** @} */
 
 /** @defgroup cpu Processor identification
     A service for callers: the library's kernels are settled when it is built, and no result depends on what these
