@@ -11,7 +11,7 @@ extern "C" {
 /** @defgroup companding A-law and mu-law
     The 8-bit codes of telephony as ITU-T Recommendation G.711 defines them, from and to linear samples and from one law
     to the other. A byte is a sign, a segment of three bits and four bits within it; the steps double from segment to
-    segment, so that the noise of coding stays about 38 dB below the signal over 40 dB of levels.
+    segment, so that the noise of coding stays 35 to 40 dB below the signal over some 40 dB of levels.
 
     16-bit samples have their full range: what the Recommendation calls 13 bits (A-law) and 14 bits (mu-law) are their
     upper bits. Floats are taken as those samples divided by 32768: full scale is +-1.
