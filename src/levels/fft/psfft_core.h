@@ -28,13 +28,15 @@ inline void readingSplitCore(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm,
 template <bool forward, typename T>
 inline void inPlaceCore(T* data, int size, const T* twd, T* work, int interleave)
 {
-    T* const area = isOnBoundary(data) ? data : work;
+    // Blocks wider than those of the tables would lie on data that the first pass has not yet read.
+    constexpr bool worksInPlace = workLanes<T> == blockLanes<T>;
+    T* const area = worksInPlace && isOnBoundary(data) ? data : work;
     const Transform<forward, T, SequentialPairs<T>> transform({{}, data}, area, size, twd);
     if (interleave == 1) {
         transform.run(WritePairs<T>{data});
         return;
     }
-    transform.run(WriteWork<T>{area});
+    transform.run(WriteBlocks<T>{area});
     if (area != data) {
         std::memcpy(static_cast<void*>(data), area, 2 * sizeof(T) * static_cast<std::size_t>(size));
     }

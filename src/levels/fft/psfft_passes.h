@@ -1,30 +1,12 @@
 // The passes of the radix-4 core: a first pass that reads the data from wherever it lies, stages of radix 4 in the
 // working arrangement, and a last stage that writes to the destination.
-//
-// Working arrangement: blocks of blockLanes<T> complex elements, the real parts in one register's width and the
-// imaginary parts in the next. A butterfly is then arithmetic on whole registers, with no shuffle in it.
 #pragma once
 
-#include "levels/fft/psfft_butterflies.h"
+#include "levels/fft/psfft_work.h"
 
 #include <cstddef>
 
 namespace tarn::fft {
-
-template <typename T>
-using Block = Complex<BlockPart<T>>;
-
-template <typename T>
-TARN_INLINE Block<T> loadBlock(const T* p)
-{
-    return {loadAligned<blockLanes<T>>(p), loadAligned<blockLanes<T>>(p + blockLanes<T>)};
-}
-template <typename T>
-TARN_INLINE void storeBlock(T* p, Block<T> x)
-{
-    storeAligned(p, x.re);
-    storeAligned(p + blockLanes<T>, x.im);
-}
 
 // -- Where the first pass reads --------------------------------------------------------------------------------------
 //
@@ -247,7 +229,11 @@ template <typename T>
 struct WritePairs {
     T* dst;
 
-    TARN_INLINE void put(std::ptrdiff_t at, Block<T> x) const { storePairs(dst + at, x); }
+    template <typename X>
+    TARN_INLINE void put(std::ptrdiff_t at, Complex<X> x) const
+    {
+        storePairs(dst + at, x);
+    }
 };
 
 template <typename T>
@@ -255,18 +241,35 @@ struct WriteParts {
     T* dstRe;
     T* dstIm;
 
-    TARN_INLINE void put(std::ptrdiff_t at, Block<T> x) const
+    template <typename X>
+    TARN_INLINE void put(std::ptrdiff_t at, Complex<X> x) const
     {
         store(dstRe + at / 2, x.re);
         store(dstIm + at / 2, x.im);
     }
 };
 
+// To be read by the next stage, and to be left for the caller.
 template <typename T>
 struct WriteWork {
     T* work;
 
-    TARN_INLINE void put(std::ptrdiff_t at, Block<T> x) const { storeBlock(work + at, x); }
+    template <typename X>
+    TARN_INLINE void put(std::ptrdiff_t at, Complex<X> x) const
+    {
+        storeWork(work, at, x);
+    }
+};
+
+template <typename T>
+struct WriteBlocks {
+    T* dst;
+
+    template <typename X>
+    TARN_INLINE void put(std::ptrdiff_t at, Complex<X> x) const
+    {
+        storeBlocks(dst + at, x);
+    }
 };
 
 // -- Passes ----------------------------------------------------------------------------------------------------------
@@ -282,18 +285,18 @@ TARN_INLINE const T* stageTwiddles(const T* twd, int first, int L)
     return twd + (L - first) / 2;
 }
 
-// A butterfly on the four blocks that load(i) gives. Within a stage the quarters are in bit-reversed order, hence W(2k)
-// for the second and W(k) for the third; the factors are three blocks at `w`. Results go to put(quarter's number,
-// value).
-template <bool forward, typename T, typename Load, typename Put>
+// A butterfly on the four packs of N elements that load(i) gives. Within a stage the quarters are in bit-reversed
+// order, hence W(2k) for the second and W(k) for the third; the factors are three blocks at `w` for each block of
+// elements. Results go to put(quarter's number, value).
+template <bool forward, int N, typename T, typename Load, typename Put>
 TARN_INLINE void butterflyOf(Load load, const T* w, Put put)
 {
     constexpr int width = 2 * blockLanes<T>;
-    const auto c = rotate<forward>(load(2), loadBlock(w));
-    const auto d = rotate<forward>(load(3), loadBlock(w + 2 * width));
+    const auto c = rotate<forward>(load(2), loadFactors<N>(w));
+    const auto d = rotate<forward>(load(3), loadFactors<N>(w + 2 * width));
     const auto t0 = c + d;
     const auto t1 = c - d;
-    const auto b = rotate<forward>(load(1), loadBlock(w + width));
+    const auto b = rotate<forward>(load(1), loadFactors<N>(w + width));
     const auto a = load(0);
     const auto s0 = a + b;
     const auto s1 = a - b;
@@ -307,21 +310,31 @@ TARN_INLINE void butterflyOf(Load load, const T* w, Put put)
 template <bool forward, typename T, typename Put>
 TARN_INLINE void butterfly(const T* p, std::ptrdiff_t quarter, const T* w, Put put)
 {
-    butterflyOf<forward>([=](int i) { return loadBlock(p + i * quarter); }, w, put);
+    butterflyOf<forward, blockLanes<T>>([=](int i) { return loadBlock(p + i * quarter); }, w, put);
 }
 
 // One stage of radix 4 over `count` elements at `first` of the work area: transforms of L / 4 points become transforms
-// of L points.
-template <bool forward, typename T, typename Sink>
-inline void stage(const T* work, std::ptrdiff_t first, std::ptrdiff_t count, std::ptrdiff_t L, const T* twd, Sink sink)
+// of L points. As many of them side by side as a vector holds, or a quarter has.
+template <bool forward, int N, typename T, typename Sink>
+inline void stageOf(const T* work, std::ptrdiff_t first, std::ptrdiff_t count, std::ptrdiff_t L, const T* twd,
+                    Sink sink)
 {
-    constexpr int width = 2 * blockLanes<T>;
+    if constexpr (N > blockLanes<T>) {
+        if (L / 4 < N) {
+            stageOf<forward, N / 2>(work, first, count, L, twd, sink);
+            return;
+        }
+    }
+    constexpr int width = 2 * N;
     const std::ptrdiff_t quarter = L / 2;
     const std::ptrdiff_t end = 2 * (first + count);
     for (std::ptrdiff_t block = 2 * first; block < end; block += 4 * quarter) {
         const T* w = twd;
         for (std::ptrdiff_t at = block; at < block + quarter; at += width, w += 3 * width) {
-            butterfly<forward>(work + at, quarter, w, [&](int part, Block<T> x) { sink.put(at + part * quarter, x); });
+            butterflyOf<forward, N>(
+                [=](int i) __attribute__((always_inline)) { return loadWork<N>(work, at + i * quarter); }, w,
+                [&](int part, Complex<Pack<T, N>> x)
+                    __attribute__((always_inline)) { sink.put(at + part * quarter, x); });
         }
     }
 }
@@ -356,7 +369,7 @@ public:
                 build(at, size / 4);
             }
         }
-        stage<forward>(work, 0, size, size, stageTwiddles(twd, shortest, size), sink);
+        stageOf<forward, workLanes<T>>(work, 0, size, size, stageTwiddles(twd, shortest, size), sink);
     }
 
 private:
@@ -389,7 +402,7 @@ private:
 
     void stageInWork(int at, int count, int L) const
     {
-        stage<forward>(work, at, count, L, stageTwiddles(twd, shortest, L), WriteWork<T>{work});
+        stageOf<forward, workLanes<T>>(work, at, count, L, stageTwiddles(twd, shortest, L), WriteWork<T>{work});
     }
 
     // Transforms of 4 or 8 points in the stretch of `count` elements at `first` of every stream. The members are
@@ -399,26 +412,26 @@ private:
         const Source from = source;
         T* const to = work;
         const auto place = [=](int at, int group, int lane, int block) {
-            return to + 2 * (at + from.laneOffset(lane, group) + blockLanes<T> * block);
+            return 2 * (at + from.laneOffset(lane, group) + blockLanes<T> * block);
         };
         const int end = first + count;
         if (shortest == 16) {
             for (int at = first; at < end; at += from.step(4)) {
                 from.template transformQuads<forward>(
-                    at, 4, [&](int lane, int block, Block<T> x) { storeBlock(place(at, 4, lane, block), x); });
+                    at, 4, [&](int lane, int block, Block<T> x) { storeWork(to, place(at, 4, lane, block), x); });
             }
             return;
         }
         for (int at = first; at < end; at += from.step(8)) {
             from.template transformQuads<forward>(
-                at, 8, [&](int lane, int block, Block<T> x) { storeBlock(place(at, 8, lane, block), x); });
+                at, 8, [&](int lane, int block, Block<T> x) { storeWork(to, place(at, 8, lane, block), x); });
             // The second four points of each group of eight join the first four.
             from.template transformQuads<forward>(at + 4, 8, [&](int lane, int block, Block<T> x) {
-                T* p = place(at, 8, lane, block);
+                const auto p = place(at, 8, lane, block);
                 const auto odd = rotate<forward>(x, TwdTbl_03<T>.block(block * blockLanes<T>));
-                const auto even = loadBlock(p);
-                storeBlock(p, even + odd);
-                storeBlock(p + 8, even - odd);
+                const auto even = loadWork<blockLanes<T>>(to, p);
+                storeWork(to, p, even + odd);
+                storeWork(to, p + 8, even - odd);
             });
         }
     }
@@ -439,8 +452,8 @@ private:
             });
         }
         for (int k = 0; k < blocksPerQuad<T>; ++k) {
-            butterflyOf<forward>([&](int i) { return x[k + i * blocksPerQuad<T>]; }, twd + 3 * width * k,
-                                 [&](int part, Block<T> y) { sink.put(k * width + part * 8, y); });
+            butterflyOf<forward, blockLanes<T>>([&](int i) { return x[k + i * blocksPerQuad<T>]; }, twd + 3 * width * k,
+                                                [&](int part, Block<T> y) { sink.put(k * width + part * 8, y); });
         }
     }
 
