@@ -49,13 +49,13 @@ struct Level {
 constexpr std::size_t line = 64;
 constexpr int longest = 1 << 16;
 
-// An array on a boundary of cache lines, with values from 1 to 2 and signs.
+// An array on a boundary of cache lines, with values from 1 to 2, which may have signs.
 template <typename T>
-T* array()
+T* array(bool isSigned = true)
 {
     T* const p = static_cast<T*>(std::aligned_alloc(line, sizeof(T) * longest));
     for (int i = 0; i < longest; ++i) {
-        const double value = (1 + i % 997 / 997.0) * (i % 3 == 0 ? -1 : 1);
+        const double value = (1 + i % 997 / 997.0) * (isSigned && i % 3 == 0 ? -1 : 1);
         p[i] = static_cast<T>(std::is_integral_v<T> ? 1000 * value : value);
     }
     return p;
@@ -75,7 +75,7 @@ void add(const std::string& name, int n, const std::string& who, const std::func
 template <typename S, typename D, typename Function>
 void addUnary(const std::vector<Level>& levels, const char* name, const char* symbol, Function* /*shape*/, int n)
 {
-    const S* const a = array<S>();
+    const S* const a = array<S>(false);
     D* const d = array<D>();
     for (const Level& level : levels) {
         auto* const f = level.function<Function>(symbol);
@@ -108,6 +108,7 @@ void addElementwise(const std::vector<Level>& levels, int n)
     TARN_UNARY("arctan_32f", tarnsArctan_32f, Tarn32f, Tarn32f);
     TARN_UNARY("convert_16s32f", tarnsConvert_16s32f, Tarn16s, Tarn32f);
     auto* const parts = array<Tarn32f>();
+    auto* const positive = array<Tarn32f>(false);
     auto* const others = array<Tarn32f>();
     auto* const result = array<Tarn32f>();
     auto* const words = array<Tarn16s>();
@@ -147,10 +148,10 @@ void addElementwise(const std::vector<Level>& levels, int n)
     add("add_32f", n, "VOLK", [=] { volk_32f_x2_add_32f(result, parts, others, un); });
     add("mul_32f", n, "VOLK", [=] { volk_32f_x2_multiply_32f(result, parts, others, un); });
     add("div_32f", n, "VOLK", [=] { volk_32f_x2_divide_32f(result, parts, others, un); });
-    add("sqrt_32f", n, "VOLK", [=] { volk_32f_sqrt_32f(result, parts, un); });
-    add("exp_32f", n, "VOLK", [=] { volk_32f_exp_32f(result, parts, un); });
-    add("ln_32f", n, "VOLK", [=] { volk_32f_log2_32f(result, parts, un); });
-    add("arctan_32f", n, "VOLK", [=] { volk_32f_atan_32f(result, parts, un); });
+    add("sqrt_32f", n, "VOLK", [=] { volk_32f_sqrt_32f(result, positive, un); });
+    add("exp_32f", n, "VOLK", [=] { volk_32f_exp_32f(result, positive, un); });
+    add("ln_32f", n, "VOLK", [=] { volk_32f_log2_32f(result, positive, un); });
+    add("arctan_32f", n, "VOLK", [=] { volk_32f_atan_32f(result, positive, un); });
     add("convert_16s32f", n, "VOLK", [=] { volk_16i_s32f_convert_32f(result, words, 1, un); });
     add("convert_32f16s", n, "VOLK", [=] { volk_32f_s32f_convert_16i(wordsOut, parts, 1, un); });
     add("mul_32fc", n, "VOLK", [=] { volk_32fc_x2_multiply_32fc(reinterpret_cast<lv_32fc_t*>(result), zv, wv, un); });

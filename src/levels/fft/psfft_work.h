@@ -28,8 +28,10 @@ TARN_INLINE void storeBlock(T* p, Block<T> x)
 
 // A level's own blocks: their elements, where an element has its real part, and how far from it the imaginary one lies.
 // Elements are named by their place in blocks of blockLanes<T>, in reals, and only the first one of such a block is.
+// Single precision has enough elements in a block of the tables: wider ones cost more for gathering the factors and for
+// what the first pass leaves in pieces than they save, as docs/performance.md shows.
 template <typename T>
-inline constexpr int workLanes = std::max(blockLanes<T>, lanes<T>);
+inline constexpr int workLanes = isDouble<T> ? std::max(blockLanes<T>, lanes<T>) : blockLanes<T>;
 template <typename T>
 TARN_INLINE std::ptrdiff_t placeInWork(std::ptrdiff_t at)
 {
