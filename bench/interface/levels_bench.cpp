@@ -133,7 +133,7 @@ void addElementwise(const std::vector<Level>& levels, int n)
         auto* const sum = TARN_OF(level, tarnsSum_32f);
         auto* const dot = TARN_OF(level, tarnsDotProd_32f);
         auto* const index = TARN_OF(level, tarnsMaxIndx_32f);
-        add("sum_32f", n, level.name, [=] { sum(parts, n, result, tarnAlgHintNone); });
+        add("sum_32f", n, level.name, [=] { sum(parts, n, result, tarnAlgHintFast); });
         add("dotProd_32f", n, level.name, [=] { dot(parts, others, n, result); });
         add("maxIndx_32f", n, level.name, [=] {
             int at;
