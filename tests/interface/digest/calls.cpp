@@ -225,6 +225,10 @@ void Calling::number(const Argument& argument, Slot& slot)
             count = std::max(count, 2 * static_cast<std::size_t>(value));
         if (argument.name == "srcLen" && has(function.name, "WTInv"))
             count = std::max(count, 2 * static_cast<std::size_t>(value));
+        if (argument.name == "tapStep") // between the samples that taps meet, and then some more in the delay line
+            count *= static_cast<std::size_t>(std::max(value, 1));
+        else if (argument.name == "updateDly")
+            count += static_cast<std::size_t>(value);
         if (argument.name == "upFactor" || argument.name == "downFactor")
             manifold = std::max(manifold, static_cast<std::size_t>(std::max(value, 1)));
         if (argument.name == "tapsLen" && has(function.name, "Direct")) // for doubled delay lines

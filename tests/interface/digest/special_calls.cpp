@@ -9,8 +9,10 @@
 #include <array>
 #include <cfenv>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <map>
+#include <string_view>
 
 namespace tarn::test::digest {
 namespace {
@@ -133,6 +135,27 @@ Calls memory(T* (*function)(int))
     };
 }
 
+/// The taps themselves, which lie in the state in opposite order.
+template <class State, class T, class S>
+Calls tapsShown(TarnStatus (*make)(State**, const T*, int, const S*, int, int, int, int), TarnStatus (*free)(State*),
+                TarnStatus (*show)(State*, T**))
+{
+    return [=](Hash& hash) {
+        Random random(4);
+        std::array<T, 20> taps;
+        for (T& tap : taps) {
+            const std::uint64_t bits = random.next();
+            std::memcpy(&tap, &bits, sizeof tap);
+        }
+        State* state = nullptr;
+        make(&state, taps.data(), static_cast<int>(taps.size()), nullptr, 0, 2, 1, 100);
+        T* shown = nullptr;
+        hash.add(static_cast<std::uint64_t>(show(state, &shown)));
+        hash.add(std::string_view(reinterpret_cast<const char*>(shown), sizeof taps));
+        free(state);
+    };
+}
+
 const std::map<std::string, Calls>& specialCalls()
 {
     static const std::map<std::string, Calls> calls = {
@@ -197,6 +220,10 @@ const std::map<std::string, Calls>& specialCalls()
         {"tarnsMalloc_64sc", memory(tarnsMalloc_64sc)},
         {"tarnsMalloc_32fc", memory(tarnsMalloc_32fc)},
         {"tarnsMalloc_64fc", memory(tarnsMalloc_64fc)},
+        {"tarnsFIRLMSMRGetTapsPointer32s_16s",
+         tapsShown(tarnsFIRLMSMRInitAlloc32s_16s, tarnsFIRLMSMRFree32s_16s, tarnsFIRLMSMRGetTapsPointer32s_16s)},
+        {"tarnsFIRLMSMRGetTapsPointer32sc_16sc",
+         tapsShown(tarnsFIRLMSMRInitAlloc32sc_16sc, tarnsFIRLMSMRFree32sc_16sc, tarnsFIRLMSMRGetTapsPointer32sc_16sc)},
         {"tarnsFree", [](Hash&) { tarnsFree(tarnsMalloc_8u(100)); }},
     };
     return calls;
