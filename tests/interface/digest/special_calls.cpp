@@ -1,5 +1,5 @@
-// The core: texts, memory, words of the floating-point units. What the processor tells of itself is asked for and not
-// digested.
+// The core: texts, memory, words of the floating-point units; and the steps of a decoder. What the processor tells of
+// itself is asked for and not digested.
 #include "interface/digest/special_calls.h"
 
 #include "support/fpstate.h"
@@ -71,6 +71,88 @@ void inDefaultEnvironment(Hash& hash, F f)
 Calls wordRead(unsigned (*function)())
 {
     return [=](Hash& hash) { inDefaultEnvironment(hash, function); };
+}
+
+// -- Viterbi decoding, whose tables have the sizes of the trellis
+// ------------------------------------------------------
+
+template <class T, std::size_t count>
+std::array<T, count> anyWords(Random& random, unsigned mask)
+{
+    std::array<T, count> words{};
+    for (T& word : words)
+        word = static_cast<T>(random.next() & mask);
+    return words;
+}
+
+template <class Words>
+void addWords(Hash& hash, const Words& words)
+{
+    for (const auto word : words)
+        hash.add(static_cast<std::uint64_t>(word));
+}
+
+constexpr int trellises[] = {16, 32, 64};
+
+void nearestPoints(Hash& hash)
+{
+    Random random(1);
+    for (int i = 0; i < 300; ++i) {
+        const Tarn16sc point = {static_cast<Tarn16s>(random.next()), static_cast<Tarn16s>(random.next())};
+        const auto map = anyWords<Tarn8u, 16>(random, 0xFF);
+        Tarn16sc base{};
+        std::array<Tarn32u, 8> errors{};
+        hash.add(static_cast<std::uint64_t>(
+            tarnsGetVarPointDV_16sc(&point, &base, errors.data(), map.data(), trellises[i % 3])));
+        addWords(hash, std::array<Tarn16s, 2>{base.re, base.im});
+        addWords(hash, errors);
+    }
+}
+
+void symbolTables(Hash& hash)
+{
+    Random random(1);
+    for (int i = 0; i < 300; ++i) {
+        const auto errors = anyWords<Tarn32u, 16>(random, 0xBFFFF);
+        std::array<Tarn32u, 32> table{};
+        hash.add(static_cast<std::uint64_t>(
+            tarnsBuildSymblTableDV4D_16sc(errors.data(), table.data(), trellises[i % 3], i / 3 % 16)));
+        addWords(hash, table);
+    }
+}
+
+void trellisSteps(Hash& hash)
+{
+    Random random(1);
+    for (int i = 0; i < 300; ++i) {
+        const int states = trellises[i % 3];
+        const auto metrics = anyWords<Tarn16u, 64>(random, i % 2 == 0 ? 0xFFFF : 0x3FFF);
+        const auto next = anyWords<Tarn8u, 64 * 16>(random, static_cast<unsigned>(states - 1));
+        const auto table = anyWords<Tarn32u, 32>(random, i % 4 == 0 ? 0xFFFF0B0B : 0x3FFF0B0B);
+        std::array<Tarn16u, 64> newMetrics;
+        newMetrics.fill(65535);
+        std::array<Tarn32u, 80> survivors{};
+        hash.add(static_cast<std::uint64_t>(tarnsCalcStatesDV_16sc(metrics.data(), next.data(), newMetrics.data(),
+                                                                   table.data(), survivors.data(), states, i % 16)));
+        addWords(hash, newMetrics);
+        addWords(hash, survivors);
+    }
+}
+
+void metricUpdates(Hash& hash)
+{
+    Random random(1);
+    for (int i = 0; i < 300; ++i) {
+        auto newMetrics = anyWords<Tarn16u, 64>(random, i % 2 == 0 ? 0xFFFF : 0x000F);
+        std::array<Tarn16u, 64> metrics{};
+        Tarn16u smallest = 0;
+        Tarn8u state = 0;
+        hash.add(static_cast<std::uint64_t>(
+            tarnsUpdatePathMetricsDV_16u(newMetrics.data(), &smallest, &state, metrics.data(), trellises[i % 3])));
+        addWords(hash, newMetrics);
+        addWords(hash, metrics);
+        addWords(hash, std::array<int, 2>{smallest, state});
+    }
 }
 
 /// Any rounding and precision; exceptions stay masked.
@@ -225,6 +307,10 @@ const std::map<std::string, Calls>& specialCalls()
         {"tarnsFIRLMSMRGetTapsPointer32sc_16sc",
          tapsShown(tarnsFIRLMSMRInitAlloc32sc_16sc, tarnsFIRLMSMRFree32sc_16sc, tarnsFIRLMSMRGetTapsPointer32sc_16sc)},
         {"tarnsFree", [](Hash&) { tarnsFree(tarnsMalloc_8u(100)); }},
+        {"tarnsGetVarPointDV_16sc", nearestPoints},
+        {"tarnsBuildSymblTableDV4D_16sc", symbolTables},
+        {"tarnsCalcStatesDV_16sc", trellisSteps},
+        {"tarnsUpdatePathMetricsDV_16u", metricUpdates},
     };
     return calls;
 }
