@@ -9,3 +9,12 @@ TARN_KERNEL void zplsSin4(const Tarn32f* x, Tarn32f* y);
 TARN_KERNEL void zplsCos4(const Tarn32f* x, Tarn32f* y);
 TARN_KERNEL void zpldSin2(const Tarn64f* x, Tarn64f* y);
 TARN_KERNEL void zpldCos2(const Tarn64f* x, Tarn64f* y);
+
+namespace tarn {
+
+// As many double-precision ones as there are, with the same bits. The control word is looked after once for all of
+// them, and no argument waits for the one before. The results must not lie where the arguments do.
+void sinesOf(const Tarn64f* x, Tarn64f* y, int count);
+void cosinesOf(const Tarn64f* x, Tarn64f* y, int count);
+
+} // namespace tarn

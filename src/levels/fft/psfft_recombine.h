@@ -4,6 +4,7 @@
 
 #include "frame/object.h"
 #include "frame/simd_apart.h"
+#include "frame/simd_move.h"
 #include "levels/fft/psfft_butterflies.h"
 
 namespace tarn::fft {
@@ -12,8 +13,9 @@ template <typename T>
 using Slots = Complex<BlockPart<T>>;
 
 // A table of values (A[k], B[k]) for k from 1 to a quarter of the real length, in blocks of blockLanes<T>: A, then B.
-template <typename T, typename Value>
-inline Owned<T[]> recombinationTable(int order, Value value)
+// They are made of the cosines and sines of k, which stand in the base table.
+template <typename T, typename Values>
+inline Owned<T[]> recombinationTable(int order, const T* base, Values values)
 {
     constexpr int group = blockLanes<T>;
     const long long slots = order <= 3 ? 2 : (1LL << order) / 4;
@@ -26,11 +28,13 @@ inline Owned<T[]> recombinationTable(int order, Value value)
         std::fill_n(table.get(), 2 * slots, T{0});
         return table;
     }
-    for (int i = 0; i < slots; ++i) {
-        const auto [a, b] = value(i + 1);
-        T* block = table.get() + i / group * (2 * group) + i % group;
-        block[0] = a;
-        block[group] = b;
+    const int quarter = (1 << order) / 4;
+    T* block = table.get();
+    for (int k = 1; k <= slots; k += group, block += 2 * group) {
+        const auto [a, b] =
+            values(reverse(loadPack<group>(base + quarter - k - (group - 1))), loadPack<group>(base + k));
+        store(block, a);
+        store(block + group, b);
     }
     return table;
 }
@@ -38,18 +42,20 @@ inline Owned<T[]> recombinationTable(int order, Value value)
 template <typename T>
 inline Owned<T[]> realRecombinationTable(int order, const T* base)
 {
-    const int quarter = (1 << order) / 4;
-    constexpr T half = T{1} / 2;
-    return recombinationTable<T>(order, [=](int k) {
-        return std::pair<T, T>{half * base[quarter - k], -half * base[k] + half};
+    using X = BlockPart<T>;
+    const auto half = splat<X>(T{1} / 2);
+    return recombinationTable(order, base, [=](X cosines, X sines) {
+        return std::pair<X, X>{mul(half, cosines), sub(half, mul(half, sines))};
     });
 }
 
 template <typename T>
 inline Owned<T[]> ccsRecombinationTable(int order, const T* base)
 {
-    const int quarter = (1 << order) / 4;
-    return recombinationTable<T>(order, [=](int k) { return std::pair<T, T>{base[quarter - k], -base[k]}; });
+    using X = BlockPart<T>;
+    return recombinationTable(order, base, [](X cosines, X sines) {
+        return std::pair<X, X>{cosines, invertSigns(sines)};
+    });
 }
 
 // The slots of a rising and a falling index.

@@ -53,12 +53,18 @@ inline T tableEntry(Tarn64f value)
 template <bool sine, typename T, typename Argument>
 inline void fillRun(T* table, int first, int last, Argument argument)
 {
-    for (int i = first; i <= last; i += 2) {
-        const Tarn64f arguments[] = {argument(i), argument(std::min(i + 1, last))};
-        Tarn64f values[2];
-        (sine ? zpldSin2 : zpldCos2)(arguments, values);
-        table[i] = tableEntry<T>(values[0]);
-        table[std::min(i + 1, last)] = tableEntry<T>(values[i < last ? 1 : 0]);
+    constexpr int most = 64;
+    Tarn64f arguments[most];
+    Tarn64f values[most];
+    for (int i = first; i <= last; i += most) {
+        const int count = std::min(most, last + 1 - i);
+        for (int k = 0; k < count; ++k) {
+            arguments[k] = argument(i + k);
+        }
+        (sine ? sinesOf : cosinesOf)(arguments, values, count);
+        for (int k = 0; k < count; ++k) {
+            table[i + k] = tableEntry<T>(values[k]);
+        }
     }
 }
 
@@ -86,7 +92,7 @@ struct Circle {
     int stride;  // entries of the base table from point to point
 
     Circle(const T* base, int baseOrder, int order)
-        : base(base), quarter((1 << baseOrder) / 4), stride(1 << (baseOrder - order))
+        : base(base), quarter((1 << baseOrder) / 4), stride(1 << (baseOrder - order)), quarterOrder(baseOrder - 2)
     {
     }
 
@@ -94,7 +100,7 @@ struct Circle {
     Complex<T> factor(int m) const
     {
         const int at = m * stride;
-        switch ((at - (at > 0)) / quarter) {
+        switch (quadrant(at)) {
         case 0:
             return {base[quarter - at], minus(at)};
         case 1:
@@ -106,7 +112,43 @@ struct Circle {
         }
     }
 
+    // The factors of `count` points from m on, `step` points apart: both parts are entries of the base table in a row,
+    // which changes its place where a right angle ends.
+    template <int count>
+    void factors(int m, int step, T* re, T* im) const
+    {
+        const int at = m * stride;
+        const int by = step * stride;
+        const int where = quadrant(at);
+        if (where > 2 || where != quadrant(at + (count - 1) * by)) {
+            for (int i = 0; i < count; ++i) {
+                const Complex<T> w = factor(m + i * step);
+                re[i] = w.re;
+                im[i] = w.im;
+            }
+        } else if (where == 0) {
+            for (int i = 0; i < count; ++i) {
+                re[i] = base[quarter - (at + i * by)];
+                im[i] = minus(at + i * by);
+            }
+        } else if (where == 1) {
+            for (int i = 0; i < count; ++i) {
+                re[i] = minus(at + i * by - quarter);
+                im[i] = minus(2 * quarter - (at + i * by));
+            }
+        } else {
+            for (int i = 0; i < count; ++i) {
+                re[i] = minus(3 * quarter - (at + i * by));
+                im[i] = base[at + i * by - 2 * quarter];
+            }
+        }
+    }
+
 private:
+    int quarterOrder;
+
+    // A right angle belongs to the one that it ends.
+    int quadrant(int at) const { return (at - (at > 0)) >> quarterOrder; }
     T minus(int entry) const { return static_cast<T>(-base[entry]); }
 };
 
@@ -126,11 +168,7 @@ inline Owned<T[]> stageTable(int order, const T* base, int baseOrder)
         const Circle<T> circle(base, baseOrder, stage);
         for (int k = 0; k < (1 << stage) / 4; k += group) {
             for (int power = 1; power <= 3; ++power, to += 2 * group) {
-                for (int lane = 0; lane < group; ++lane) {
-                    const Complex<T> w = circle.factor(power * (k + lane));
-                    to[lane] = w.re;
-                    to[lane + group] = w.im;
-                }
+                circle.template factors<group>(power * k, power, to, to + group);
             }
         }
     }

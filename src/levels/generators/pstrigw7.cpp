@@ -30,7 +30,32 @@ bool takenAsRests(const Tarn64f* x, Tarn64f* y, OfRest ofRest)
     return true;
 }
 
+template <typename OfRest, typename OfAny>
+void takeAll(const Tarn64f* x, Tarn64f* y, int count, OfRest ofRest, OfAny ofAny)
+{
+    {
+        const StandardArithmetic guard;
+        for (int i = 0; i < count; ++i) {
+            if (isRest(x[i])) {
+                y[i] = ofRest({x[i], 0});
+            }
+        }
+    }
+    for (int i = 0; i < count; ++i) {
+        if (!isRest(x[i])) {
+            y[i] = ofAny(x[i]);
+        }
+    }
+}
+
 } // namespace
+
+namespace tarn {
+
+void sinesOf(const Tarn64f* x, Tarn64f* y, int count) { takeAll(x, y, count, precise::sineOfRest, preciseSine); }
+void cosinesOf(const Tarn64f* x, Tarn64f* y, int count) { takeAll(x, y, count, precise::cosineOfRest, preciseCosine); }
+
+} // namespace tarn
 
 void zplsSin4(const Tarn32f* x, Tarn32f* y)
 {
