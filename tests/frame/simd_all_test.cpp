@@ -41,6 +41,7 @@
 #include "frame/simd_parts.h"
 #include "frame/simd_permute.h"
 #include "frame/simd_round.h"
+#include "frame/simd_saturated.h"
 #include "frame/simd_shuffle.h"
 #include "frame/simd_sign.h"
 #include "frame/two_arrays.h"
