@@ -37,7 +37,7 @@ list(GET blocks 2 tell)
 string(REGEX REPLACE "[^\n]*scripts/setup[^\n]*\n|cmake --preset[^\n]*\n|cmake --build[^\n]*\n|sudo ldconfig\n" "" install "${install}")
 string(REPLACE "sudo cmake --install build/x86-64 --prefix /usr/local" "cmake --install '${BUILD_DIR}' --prefix \"$HOME/tarns\""
     install "${install}")
-string(REPLACE "x86_64-linux-gnu" "${PROCESSOR}" tell "${tell}")
+string(REPLACE "lib/x86_64-linux-gnu" "${LIBDIR}" tell "${tell}")
 if(NOT install MATCHES "^cmake --install [^\n]*\n$")
     message(FATAL_ERROR "the README installs in another way than this test follows: ${install}")
 endif()
