@@ -37,9 +37,9 @@ using Owned = std::unique_ptr<T, Release>;
 template <typename T>
 inline Owned<T[]> allocate(long long count)
 {
-    const long long bytes = count * static_cast<long long>(sizeof(T));
-    constexpr long long largest = 0x7FFFFFFF;
-    return Owned<T[]>(bytes > largest ? nullptr : reinterpret_cast<T*>(tarnsMalloc_8u(static_cast<int>(bytes))));
+    constexpr long long largest = 0x7FFFFFFF / static_cast<long long>(sizeof(T));
+    const int bytes = count > largest ? 0 : static_cast<int>(count * static_cast<long long>(sizeof(T)));
+    return Owned<T[]>(count > largest ? nullptr : reinterpret_cast<T*>(tarnsMalloc_8u(bytes)));
 }
 
 // A new object, all zero but for the identifier; null if there is no memory.

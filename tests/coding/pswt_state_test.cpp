@@ -238,7 +238,7 @@ TEST(WaveletStateTest, GoesOnFromADelayLine)
         joinInCalls(inverse, join.get(), {first, second}, {37, 5});
         ASSERT_EQ(tarnStsNoErr, inverse.getDlyLine(join.get(), lineLow.data(), lineHigh.data()));
         const BankOwner joins(inverse, low, high);
-        joinInCalls(inverse, joins.get(), {second, first}, {3});
+        joinInCalls(inverse, joins.get(), {first, second}, {3}); // as long as the first channel
         ASSERT_EQ(tarnStsNoErr, inverse.setDlyLine(joins.get(), lineLow.data(), lineHigh.data()));
         EXPECT_EQ(joinInCalls(inverse, join.get(), {first, first}, {9, 30}),
                   joinInCalls(inverse, joins.get(), {first, first}, {9, 30}))

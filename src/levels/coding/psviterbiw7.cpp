@@ -226,20 +226,24 @@ void owntarnsBuild4DSymblTable_16sc(const Tarn32u* pSubsetError, Tarn32u* pBranc
     const int entries = numStates == 16 ? 8 : numStates == 32 ? 16 : 32;
     for (int i = 0; i < entries; ++i) {
         Symbols symbols(pSubsetError);
+        // Any inversion is taken as it is, so that sums of its bits may leave the range.
+        const auto joined = [](int k, int a) {
+            return static_cast<int>((static_cast<unsigned>(k) + static_cast<unsigned>(a)) & 3U);
+        };
         const auto considerEight = [&](int k) {
             const int a = k >> 2;
-            const int b = (k + a) & 3;
+            const int b = joined(k, a);
             symbols.consider(a, b);
             symbols.consider((a + 4) & 7, b + 4);
         };
         const int k = i ^ bitInversion;
         if (numStates == 16) {
             const int a = k >> 2;
-            const int b = (k + a) & 3;
+            const int b = joined(k, a);
             symbols.consider(a, b);
             symbols.consider((a + 2) & 3, (b + 2) & 3);
         } else if (numStates == 32) {
-            const int moved = k + 2 * (i & 8);
+            const int moved = static_cast<int>(static_cast<unsigned>(k) + 2U * static_cast<unsigned>(i & 8));
             considerEight(moved ^ 8);
             considerEight(moved);
         } else {

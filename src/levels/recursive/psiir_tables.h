@@ -120,7 +120,8 @@ struct WeightedSum<T, Run> {
     }
     static TARN_INLINE WeightedSum weighted(Run weights, const T* x)
     {
-        return {mul(weights, splat<Run>(loadElement(&x->re))), mul(weights, splat<Run>(loadElement(&x->im)))};
+        const auto* const parts = reinterpret_cast<const Part<T>*>(x);
+        return {mul(weights, splat<Run>(loadElement(parts))), mul(weights, splat<Run>(loadElement(parts + 1)))};
     }
     TARN_INLINE WeightedSum operator+(WeightedSum other) const
     {

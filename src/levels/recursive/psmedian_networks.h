@@ -93,7 +93,7 @@ public:
     }
 
 private:
-    T medians[most];
+    T medians[most] = {};
     int first;
     int count;
 };
