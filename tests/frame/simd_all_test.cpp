@@ -88,7 +88,9 @@ TEST(Vocabulary, PacksFillRegisters)
     EXPECT_EQ(1, (registersOf<Tarn32f, registerLanes<Tarn32f>>()));
     EXPECT_EQ(2, (registersOf<Tarn32f, 2 * registerLanes<Tarn32f>>()));
     EXPECT_EQ(8, (registersOf<Tarn64fc, 8 * registerLanes<Tarn64fc>>()));
-    EXPECT_EQ(TARNS_VECTOR_REGISTERS, (registersOf<Tarn16s, lanes<Tarn16s>>()));
+    // A level's registers may be wider than the smallest.
+    EXPECT_EQ(0, (registersOf<Tarn16s, lanes<Tarn16s>>()) % TARNS_VECTOR_REGISTERS);
+    EXPECT_EQ(vectorBytes, static_cast<int>(sizeof(Vector<Tarn16s>)));
     EXPECT_EQ(vectorBytes, static_cast<int>(sizeof(Vector<Tarn8u>)));
     EXPECT_EQ(3 * vectorBytes, static_cast<int>(sizeof(Pack<Stored24, lanes<Stored24>>)));
 }
