@@ -43,16 +43,26 @@ TARNS_FILTERS(std::complex<double>, std::complex<double>, _64fc, _BiQuad_64fc, ,
 TARNS_FILTERS(std::int16_t, float, 32f_16s, 32f_BiQuad_16s, _Sfs, _ISfs)
 #undef TARNS_FILTERS
 
-/// One array is filtered in place: out of place the source must not be overwritten.
-template <class State, class T, class Function, class InPlace, class... Scale>
-Warning filterBlock(Function function, InPlace inPlace, std::span<const T> samples, std::span<T> filtered, State* state,
-                    Scale... scale)
+/// With the scale factor where the samples have one.
+template <class T, class Call>
+Warning withScale(int scaleFactor, Call call)
 {
-    if (!sameSize(samples, filtered))
-        return warning(tarnStsSizeErr);
-    if (samples.data() == filtered.data())
-        return warning(inPlace(elements(filtered), count(filtered), state, scale...));
-    return warning(function(elements(samples), elements(filtered), count(samples), state, scale...));
+    if constexpr (FilterCalls<T>::scaled)
+        return call(scaleFactor);
+    else
+        return call();
+}
+
+/// One array is filtered in place: out of place the source must not be overwritten.
+template <class T, class Function, class InPlace, class State>
+Warning filterBlock(Function function, InPlace inPlace, std::span<const T> samples, std::span<T> filtered, State* state,
+                    int scaleFactor)
+{
+    return withScale<T>(scaleFactor, [&](auto... scale) {
+        if (samples.data() == filtered.data() && samples.size() == filtered.size())
+            return call(inPlace, filtered, length, state, scale...);
+        return call(function, samples, filtered, length, state, scale...);
+    });
 }
 
 inline int lengthOf(std::size_t size) noexcept
@@ -91,14 +101,9 @@ public:
     std::size_t size() const noexcept { return size_; }
 
     /// Filters a block; `samples` and `filtered` may be one array. 16-bit results are scaled by 2^-scaleFactor.
-    Warning operator()(std::span<const T> samples, std::span<T> filtered, [[maybe_unused]] int scaleFactor = 0)
+    Warning operator()(std::span<const T> samples, std::span<T> filtered, int scaleFactor = 0)
     {
-        if constexpr (Calls::scaled)
-            return detail::filterBlock<typename Calls::Fir, T>(Calls::fir, Calls::firInPlace, samples, filtered,
-                                                               state_.get(), scaleFactor);
-        else
-            return detail::filterBlock<typename Calls::Fir, T>(Calls::fir, Calls::firInPlace, samples, filtered,
-                                                               state_.get());
+        return detail::filterBlock<T>(Calls::fir, Calls::firInPlace, samples, filtered, state_.get(), scaleFactor);
     }
 
     /// As many taps as before.
@@ -153,17 +158,15 @@ public:
     }
 
     /// `samples` are a multiple of `down`, and `resampled` as many times `up` / `down`.
-    Warning operator()(std::span<const T> samples, std::span<T> resampled, [[maybe_unused]] int scaleFactor = 0)
+    Warning operator()(std::span<const T> samples, std::span<T> resampled, int scaleFactor = 0)
     {
         const std::size_t times = down_ > 0 ? samples.size() / down_ : 0;
         if (samples.size() != times * down_ || resampled.size() != times * up_)
             return detail::warning(tarnStsSizeErr);
-        if constexpr (Calls::scaled)
-            return detail::warning(
-                Calls::fir(samples.data(), resampled.data(), detail::lengthOf(times), state_.get(), scaleFactor));
-        else
+        return detail::withScale<T>(scaleFactor, [&](auto... scale) {
             return detail::warning(Calls::fir(detail::elements(samples), detail::elements(resampled),
-                                              detail::lengthOf(times), state_.get()));
+                                              detail::lengthOf(times), state_.get(), scale...));
+        });
     }
 
 private:
@@ -183,13 +186,9 @@ public:
     using Tap = typename Calls::Tap;
 
     /// Filters a block; `samples` and `filtered` may be one array. 16-bit results are scaled by 2^-scaleFactor.
-    Warning operator()(std::span<const T> samples, std::span<T> filtered, [[maybe_unused]] int scaleFactor = 0)
+    Warning operator()(std::span<const T> samples, std::span<T> filtered, int scaleFactor = 0)
     {
-        if constexpr (Calls::scaled)
-            return filterBlock<typename Calls::Iir, T>(Calls::iir, Calls::iirInPlace, samples, filtered, state_.get(),
-                                                       scaleFactor);
-        else
-            return filterBlock<typename Calls::Iir, T>(Calls::iir, Calls::iirInPlace, samples, filtered, state_.get());
+        return filterBlock<T>(Calls::iir, Calls::iirInPlace, samples, filtered, state_.get(), scaleFactor);
     }
 
     /// Elements of the delay line, which is that of the transposed direct form II.

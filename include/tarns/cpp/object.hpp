@@ -30,26 +30,11 @@ inline TarnStatus allocate(int bytes, Buffer& buffer)
     return bytes > 0 && !buffer ? tarnStsNoMemErr : tarnStsNoErr;
 }
 
-/// The type in which the C interface has an element.
-template <class T>
-struct InC {
-    using Type = T;
-};
-template <>
-struct InC<std::complex<float>> {
-    using Type = Tarn32fc;
-};
-template <>
-struct InC<std::complex<double>> {
-    using Type = Tarn64fc;
-};
-template <class T>
-using CType = typename InC<T>::Type;
-
-template <class T, std::size_t extent>
-auto elements(std::span<T, extent> span) noexcept
+/// A call of an object for arrays of `size` elements.
+template <class Function, class Array, class... Arguments>
+Warning callOf(std::size_t size, Function function, Array array, const Arguments&... arguments)
 {
-    return data<CType<std::remove_const_t<T>>>(span);
+    return array.size() == size ? call(function, array, arguments...) : warning(tarnStsSizeErr);
 }
 
 } // namespace tarns::detail

@@ -172,16 +172,12 @@ public:
 
     Warning forward(std::span<const T> samples, std::span<T> coefficients)
     {
-        return detail::warning(samples.size() == size_ && coefficients.size() == size_
-                                   ? Calls::forward(samples.data(), coefficients.data(), forward_.get(), buffer_.get())
-                                   : tarnStsSizeErr);
+        return detail::callOf(size_, Calls::forward, samples, coefficients, forward_.get(), buffer_.get());
     }
 
     Warning inverse(std::span<const T> coefficients, std::span<T> samples)
     {
-        return detail::warning(samples.size() == size_ && coefficients.size() == size_
-                                   ? Calls::inverse(coefficients.data(), samples.data(), inverse_.get(), buffer_.get())
-                                   : tarnStsSizeErr);
+        return detail::callOf(size_, Calls::inverse, coefficients, samples, inverse_.get(), buffer_.get());
     }
 
 private:
@@ -214,9 +210,7 @@ public:
 
     Warning operator()(std::span<const float> samples, std::span<std::complex<float>> signal) const
     {
-        return detail::warning(samples.size() == size_ && signal.size() == size_
-                                   ? tarnsHilbert_32f32fc(samples.data(), detail::elements(signal), spec_.get())
-                                   : tarnStsSizeErr);
+        return detail::callOf(size_, tarnsHilbert_32f32fc, samples, signal, spec_.get());
     }
 
 private:

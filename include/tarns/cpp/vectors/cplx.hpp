@@ -1,5 +1,5 @@
-// Written by scripts/cpp-face from <tarns/cplx.h>; changes go there. Every function calls the one of the C interface
-// that its comment names, whose documentation tells the rest.
+// Written by scripts/cpp-face from <tarns/cplx.h>; changes go there. Every function calls one of the C interface, whose
+// documentation tells the rest.
 #pragma once
 
 #include <tarns/cpp/face.hpp>
@@ -7,172 +7,85 @@
 namespace tarns {
 
 // Conjugates:
-
-/// tarnsConj_16sc
 inline Warning conj(std::span<const Tarn16sc> src, std::span<Tarn16sc> dst)
 {
-    return detail::warning(detail::sameSize(src, dst) ? tarnsConj_16sc(detail::data<Tarn16sc>(src),
-                                                                       detail::data<Tarn16sc>(dst), detail::count(src))
-                                                      : tarnStsSizeErr);
+    return detail::call(tarnsConj_16sc, src, dst, detail::length);
 }
-
-/// tarnsConj_32fc
 inline Warning conj(std::span<const std::complex<float>> src, std::span<std::complex<float>> dst)
 {
-    return detail::warning(detail::sameSize(src, dst) ? tarnsConj_32fc(detail::data<Tarn32fc>(src),
-                                                                       detail::data<Tarn32fc>(dst), detail::count(src))
-                                                      : tarnStsSizeErr);
+    return detail::call(tarnsConj_32fc, src, dst, detail::length);
 }
-
-/// tarnsConj_64fc
 inline Warning conj(std::span<const std::complex<double>> src, std::span<std::complex<double>> dst)
 {
-    return detail::warning(detail::sameSize(src, dst) ? tarnsConj_64fc(detail::data<Tarn64fc>(src),
-                                                                       detail::data<Tarn64fc>(dst), detail::count(src))
-                                                      : tarnStsSizeErr);
+    return detail::call(tarnsConj_64fc, src, dst, detail::length);
 }
-
-/// tarnsConj_16sc_I
-inline Warning conj(std::span<Tarn16sc> srcDst)
-{
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsConj_16sc_I(detail::data<Tarn16sc>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
-}
-
-/// tarnsConj_32fc_I
+inline Warning conj(std::span<Tarn16sc> srcDst) { return detail::call(tarnsConj_16sc_I, srcDst, detail::length); }
 inline Warning conj(std::span<std::complex<float>> srcDst)
 {
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsConj_32fc_I(detail::data<Tarn32fc>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsConj_32fc_I, srcDst, detail::length);
 }
-
-/// tarnsConj_64fc_I
 inline Warning conj(std::span<std::complex<double>> srcDst)
 {
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsConj_64fc_I(detail::data<Tarn64fc>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsConj_64fc_I, srcDst, detail::length);
 }
 
 // Real parts:
-
-/// tarnsReal_16sc
 inline Warning real(std::span<const Tarn16sc> src, std::span<std::int16_t> dstRe)
 {
-    return detail::warning(
-        detail::sameSize(src, dstRe)
-            ? tarnsReal_16sc(detail::data<Tarn16sc>(src), detail::data<Tarn16s>(dstRe), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsReal_16sc, src, dstRe, detail::length);
 }
-
-/// tarnsReal_32fc
 inline Warning real(std::span<const std::complex<float>> src, std::span<float> dstRe)
 {
-    return detail::warning(
-        detail::sameSize(src, dstRe)
-            ? tarnsReal_32fc(detail::data<Tarn32fc>(src), detail::data<Tarn32f>(dstRe), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsReal_32fc, src, dstRe, detail::length);
 }
-
-/// tarnsReal_64fc
 inline Warning real(std::span<const std::complex<double>> src, std::span<double> dstRe)
 {
-    return detail::warning(
-        detail::sameSize(src, dstRe)
-            ? tarnsReal_64fc(detail::data<Tarn64fc>(src), detail::data<Tarn64f>(dstRe), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsReal_64fc, src, dstRe, detail::length);
 }
 
 // Imaginary parts:
-
-/// tarnsImag_16sc
 inline Warning imag(std::span<const Tarn16sc> src, std::span<std::int16_t> dstIm)
 {
-    return detail::warning(
-        detail::sameSize(src, dstIm)
-            ? tarnsImag_16sc(detail::data<Tarn16sc>(src), detail::data<Tarn16s>(dstIm), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsImag_16sc, src, dstIm, detail::length);
 }
-
-/// tarnsImag_32fc
 inline Warning imag(std::span<const std::complex<float>> src, std::span<float> dstIm)
 {
-    return detail::warning(
-        detail::sameSize(src, dstIm)
-            ? tarnsImag_32fc(detail::data<Tarn32fc>(src), detail::data<Tarn32f>(dstIm), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsImag_32fc, src, dstIm, detail::length);
 }
-
-/// tarnsImag_64fc
 inline Warning imag(std::span<const std::complex<double>> src, std::span<double> dstIm)
 {
-    return detail::warning(
-        detail::sameSize(src, dstIm)
-            ? tarnsImag_64fc(detail::data<Tarn64fc>(src), detail::data<Tarn64f>(dstIm), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsImag_64fc, src, dstIm, detail::length);
 }
 
 // Takes a complex vector apart:
-
-/// tarnsCplxToReal_16sc
 inline Warning cplxToReal(std::span<const Tarn16sc> src, std::span<std::int16_t> dstRe, std::span<std::int16_t> dstIm)
 {
-    return detail::warning(detail::sameSize(src, dstRe, dstIm)
-                               ? tarnsCplxToReal_16sc(detail::data<Tarn16sc>(src), detail::data<Tarn16s>(dstRe),
-                                                      detail::data<Tarn16s>(dstIm), detail::count(src))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsCplxToReal_16sc, src, dstRe, dstIm, detail::length);
 }
-
-/// tarnsCplxToReal_32fc
 inline Warning cplxToReal(std::span<const std::complex<float>> src, std::span<float> dstRe, std::span<float> dstIm)
 {
-    return detail::warning(detail::sameSize(src, dstRe, dstIm)
-                               ? tarnsCplxToReal_32fc(detail::data<Tarn32fc>(src), detail::data<Tarn32f>(dstRe),
-                                                      detail::data<Tarn32f>(dstIm), detail::count(src))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsCplxToReal_32fc, src, dstRe, dstIm, detail::length);
 }
-
-/// tarnsCplxToReal_64fc
 inline Warning cplxToReal(std::span<const std::complex<double>> src, std::span<double> dstRe, std::span<double> dstIm)
 {
-    return detail::warning(detail::sameSize(src, dstRe, dstIm)
-                               ? tarnsCplxToReal_64fc(detail::data<Tarn64fc>(src), detail::data<Tarn64f>(dstRe),
-                                                      detail::data<Tarn64f>(dstIm), detail::count(src))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsCplxToReal_64fc, src, dstRe, dstIm, detail::length);
 }
 
 // Puts a complex vector together:
-
-/// tarnsRealToCplx_16s
 inline Warning realToCplx(std::span<const std::int16_t> srcRe, std::span<const std::int16_t> srcIm,
                           std::span<Tarn16sc> dst)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsRealToCplx_16s(detail::data<Tarn16s>(srcRe), detail::data<Tarn16s>(srcIm),
-                                                     detail::data<Tarn16sc>(dst), detail::count(srcRe))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsRealToCplx_16s, srcRe, srcIm, dst, detail::length);
 }
-
-/// tarnsRealToCplx_32f
 inline Warning realToCplx(std::span<const float> srcRe, std::span<const float> srcIm,
                           std::span<std::complex<float>> dst)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsRealToCplx_32f(detail::data<Tarn32f>(srcRe), detail::data<Tarn32f>(srcIm),
-                                                     detail::data<Tarn32fc>(dst), detail::count(srcRe))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsRealToCplx_32f, srcRe, srcIm, dst, detail::length);
 }
-
-/// tarnsRealToCplx_64f
 inline Warning realToCplx(std::span<const double> srcRe, std::span<const double> srcIm,
                           std::span<std::complex<double>> dst)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsRealToCplx_64f(detail::data<Tarn64f>(srcRe), detail::data<Tarn64f>(srcIm),
-                                                     detail::data<Tarn64fc>(dst), detail::count(srcRe))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsRealToCplx_64f, srcRe, srcIm, dst, detail::length);
 }
 
 } // namespace tarns

@@ -1,5 +1,5 @@
-// Written by scripts/cpp-face from <tarns/exponential.h>; changes go there. Every function calls the one of the C
-// interface that its comment names, whose documentation tells the rest.
+// Written by scripts/cpp-face from <tarns/exponential.h>; changes go there. Every function calls one of the C
+// interface, whose documentation tells the rest.
 #pragma once
 
 #include <tarns/cpp/face.hpp>
@@ -7,238 +7,105 @@
 namespace tarns {
 
 // Exponential of floats:
-
-/// tarnsExp_32f
 inline Warning exp(std::span<const float> src, std::span<float> dst)
 {
-    return detail::warning(detail::sameSize(src, dst) ? tarnsExp_32f(detail::data<Tarn32f>(src),
-                                                                     detail::data<Tarn32f>(dst), detail::count(src))
-                                                      : tarnStsSizeErr);
+    return detail::call(tarnsExp_32f, src, dst, detail::length);
 }
-
-/// tarnsExp_64f
 inline Warning exp(std::span<const double> src, std::span<double> dst)
 {
-    return detail::warning(detail::sameSize(src, dst) ? tarnsExp_64f(detail::data<Tarn64f>(src),
-                                                                     detail::data<Tarn64f>(dst), detail::count(src))
-                                                      : tarnStsSizeErr);
+    return detail::call(tarnsExp_64f, src, dst, detail::length);
 }
-
-/// tarnsExp_32f64f
 inline Warning exp(std::span<const float> src, std::span<double> dst)
 {
-    return detail::warning(detail::sameSize(src, dst) ? tarnsExp_32f64f(detail::data<Tarn32f>(src),
-                                                                        detail::data<Tarn64f>(dst), detail::count(src))
-                                                      : tarnStsSizeErr);
+    return detail::call(tarnsExp_32f64f, src, dst, detail::length);
 }
-
-/// tarnsExp_32f_I
-inline Warning exp(std::span<float> srcDst)
-{
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsExp_32f_I(detail::data<Tarn32f>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
-}
-
-/// tarnsExp_64f_I
-inline Warning exp(std::span<double> srcDst)
-{
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsExp_64f_I(detail::data<Tarn64f>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
-}
+inline Warning exp(std::span<float> srcDst) { return detail::call(tarnsExp_32f_I, srcDst, detail::length); }
+inline Warning exp(std::span<double> srcDst) { return detail::call(tarnsExp_64f_I, srcDst, detail::length); }
 
 // Exponential of integers:
-
-/// tarnsExp_16s_Sfs
 inline Warning exp(std::span<const std::int16_t> src, std::span<std::int16_t> dst, int scaleFactor)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsExp_16s_Sfs(detail::data<Tarn16s>(src), detail::data<Tarn16s>(dst), detail::count(src), scaleFactor)
-            : tarnStsSizeErr);
+    return detail::call(tarnsExp_16s_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarnsExp_32s_Sfs
 inline Warning exp(std::span<const std::int32_t> src, std::span<std::int32_t> dst, int scaleFactor)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsExp_32s_Sfs(detail::data<Tarn32s>(src), detail::data<Tarn32s>(dst), detail::count(src), scaleFactor)
-            : tarnStsSizeErr);
+    return detail::call(tarnsExp_32s_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarnsExp_64s_Sfs
 inline Warning exp(std::span<const std::int64_t> src, std::span<std::int64_t> dst, int scaleFactor)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsExp_64s_Sfs(detail::data<Tarn64s>(src), detail::data<Tarn64s>(dst), detail::count(src), scaleFactor)
-            : tarnStsSizeErr);
+    return detail::call(tarnsExp_64s_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarnsExp_16s_ISfs
 inline Warning exp(std::span<std::int16_t> srcDst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsExp_16s_ISfs(detail::data<Tarn16s>(srcDst), detail::count(srcDst), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsExp_16s_ISfs, srcDst, detail::length, scaleFactor);
 }
-
-/// tarnsExp_32s_ISfs
 inline Warning exp(std::span<std::int32_t> srcDst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsExp_32s_ISfs(detail::data<Tarn32s>(srcDst), detail::count(srcDst), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsExp_32s_ISfs, srcDst, detail::length, scaleFactor);
 }
-
-/// tarnsExp_64s_ISfs
 inline Warning exp(std::span<std::int64_t> srcDst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsExp_64s_ISfs(detail::data<Tarn64s>(srcDst), detail::count(srcDst), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsExp_64s_ISfs, srcDst, detail::length, scaleFactor);
 }
 
 // Natural logarithm of floats:
-
-/// tarnsLn_32f
 inline Warning ln(std::span<const float> src, std::span<float> dst)
 {
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarnsLn_32f(detail::data<Tarn32f>(src), detail::data<Tarn32f>(dst), detail::count(src))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsLn_32f, src, dst, detail::length);
 }
-
-/// tarnsLn_64f
 inline Warning ln(std::span<const double> src, std::span<double> dst)
 {
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarnsLn_64f(detail::data<Tarn64f>(src), detail::data<Tarn64f>(dst), detail::count(src))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsLn_64f, src, dst, detail::length);
 }
-
-/// tarnsLn_64f32f
 inline Warning ln(std::span<const double> src, std::span<float> dst)
 {
-    return detail::warning(detail::sameSize(src, dst) ? tarnsLn_64f32f(detail::data<Tarn64f>(src),
-                                                                       detail::data<Tarn32f>(dst), detail::count(src))
-                                                      : tarnStsSizeErr);
+    return detail::call(tarnsLn_64f32f, src, dst, detail::length);
 }
-
-/// tarnsLn_32f_I
-inline Warning ln(std::span<float> srcDst)
-{
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsLn_32f_I(detail::data<Tarn32f>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
-}
-
-/// tarnsLn_64f_I
-inline Warning ln(std::span<double> srcDst)
-{
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsLn_64f_I(detail::data<Tarn64f>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
-}
+inline Warning ln(std::span<float> srcDst) { return detail::call(tarnsLn_32f_I, srcDst, detail::length); }
+inline Warning ln(std::span<double> srcDst) { return detail::call(tarnsLn_64f_I, srcDst, detail::length); }
 
 // Natural logarithm of integers:
-
-/// tarnsLn_16s_Sfs
 inline Warning ln(std::span<const std::int16_t> src, std::span<std::int16_t> dst, int scaleFactor)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsLn_16s_Sfs(detail::data<Tarn16s>(src), detail::data<Tarn16s>(dst), detail::count(src), scaleFactor)
-            : tarnStsSizeErr);
+    return detail::call(tarnsLn_16s_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarnsLn_32s_Sfs
 inline Warning ln(std::span<const std::int32_t> src, std::span<std::int32_t> dst, int scaleFactor)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsLn_32s_Sfs(detail::data<Tarn32s>(src), detail::data<Tarn32s>(dst), detail::count(src), scaleFactor)
-            : tarnStsSizeErr);
+    return detail::call(tarnsLn_32s_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarnsLn_32s16s_Sfs
 inline Warning ln(std::span<const std::int32_t> src, std::span<std::int16_t> dst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarnsLn_32s16s_Sfs(detail::data<Tarn32s>(src), detail::data<Tarn16s>(dst),
-                                                    detail::count(src), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsLn_32s16s_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarnsLn_16s_ISfs
 inline Warning ln(std::span<std::int16_t> srcDst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsLn_16s_ISfs(detail::data<Tarn16s>(srcDst), detail::count(srcDst), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsLn_16s_ISfs, srcDst, detail::length, scaleFactor);
 }
-
-/// tarnsLn_32s_ISfs
 inline Warning ln(std::span<std::int32_t> srcDst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsLn_32s_ISfs(detail::data<Tarn32s>(srcDst), detail::count(srcDst), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsLn_32s_ISfs, srcDst, detail::length, scaleFactor);
 }
 
 // Decibels of a power:
-
-/// tarns10Log10_32s_Sfs
 inline Warning tenLog10(std::span<const std::int32_t> src, std::span<std::int32_t> dst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarns10Log10_32s_Sfs(detail::data<Tarn32s>(src), detail::data<Tarn32s>(dst),
-                                                      detail::count(src), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarns10Log10_32s_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarns10Log10_32s_ISfs
 inline Warning tenLog10(std::span<std::int32_t> srcDst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(srcDst) ? tarns10Log10_32s_ISfs(detail::data<Tarn32s>(srcDst),
-                                                                            detail::count(srcDst), scaleFactor)
-                                                    : tarnStsSizeErr);
+    return detail::call(tarns10Log10_32s_ISfs, srcDst, detail::length, scaleFactor);
 }
 
 // Arctangent:
-
-/// tarnsArctan_32f
 inline Warning arctan(std::span<const float> src, std::span<float> dst)
 {
-    return detail::warning(detail::sameSize(src, dst) ? tarnsArctan_32f(detail::data<Tarn32f>(src),
-                                                                        detail::data<Tarn32f>(dst), detail::count(src))
-                                                      : tarnStsSizeErr);
+    return detail::call(tarnsArctan_32f, src, dst, detail::length);
 }
-
-/// tarnsArctan_64f
 inline Warning arctan(std::span<const double> src, std::span<double> dst)
 {
-    return detail::warning(detail::sameSize(src, dst) ? tarnsArctan_64f(detail::data<Tarn64f>(src),
-                                                                        detail::data<Tarn64f>(dst), detail::count(src))
-                                                      : tarnStsSizeErr);
+    return detail::call(tarnsArctan_64f, src, dst, detail::length);
 }
-
-/// tarnsArctan_32f_I
-inline Warning arctan(std::span<float> srcDst)
-{
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsArctan_32f_I(detail::data<Tarn32f>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
-}
-
-/// tarnsArctan_64f_I
-inline Warning arctan(std::span<double> srcDst)
-{
-    return detail::warning(detail::sameSize(srcDst)
-                               ? tarnsArctan_64f_I(detail::data<Tarn64f>(srcDst), detail::count(srcDst))
-                               : tarnStsSizeErr);
-}
+inline Warning arctan(std::span<float> srcDst) { return detail::call(tarnsArctan_32f_I, srcDst, detail::length); }
+inline Warning arctan(std::span<double> srcDst) { return detail::call(tarnsArctan_64f_I, srcDst, detail::length); }
 
 } // namespace tarns

@@ -1,5 +1,5 @@
-// Written by scripts/cpp-face from <tarns/generators.h>; changes go there. Every function calls the one of the C
-// interface that its comment names, whose documentation tells the rest.
+// Written by scripts/cpp-face from <tarns/generators.h>; changes go there. Every function calls one of the C interface,
+// whose documentation tells the rest.
 #pragma once
 
 #include <tarns/cpp/face.hpp>
@@ -7,158 +7,85 @@
 namespace tarns {
 
 // Writes a sinusoid with fixed-point parameters:
-
-/// tarnsToneQ15_Direct_16s
 inline Warning toneQ15Direct(std::span<std::int16_t> dst, std::int16_t magn, std::int16_t rFreqQ15,
                              std::int32_t phaseQ15)
 {
-    return detail::warning(detail::sameSize(dst) ? tarnsToneQ15_Direct_16s(detail::data<Tarn16s>(dst),
-                                                                           detail::count(dst), magn, rFreqQ15, phaseQ15)
-                                                 : tarnStsSizeErr);
+    return detail::call(tarnsToneQ15_Direct_16s, dst, detail::length, magn, rFreqQ15, phaseQ15);
 }
 
 // Writes a triangle wave with fixed-point parameters.
-
-/// tarnsTriangleQ15_Direct_16s
 inline Warning triangleQ15Direct(std::span<std::int16_t> dst, std::int16_t magn, std::int16_t rFreqQ15,
                                  std::int32_t phaseQ15, std::int32_t asymQ15)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsTriangleQ15_Direct_16s(detail::data<Tarn16s>(dst), detail::count(dst), magn,
-                                                             rFreqQ15, phaseQ15, asymQ15)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsTriangleQ15_Direct_16s, dst, detail::length, magn, rFreqQ15, phaseQ15, asymQ15);
 }
 
 // Writes a straight line:
-
-/// tarnsVectorRamp_8u
 inline Warning vectorRamp(std::span<std::uint8_t> dst, float offset, float slope)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorRamp_8u(detail::data<Tarn8u>(dst), detail::count(dst), offset, slope)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorRamp_8u, dst, detail::length, offset, slope);
 }
-
-/// tarnsVectorRamp_8s
 inline Warning vectorRamp(std::span<std::int8_t> dst, float offset, float slope)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorRamp_8s(detail::data<Tarn8s>(dst), detail::count(dst), offset, slope)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorRamp_8s, dst, detail::length, offset, slope);
 }
-
-/// tarnsVectorRamp_16u
 inline Warning vectorRamp(std::span<std::uint16_t> dst, float offset, float slope)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorRamp_16u(detail::data<Tarn16u>(dst), detail::count(dst), offset, slope)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorRamp_16u, dst, detail::length, offset, slope);
 }
-
-/// tarnsVectorRamp_16s
 inline Warning vectorRamp(std::span<std::int16_t> dst, float offset, float slope)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorRamp_16s(detail::data<Tarn16s>(dst), detail::count(dst), offset, slope)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorRamp_16s, dst, detail::length, offset, slope);
 }
-
-/// tarnsVectorRamp_32u
 inline Warning vectorRamp(std::span<std::uint32_t> dst, float offset, float slope)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorRamp_32u(detail::data<Tarn32u>(dst), detail::count(dst), offset, slope)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorRamp_32u, dst, detail::length, offset, slope);
 }
-
-/// tarnsVectorRamp_32s
 inline Warning vectorRamp(std::span<std::int32_t> dst, float offset, float slope)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorRamp_32s(detail::data<Tarn32s>(dst), detail::count(dst), offset, slope)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorRamp_32s, dst, detail::length, offset, slope);
 }
-
-/// tarnsVectorRamp_32f
 inline Warning vectorRamp(std::span<float> dst, float offset, float slope)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorRamp_32f(detail::data<Tarn32f>(dst), detail::count(dst), offset, slope)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorRamp_32f, dst, detail::length, offset, slope);
 }
-
-/// tarnsVectorRamp_64f
 inline Warning vectorRamp(std::span<double> dst, float offset, float slope)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorRamp_64f(detail::data<Tarn64f>(dst), detail::count(dst), offset, slope)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorRamp_64f, dst, detail::length, offset, slope);
 }
 
 // Writes the Jaehne signal:
-
-/// tarnsVectorJaehne_8u
 inline Warning vectorJaehne(std::span<std::uint8_t> dst, std::uint8_t magn)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorJaehne_8u(detail::data<Tarn8u>(dst), detail::count(dst), magn)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorJaehne_8u, dst, detail::length, magn);
 }
-
-/// tarnsVectorJaehne_8s
 inline Warning vectorJaehne(std::span<std::int8_t> dst, std::int8_t magn)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorJaehne_8s(detail::data<Tarn8s>(dst), detail::count(dst), magn)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorJaehne_8s, dst, detail::length, magn);
 }
-
-/// tarnsVectorJaehne_16u
 inline Warning vectorJaehne(std::span<std::uint16_t> dst, std::uint16_t magn)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorJaehne_16u(detail::data<Tarn16u>(dst), detail::count(dst), magn)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorJaehne_16u, dst, detail::length, magn);
 }
-
-/// tarnsVectorJaehne_16s
 inline Warning vectorJaehne(std::span<std::int16_t> dst, std::int16_t magn)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorJaehne_16s(detail::data<Tarn16s>(dst), detail::count(dst), magn)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorJaehne_16s, dst, detail::length, magn);
 }
-
-/// tarnsVectorJaehne_32u
 inline Warning vectorJaehne(std::span<std::uint32_t> dst, std::uint32_t magn)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorJaehne_32u(detail::data<Tarn32u>(dst), detail::count(dst), magn)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorJaehne_32u, dst, detail::length, magn);
 }
-
-/// tarnsVectorJaehne_32s
 inline Warning vectorJaehne(std::span<std::int32_t> dst, std::int32_t magn)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorJaehne_32s(detail::data<Tarn32s>(dst), detail::count(dst), magn)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorJaehne_32s, dst, detail::length, magn);
 }
-
-/// tarnsVectorJaehne_32f
 inline Warning vectorJaehne(std::span<float> dst, float magn)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorJaehne_32f(detail::data<Tarn32f>(dst), detail::count(dst), magn)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorJaehne_32f, dst, detail::length, magn);
 }
-
-/// tarnsVectorJaehne_64f
 inline Warning vectorJaehne(std::span<double> dst, double magn)
 {
-    return detail::warning(detail::sameSize(dst)
-                               ? tarnsVectorJaehne_64f(detail::data<Tarn64f>(dst), detail::count(dst), magn)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsVectorJaehne_64f, dst, detail::length, magn);
 }
 
 } // namespace tarns

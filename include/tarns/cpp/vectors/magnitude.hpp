@@ -1,5 +1,5 @@
-// Written by scripts/cpp-face from <tarns/magnitude.h>; changes go there. Every function calls the one of the C
-// interface that its comment names, whose documentation tells the rest.
+// Written by scripts/cpp-face from <tarns/magnitude.h>; changes go there. Every function calls one of the C interface,
+// whose documentation tells the rest.
 #pragma once
 
 #include <tarns/cpp/face.hpp>
@@ -7,174 +7,84 @@
 namespace tarns {
 
 // Magnitudes:
-
-/// tarnsMagnitude_16s_Sfs
 inline Warning magnitude(std::span<const std::int16_t> srcRe, std::span<const std::int16_t> srcIm,
                          std::span<std::int16_t> dst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsMagnitude_16s_Sfs(detail::data<Tarn16s>(srcRe), detail::data<Tarn16s>(srcIm),
-                                                        detail::data<Tarn16s>(dst), detail::count(srcRe), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsMagnitude_16s_Sfs, srcRe, srcIm, dst, detail::length, scaleFactor);
 }
-
-/// tarnsMagnitude_16sc_Sfs
 inline Warning magnitude(std::span<const Tarn16sc> src, std::span<std::int16_t> dst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarnsMagnitude_16sc_Sfs(detail::data<Tarn16sc>(src), detail::data<Tarn16s>(dst),
-                                                         detail::count(src), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsMagnitude_16sc_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarnsMagnitude_32sc_Sfs
 inline Warning magnitude(std::span<const Tarn32sc> src, std::span<std::int32_t> dst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarnsMagnitude_32sc_Sfs(detail::data<Tarn32sc>(src), detail::data<Tarn32s>(dst),
-                                                         detail::count(src), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsMagnitude_32sc_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarnsMagnitude_16s32f
 inline Warning magnitude(std::span<const std::int16_t> srcRe, std::span<const std::int16_t> srcIm, std::span<float> dst)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsMagnitude_16s32f(detail::data<Tarn16s>(srcRe), detail::data<Tarn16s>(srcIm),
-                                                       detail::data<Tarn32f>(dst), detail::count(srcRe))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsMagnitude_16s32f, srcRe, srcIm, dst, detail::length);
 }
-
-/// tarnsMagnitude_16sc32f
 inline Warning magnitude(std::span<const Tarn16sc> src, std::span<float> dst)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsMagnitude_16sc32f(detail::data<Tarn16sc>(src), detail::data<Tarn32f>(dst), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsMagnitude_16sc32f, src, dst, detail::length);
 }
-
-/// tarnsMagnitude_32f
 inline Warning magnitude(std::span<const float> srcRe, std::span<const float> srcIm, std::span<float> dst)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsMagnitude_32f(detail::data<Tarn32f>(srcRe), detail::data<Tarn32f>(srcIm),
-                                                    detail::data<Tarn32f>(dst), detail::count(srcRe))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsMagnitude_32f, srcRe, srcIm, dst, detail::length);
 }
-
-/// tarnsMagnitude_32fc
 inline Warning magnitude(std::span<const std::complex<float>> src, std::span<float> dst)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsMagnitude_32fc(detail::data<Tarn32fc>(src), detail::data<Tarn32f>(dst), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsMagnitude_32fc, src, dst, detail::length);
 }
-
-/// tarnsMagnitude_64f
 inline Warning magnitude(std::span<const double> srcRe, std::span<const double> srcIm, std::span<double> dst)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsMagnitude_64f(detail::data<Tarn64f>(srcRe), detail::data<Tarn64f>(srcIm),
-                                                    detail::data<Tarn64f>(dst), detail::count(srcRe))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsMagnitude_64f, srcRe, srcIm, dst, detail::length);
 }
-
-/// tarnsMagnitude_64fc
 inline Warning magnitude(std::span<const std::complex<double>> src, std::span<double> dst)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsMagnitude_64fc(detail::data<Tarn64fc>(src), detail::data<Tarn64f>(dst), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsMagnitude_64fc, src, dst, detail::length);
 }
 
 // Power spectra:
-
-/// tarnsPowerSpectr_16s_Sfs
 inline Warning powerSpectr(std::span<const std::int16_t> srcRe, std::span<const std::int16_t> srcIm,
                            std::span<std::int16_t> dst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsPowerSpectr_16s_Sfs(detail::data<Tarn16s>(srcRe), detail::data<Tarn16s>(srcIm),
-                                                          detail::data<Tarn16s>(dst), detail::count(srcRe), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsPowerSpectr_16s_Sfs, srcRe, srcIm, dst, detail::length, scaleFactor);
 }
-
-/// tarnsPowerSpectr_16sc_Sfs
 inline Warning powerSpectr(std::span<const Tarn16sc> src, std::span<std::int16_t> dst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarnsPowerSpectr_16sc_Sfs(detail::data<Tarn16sc>(src), detail::data<Tarn16s>(dst),
-                                                           detail::count(src), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsPowerSpectr_16sc_Sfs, src, dst, detail::length, scaleFactor);
 }
-
-/// tarnsPowerSpectr_16s32f
 inline Warning powerSpectr(std::span<const std::int16_t> srcRe, std::span<const std::int16_t> srcIm,
                            std::span<float> dst)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsPowerSpectr_16s32f(detail::data<Tarn16s>(srcRe), detail::data<Tarn16s>(srcIm),
-                                                         detail::data<Tarn32f>(dst), detail::count(srcRe))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsPowerSpectr_16s32f, srcRe, srcIm, dst, detail::length);
 }
-
-/// tarnsPowerSpectr_16sc32f
 inline Warning powerSpectr(std::span<const Tarn16sc> src, std::span<float> dst)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsPowerSpectr_16sc32f(detail::data<Tarn16sc>(src), detail::data<Tarn32f>(dst), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsPowerSpectr_16sc32f, src, dst, detail::length);
 }
-
-/// tarnsPowerSpectr_32f
 inline Warning powerSpectr(std::span<const float> srcRe, std::span<const float> srcIm, std::span<float> dst)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsPowerSpectr_32f(detail::data<Tarn32f>(srcRe), detail::data<Tarn32f>(srcIm),
-                                                      detail::data<Tarn32f>(dst), detail::count(srcRe))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsPowerSpectr_32f, srcRe, srcIm, dst, detail::length);
 }
-
-/// tarnsPowerSpectr_32fc
 inline Warning powerSpectr(std::span<const std::complex<float>> src, std::span<float> dst)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsPowerSpectr_32fc(detail::data<Tarn32fc>(src), detail::data<Tarn32f>(dst), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsPowerSpectr_32fc, src, dst, detail::length);
 }
-
-/// tarnsPowerSpectr_64f
 inline Warning powerSpectr(std::span<const double> srcRe, std::span<const double> srcIm, std::span<double> dst)
 {
-    return detail::warning(detail::sameSize(srcRe, srcIm, dst)
-                               ? tarnsPowerSpectr_64f(detail::data<Tarn64f>(srcRe), detail::data<Tarn64f>(srcIm),
-                                                      detail::data<Tarn64f>(dst), detail::count(srcRe))
-                               : tarnStsSizeErr);
+    return detail::call(tarnsPowerSpectr_64f, srcRe, srcIm, dst, detail::length);
 }
-
-/// tarnsPowerSpectr_64fc
 inline Warning powerSpectr(std::span<const std::complex<double>> src, std::span<double> dst)
 {
-    return detail::warning(
-        detail::sameSize(src, dst)
-            ? tarnsPowerSpectr_64fc(detail::data<Tarn64fc>(src), detail::data<Tarn64f>(dst), detail::count(src))
-            : tarnStsSizeErr);
+    return detail::call(tarnsPowerSpectr_64fc, src, dst, detail::length);
 }
 
 // Squared magnitudes of 32-bit elements by way of floats:
-
-/// tarnsMagSquared_32sc32s_Sfs
 inline Warning magSquared(std::span<const Tarn32sc> src, std::span<std::int32_t> dst, int scaleFactor)
 {
-    return detail::warning(detail::sameSize(src, dst)
-                               ? tarnsMagSquared_32sc32s_Sfs(detail::data<Tarn32sc>(src), detail::data<Tarn32s>(dst),
-                                                             detail::count(src), scaleFactor)
-                               : tarnStsSizeErr);
+    return detail::call(tarnsMagSquared_32sc32s_Sfs, src, dst, detail::length, scaleFactor);
 }
 
 } // namespace tarns
