@@ -12,7 +12,6 @@ TOKEN = re.compile(
     r"|\bTARN_API\b(?P<function>[^;{]*);",
     re.DOTALL,
 )
-TYPE = re.compile(r"(?:struct )?(?P<type>[\w ]*?\w)\s*(?P<stars>[\s*]*(?:const)?[\s*]*)\b(?P<name>\w+)(?:\[\d*\])?")
 
 
 @dataclasses.dataclass
@@ -31,10 +30,20 @@ class Function:
     arguments: list
     brief: str
     doc: str  # the whole comment, its margin taken away
-    returns: str
     group: str
     header: str
     declaration: str
+
+
+def stem(name):
+    """tarnsAdd_16s_Sfs is tarnsAdd; types inside a name, as in tarnsFIR32f_16s, go too."""
+    name = re.sub(r"(?<=[a-zA-Z])(?:8|16|24|32|64)[usf]c?(?=_|$)", "", name)
+    while True:
+        shorter = re.sub(r"_(?:I|Sfs|ISfs|(?:\d+[a-z]+)+)$", "", name)
+        shorter = re.sub(r"_(?:\d+[a-z]+)+(?=_)", "", shorter)
+        if shorter == name:
+            return name
+        name = shorter
 
 
 def _plain(text):
@@ -44,8 +53,7 @@ def _plain(text):
 
 def _commands(doc):
     """The text in front of the first command, and a list of (command, text)."""
-    parts = re.split(r"^@(param(?:\[\w+\])?|return|defgroup|ingroup|addtogroup|see|sa|note|warning|file)\b",
-                     doc, flags=re.MULTILINE)
+    parts = re.split(r"^@(param(?:\[\w+\])?|return)\b", doc, flags=re.MULTILINE)
     return parts[0], list(zip(parts[1::2], (part.strip() for part in parts[2::2])))
 
 
@@ -71,18 +79,15 @@ def _function(declaration, doc, group, header):
         return None
     front, commands = _commands(doc)
     documented = {}
-    returns = ""
     for command, text in commands:
         if command.startswith("param"):
             names, _, meaning = text.partition(" ")
             for name in names.split(","):
                 documented[name] = " ".join(meaning.split())
-        elif command == "return":
-            returns = " ".join(text.split())
     front = " ".join(front.split())
     brief = re.split(r"(?<=[.:])\s", front, maxsplit=1)[0]
     return Function(match["name"], match["result"].strip(), _arguments(match["arguments"], documented), brief, doc,
-                    returns, group, header, declaration)
+                    group, header, declaration)
 
 
 def read(directory):

@@ -2,6 +2,8 @@
 take arrays of as many elements as one count says, numbers, and addresses for single results."""
 import re
 
+import public_headers
+
 # The library writes what these point to, and reads nothing there.
 RESULT = re.compile(r"^(where the|where its|where to store the)\b")
 COUNTS = ("len", "srcLen", "dstLen")
@@ -15,16 +17,14 @@ class Irregular(Exception):
     """Tells what is not regular about a function."""
 
 
-def stem(function):
+def words(function):
     """tarnsAddC_16s_ISfs is Add, tarnsThreshold_LTVal_32f is ThresholdLTVal."""
-    parts = function.name.removeprefix("tarns").split("_")
-    while len(parts) > 1 and re.fullmatch(r"I|Sfs|ISfs|(\d+[a-z]+)+", parts[-1]):
-        parts.pop()
-    words = "".join(part[0].upper() + part[1:] for part in parts)
-    words = re.sub(r"^10Log10", "TenLog10", words)
+    parts = public_headers.stem(function.name).removeprefix("tarns").split("_")
+    joined = "".join(part[0].upper() + part[1:] for part in parts)
+    joined = re.sub(r"^10Log10", "TenLog10", joined)
     if CONSTANT.match(function.name):
-        words = re.sub(r"C(Rev)?$", lambda match: match[1] or "", words)
-    return words
+        joined = re.sub(r"C(Rev)?$", lambda match: match[1] or "", joined)
+    return joined
 
 
 def kinds(function):

@@ -1,23 +1,16 @@
 #!/usr/bin/env python3
-"""Lists the functions that the public headers declare, for the digest: front_ends.py OUTPUT HEADER...
+"""Lists the functions that the public headers declare, for the digest: front_ends.py OUTPUT INCLUDE_DIRECTORY
 
-One line each, FRONT_END(name, "its declaration"). The headers are C99 with one TARN_API a function, so that comments are
-all that has to be taken away.
+One line each, FRONT_END(name, "its declaration").
 """
 import pathlib
-import re
 import sys
 
-output, *headers = sys.argv[1:]
-lines = []
-for header in headers:
-    text = pathlib.Path(header).read_text()
-    text = re.sub(r"/\*.*?\*/|//[^\n]*|^[ \t]*#[^\n]*", " ", text, flags=re.DOTALL | re.MULTILINE)
-    for declaration in re.findall(r"\bTARN_API\b([^;{]*);", text):
-        declaration = " ".join(declaration.split())
-        function = re.fullmatch(r"[^()=]*?\b(\w+) ?\(.*\)", declaration)
-        if function:
-            lines.append(f'FRONT_END({function.group(1)}, "{declaration}")\n')
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[3] / "scripts"))
+import public_headers
+
+output, directory = sys.argv[1:]
+lines = [f'FRONT_END({function.name}, "{function.declaration}")\n' for function in public_headers.read(directory)]
 if not lines:
-    sys.exit("no declaration found in " + " ".join(headers))
+    sys.exit("no declaration found in " + directory)
 pathlib.Path(output).write_text("".join(lines))
