@@ -4,6 +4,28 @@
 #include "frame/kernels.h"
 #include "levels/recursive/psiir_state.h"
 
+// -- Tails ------------------------------------------------------------------------------------------------------------
+
+// Those that compute in the type of their samples, and those that convert: samples of floats, and integers, whose calls
+// have a scale factor.
+#define TARN_IIR_PLAIN_TAILS(X) X(_32f, Tarn32f) X(_32fc, Tarn32fc) X(_64f, Tarn64f) X(_64fc, Tarn64fc)
+#define TARN_IIR_FLOAT_TAILS(X) X(64f_32f, Tarn64f, Tarn32f) X(64fc_32fc, Tarn64fc, Tarn32fc)
+#define TARN_IIR_INTEGER_TAILS(X)    \
+    X(32f_16s, Tarn32f, Tarn16s)     \
+    X(32fc_16sc, Tarn32fc, Tarn16sc) \
+    X(64f_32s, Tarn64f, Tarn32s)     \
+    X(64fc_32sc, Tarn64fc, Tarn32sc) \
+    X(64f_16s, Tarn64f, Tarn16s)     \
+    X(64fc_16sc, Tarn64fc, Tarn16sc)
+
+// Sections of real taps have passes of their own; one of their names has an underscore more.
+#define TARN_IIR_PLAIN_SECTIONS(X) X(_32f, Tarn32f) X(_64f, Tarn64f)
+#define TARN_IIR_CONVERTING_SECTIONS(X) \
+    X(_32f_16s, Tarn32f, Tarn16s)       \
+    X(64f_32f, Tarn64f, Tarn32f)        \
+    X(64f_32s, Tarn64f, Tarn32s)        \
+    X(64f_16s, Tarn64f, Tarn16s)
+
 // -- Passes over a block ----------------------------------------------------------------------------------------------
 
 // The non-recursive values of count samples from count + order inputs; and the outputs of a recursion over values,
@@ -11,10 +33,10 @@
 #define TARN_IIR_PASSES(TAIL, T)                                                                         \
     TARN_KERNEL void ownsIIRxAR##TAIL(const T* pSrc, T* pDst, int count, const T* pTapsX, int order);    \
     TARN_KERNEL void ownsIIRyAR##TAIL(const T* pValues, T* pDst, int count, const T* pTapsY, int order); \
-    TARN_KERNEL void ownsIIRBQTwo##TAIL(const T* pSrc, T* pDst, tarn::IirFields<T>* pState, int section)
+    TARN_KERNEL void ownsIIRBQTwo##TAIL(const T* pSrc, T* pDst, tarn::IirFields<T>* pState, int section);
 #define TARN_IIR_SECTION_PASSES(TAIL, T)                                                   \
     TARN_KERNEL void ownsIIRxBQ##TAIL(const T* pSrc, T* pDst, int count, const T* pTapsX); \
-    TARN_KERNEL void ownsIIRyBQ##TAIL(const T* pValues, T* pDst, int count, const T* pTapsY)
+    TARN_KERNEL void ownsIIRyBQ##TAIL(const T* pValues, T* pDst, int count, const T* pTapsY);
 
 // Passes of samples of another type. Results stand as they are in pKept, where the recursion has its history, and as
 // samples in pDst. The orders are those of blocks, whose lengths are more than four times as large and at most
@@ -24,29 +46,16 @@
     TARN_KERNEL void ownsIIRyAR##TAIL(const T* pValues, T* pKept, S* pDst, int count, const T* pTapsY, int order,  \
                                       int scaleFactor);                                                            \
     TARN_KERNEL void ownsIIRBQTwo##TAIL(const S* pSrc, T* pKept, S* pDst, tarn::IirFields<T>* pState, int section, \
-                                        int scaleFactor)
+                                        int scaleFactor);
 #define TARN_IIR_CONVERTING_SECTION_PASSES(TAIL, T, S)                                     \
     TARN_KERNEL void ownsIIRxBQ##TAIL(const S* pSrc, T* pDst, int count, const T* pTapsX); \
-    TARN_KERNEL void ownsIIRyBQ##TAIL(const T* pValues, T* pKept, S* pDst, int count, const T* pTapsY, int scaleFactor)
+    TARN_KERNEL void ownsIIRyBQ##TAIL(const T* pValues, T* pKept, S* pDst, int count, const T* pTapsY, int scaleFactor);
 
-TARN_IIR_PASSES(_32f, Tarn32f);
-TARN_IIR_PASSES(_32fc, Tarn32fc);
-TARN_IIR_PASSES(_64f, Tarn64f);
-TARN_IIR_PASSES(_64fc, Tarn64fc);
-TARN_IIR_SECTION_PASSES(_32f, Tarn32f);
-TARN_IIR_SECTION_PASSES(_64f, Tarn64f);
-TARN_IIR_CONVERTING_PASSES(32f_16s, Tarn32f, Tarn16s);
-TARN_IIR_CONVERTING_PASSES(32fc_16sc, Tarn32fc, Tarn16sc);
-TARN_IIR_CONVERTING_PASSES(64f_32f, Tarn64f, Tarn32f);
-TARN_IIR_CONVERTING_PASSES(64fc_32fc, Tarn64fc, Tarn32fc);
-TARN_IIR_CONVERTING_PASSES(64f_32s, Tarn64f, Tarn32s);
-TARN_IIR_CONVERTING_PASSES(64fc_32sc, Tarn64fc, Tarn32sc);
-TARN_IIR_CONVERTING_PASSES(64f_16s, Tarn64f, Tarn16s);
-TARN_IIR_CONVERTING_PASSES(64fc_16sc, Tarn64fc, Tarn16sc);
-TARN_IIR_CONVERTING_SECTION_PASSES(_32f_16s, Tarn32f, Tarn16s);
-TARN_IIR_CONVERTING_SECTION_PASSES(64f_32f, Tarn64f, Tarn32f);
-TARN_IIR_CONVERTING_SECTION_PASSES(64f_32s, Tarn64f, Tarn32s);
-TARN_IIR_CONVERTING_SECTION_PASSES(64f_16s, Tarn64f, Tarn16s);
+TARN_IIR_PLAIN_TAILS(TARN_IIR_PASSES)
+TARN_IIR_PLAIN_SECTIONS(TARN_IIR_SECTION_PASSES)
+TARN_IIR_FLOAT_TAILS(TARN_IIR_CONVERTING_PASSES)
+TARN_IIR_INTEGER_TAILS(TARN_IIR_CONVERTING_PASSES)
+TARN_IIR_CONVERTING_SECTIONS(TARN_IIR_CONVERTING_SECTION_PASSES)
 
 // -- Chunks of at most chunkSamples, and single samples ---------------------------------------------------------------
 
@@ -80,18 +89,11 @@ TARN_IIR_CONVERTING_SECTION_PASSES(64f_16s, Tarn64f, Tarn16s);
     TARN_IIR_KNOWN_AS(oneOfOrder, ownsIIRAROne##TAIL, T, S, pSrc, pDst, pState, scaleFactor)                        \
     TARN_IIR_KNOWN_AS(oneOfSections, ownsIIRBQOne##TAIL, T, S, pSrc, pDst, pState, scaleFactor)
 
-TARN_IIR_KERNELS(_32f, Tarn32f, Tarn32f)
-TARN_IIR_KERNELS(_32fc, Tarn32fc, Tarn32fc)
-TARN_IIR_KERNELS(_64f, Tarn64f, Tarn64f)
-TARN_IIR_KERNELS(_64fc, Tarn64fc, Tarn64fc)
-TARN_IIR_KERNELS(64f_32f, Tarn64f, Tarn32f)
-TARN_IIR_KERNELS(64fc_32fc, Tarn64fc, Tarn32fc)
-TARN_IIR_KERNELS_SFS(32f_16s, Tarn32f, Tarn16s)
-TARN_IIR_KERNELS_SFS(32fc_16sc, Tarn32fc, Tarn16sc)
-TARN_IIR_KERNELS_SFS(64f_32s, Tarn64f, Tarn32s)
-TARN_IIR_KERNELS_SFS(64fc_32sc, Tarn64fc, Tarn32sc)
-TARN_IIR_KERNELS_SFS(64f_16s, Tarn64f, Tarn16s)
-TARN_IIR_KERNELS_SFS(64fc_16sc, Tarn64fc, Tarn16sc)
+#define TARN_IIR_PLAIN_KERNELS(TAIL, T) TARN_IIR_KERNELS(TAIL, T, T)
+
+TARN_IIR_PLAIN_TAILS(TARN_IIR_PLAIN_KERNELS)
+TARN_IIR_FLOAT_TAILS(TARN_IIR_KERNELS)
+TARN_IIR_INTEGER_TAILS(TARN_IIR_KERNELS_SFS)
 
 // -- Inner calls ------------------------------------------------------------------------------------------------------
 

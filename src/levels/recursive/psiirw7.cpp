@@ -108,12 +108,8 @@ void convertOne(const S* src, S* dst, int scaleFactor, Filter filter)
         recur<sectionOrder>(pValues, Results<T>{pDst}, count, pTapsY, sectionOrder); \
     }
 
-TARN_DEFINE_IIR_PASSES(_32f, Tarn32f)
-TARN_DEFINE_IIR_PASSES(_32fc, Tarn32fc)
-TARN_DEFINE_IIR_PASSES(_64f, Tarn64f)
-TARN_DEFINE_IIR_PASSES(_64fc, Tarn64fc)
-TARN_DEFINE_IIR_SECTION_PASSES(_32f, Tarn32f)
-TARN_DEFINE_IIR_SECTION_PASSES(_64f, Tarn64f)
+TARN_IIR_PLAIN_TAILS(TARN_DEFINE_IIR_PASSES)
+TARN_IIR_PLAIN_SECTIONS(TARN_DEFINE_IIR_SECTION_PASSES)
 
 #define TARN_DEFINE_IIR_CONVERTING_PASSES(TAIL, T, S)                                                                  \
     void ownsIIRxAR##TAIL(const S* pSrc, T* pDst, int count, const T* pTapsX, int order)                               \
@@ -140,18 +136,9 @@ TARN_DEFINE_IIR_SECTION_PASSES(_64f, Tarn64f)
         recur<sectionOrder>(pValues, out, count, pTapsY, sectionOrder);                                     \
     }
 
-TARN_DEFINE_IIR_CONVERTING_PASSES(64f_32f, Tarn64f, Tarn32f)
-TARN_DEFINE_IIR_CONVERTING_PASSES(64fc_32fc, Tarn64fc, Tarn32fc)
-TARN_DEFINE_IIR_CONVERTING_PASSES(32f_16s, Tarn32f, Tarn16s)
-TARN_DEFINE_IIR_CONVERTING_PASSES(32fc_16sc, Tarn32fc, Tarn16sc)
-TARN_DEFINE_IIR_CONVERTING_PASSES(64f_32s, Tarn64f, Tarn32s)
-TARN_DEFINE_IIR_CONVERTING_PASSES(64fc_32sc, Tarn64fc, Tarn32sc)
-TARN_DEFINE_IIR_CONVERTING_PASSES(64f_16s, Tarn64f, Tarn16s)
-TARN_DEFINE_IIR_CONVERTING_PASSES(64fc_16sc, Tarn64fc, Tarn16sc)
-TARN_DEFINE_IIR_CONVERTING_SECTION_PASSES(_32f_16s, Tarn32f, Tarn16s)
-TARN_DEFINE_IIR_CONVERTING_SECTION_PASSES(64f_32f, Tarn64f, Tarn32f)
-TARN_DEFINE_IIR_CONVERTING_SECTION_PASSES(64f_32s, Tarn64f, Tarn32s)
-TARN_DEFINE_IIR_CONVERTING_SECTION_PASSES(64f_16s, Tarn64f, Tarn16s)
+TARN_IIR_FLOAT_TAILS(TARN_DEFINE_IIR_CONVERTING_PASSES)
+TARN_IIR_INTEGER_TAILS(TARN_DEFINE_IIR_CONVERTING_PASSES)
+TARN_IIR_CONVERTING_SECTIONS(TARN_DEFINE_IIR_CONVERTING_SECTION_PASSES)
 
 // -- Chunks, and single samples ---------------------------------------------------------------------------------------
 
@@ -173,10 +160,7 @@ TARN_DEFINE_IIR_CONVERTING_SECTION_PASSES(64f_16s, Tarn64f, Tarn16s)
         store(pDstVal, filterOneCascade(*pState, loadElement(pSrc)));                                  \
     }
 
-TARN_DEFINE_IIR_KERNELS(_32f, Tarn32f)
-TARN_DEFINE_IIR_KERNELS(_32fc, Tarn32fc)
-TARN_DEFINE_IIR_KERNELS(_64f, Tarn64f)
-TARN_DEFINE_IIR_KERNELS(_64fc, Tarn64fc)
+TARN_IIR_PLAIN_TAILS(TARN_DEFINE_IIR_KERNELS)
 
 // The last parameter of those with a scale factor is given at the end; FACTOR is its value, 0 for the others.
 #define TARN_DEFINE_IIR_CONVERTED(TAIL, T, S, FACTOR, ...)                                                 \
@@ -197,13 +181,8 @@ TARN_DEFINE_IIR_KERNELS(_64fc, Tarn64fc)
     {                                                                                                      \
         convertOne<T>(pSrc, pDstVal, FACTOR, [=](T x) { return filterOneCascade(*pState, x); });           \
     }
-#define TARN_WITH_FACTOR , int scaleFactor
+#define TARN_DEFINE_IIR_FLOAT(TAIL, T, S) TARN_DEFINE_IIR_CONVERTED(TAIL, T, S, 0, )
+#define TARN_DEFINE_IIR_INTEGER(TAIL, T, S) TARN_DEFINE_IIR_CONVERTED(TAIL, T, S, scaleFactor, , int scaleFactor)
 
-TARN_DEFINE_IIR_CONVERTED(64f_32f, Tarn64f, Tarn32f, 0, )
-TARN_DEFINE_IIR_CONVERTED(64fc_32fc, Tarn64fc, Tarn32fc, 0, )
-TARN_DEFINE_IIR_CONVERTED(32f_16s, Tarn32f, Tarn16s, scaleFactor, TARN_WITH_FACTOR)
-TARN_DEFINE_IIR_CONVERTED(32fc_16sc, Tarn32fc, Tarn16sc, scaleFactor, TARN_WITH_FACTOR)
-TARN_DEFINE_IIR_CONVERTED(64f_32s, Tarn64f, Tarn32s, scaleFactor, TARN_WITH_FACTOR)
-TARN_DEFINE_IIR_CONVERTED(64fc_32sc, Tarn64fc, Tarn32sc, scaleFactor, TARN_WITH_FACTOR)
-TARN_DEFINE_IIR_CONVERTED(64f_16s, Tarn64f, Tarn16s, scaleFactor, TARN_WITH_FACTOR)
-TARN_DEFINE_IIR_CONVERTED(64fc_16sc, Tarn64fc, Tarn16sc, scaleFactor, TARN_WITH_FACTOR)
+TARN_IIR_FLOAT_TAILS(TARN_DEFINE_IIR_FLOAT)
+TARN_IIR_INTEGER_TAILS(TARN_DEFINE_IIR_INTEGER)
