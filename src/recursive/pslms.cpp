@@ -1,9 +1,7 @@
 // Adaptive filters in floating point: states for blocks, and calls of one sample without a state.
 #include "levels/recursive/pslms.h"
-#include "frame/bytes.h"
 #include "frame/checks.h"
 #include "frame/delay_line.h"
-#include "tarns/convert.h"
 
 using namespace tarn;
 
@@ -92,9 +90,6 @@ TarnStatus getDelay(const State* state, typename State::Sample* pDlyLine, int* p
 }
 
 // -- Blocks -----------------------------------------------------------------------------------------------------------
-
-void takeSamples(const Tarn32f* pSrc, Tarn32f* line, int len) { copy(pSrc, line, len); }
-void takeSamples(const Tarn16s* pSrc, Tarn32f* line, int len) { tarnsConvert_16s32f(pSrc, line, len); }
 
 // As many samples at a time as there is room for behind the last window, in the memory of all copies. The samples of
 // the caller are not looked at after outputs were written, which may lie in their place.

@@ -1,7 +1,9 @@
 // Kernels of adaptive filters in floating point, and of the normalised one in Q15. None of them checks an argument.
 #pragma once
 
+#include "frame/bytes.h"
 #include "frame/kernels.h"
+#include "frame/samples.h"
 #include "levels/recursive/pslms_state.h"
 
 // -- Blocks -----------------------------------------------------------------------------------------------------------
@@ -29,6 +31,10 @@ TARN_KERNEL void ownLMSOneQ15_16s_64t(Tarn16s src, Tarn16s refVal, Tarn16s* pDst
                                       int mu, Tarn16s* pDlyLine, int* pDlyLineIndex);
 
 namespace tarn {
+
+// Samples on their way into a line.
+inline void takeSamples(const Tarn32f* src, Tarn32f* line, int len) { copy(src, line, len); }
+inline void takeSamples(const Tarn16s* src, Tarn32f* line, int len) { samplesToTaps(src, line, len); }
 
 // The kernels by their types.
 inline void adaptAlong(const Tarn32f* pSrc, const Tarn32f* pRef, Tarn32f* pDst, int len, Tarn32f mu, Tarn32f* pTaps,

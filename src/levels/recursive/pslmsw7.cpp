@@ -3,11 +3,9 @@
 //
 // The pass that changes the taps for a sample sums their products with the next window on its way. It takes the sums in
 // the order of a pass of their own, so that the results are those of the rule, however long the block.
-#include "frame/bytes.h"
 #include "frame/delay_line.h"
 #include "frame/reduce.h"
 #include "frame/simd_round.h"
-#include "levels/data/psconvert.h"
 #include "levels/recursive/pslms.h"
 
 using namespace tarn;
@@ -199,9 +197,6 @@ TARN_INLINE void adaptBlock(const S* pRef, S* pDst, int len, Tarn32f mu, Tarn32f
         window = next;
     }
 }
-
-void takeSamples(const Tarn32f* src, Tarn32f* line, int len) { copy(src, line, len); }
-void takeSamples(const Tarn16s* src, Tarn32f* line, int len) { ownsConvert_16s32f_W7(src, line, len); }
 
 // The upper half of a doubled line has room for as many samples as there are up to its end. They enter it at once, and
 // the lower half when the windows have gone over them: the first one still begins there.
