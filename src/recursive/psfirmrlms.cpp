@@ -75,17 +75,6 @@ TarnStatus freeRates(State* state)
     return tarnStsNoErr;
 }
 
-// Calls `run` if the state and the other pointers are good.
-template <typename Run, typename State, typename... P>
-TarnStatus withState(Run run, State* state, const P*... pointers)
-{
-    if (const TarnStatus status = checkObject(state, pointers...)) {
-        return status;
-    }
-    run();
-    return tarnStsNoErr;
-}
-
 // -- Places in the line -----------------------------------------------------------------------------------------------
 
 // The window that the taps are changed by begins at the oldest sample that a tap meets; the one that is filtered,

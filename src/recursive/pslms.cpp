@@ -58,37 +58,6 @@ TarnStatus freeAny(State* state)
     return tarnStsNoErr;
 }
 
-template <typename State>
-TarnStatus getTaps(const State* state, Tarn32f* pTaps)
-{
-    if (const TarnStatus status = checkObject(state, pTaps)) {
-        return status;
-    }
-    reverseConverted(state->pTaps, pTaps, state->tapsLen);
-    return tarnStsNoErr;
-}
-
-template <typename State>
-TarnStatus setDelay(State* state, const typename State::Sample* pDlyLine, int dlyLineIndex)
-{
-    if (const TarnStatus status = checkObject(state)) {
-        return status;
-    }
-    fillCopies(state, pDlyLine, dlyLineIndex);
-    return tarnStsNoErr;
-}
-
-template <typename State>
-TarnStatus getDelay(const State* state, typename State::Sample* pDlyLine, int* pDlyLineIndex)
-{
-    if (const TarnStatus status = checkObject(state, pDlyLine, pDlyLineIndex)) {
-        return status;
-    }
-    copyConverted(state->pDlyLine, pDlyLine, state->tapsLen);
-    store(pDlyLineIndex, state->dlyLineIndex);
-    return tarnStsNoErr;
-}
-
 // -- Blocks -----------------------------------------------------------------------------------------------------------
 
 // As many samples at a time as there is room for behind the last window, in the memory of all copies. The samples of
@@ -150,15 +119,20 @@ TarnStatus checkOne(const T* pTapsInv, int tapsLen, const S* pDlyLine, const int
     TarnStatus tarnsFIRLMSFree##TAIL(TarnsFIRLMSState##TAIL* pState) { return freeAny(pState); }                  \
     TarnStatus tarnsFIRLMSGetTaps##TAIL(const TarnsFIRLMSState##TAIL* pState, Tarn32f* pTaps)                     \
     {                                                                                                             \
-        return getTaps(pState, pTaps);                                                                            \
+        return withState([=] { reverseConverted(pState->pTaps, pTaps, pState->tapsLen); }, pState, pTaps);        \
     }                                                                                                             \
     TarnStatus tarnsFIRLMSSetDlyLine##TAIL(TarnsFIRLMSState##TAIL* pState, const S* pDlyLine, int dlyLineIndex)   \
     {                                                                                                             \
-        return setDelay(pState, pDlyLine, dlyLineIndex);                                                          \
+        return withState([=] { fillCopies(pState, pDlyLine, dlyLineIndex); }, pState);                            \
     }                                                                                                             \
     TarnStatus tarnsFIRLMSGetDlyLine##TAIL(const TarnsFIRLMSState##TAIL* pState, S* pDlyLine, int* pDlyLineIndex) \
     {                                                                                                             \
-        return getDelay(pState, pDlyLine, pDlyLineIndex);                                                         \
+        return withState(                                                                                         \
+            [=] {                                                                                                 \
+                copyConverted(pState->pDlyLine, pDlyLine, pState->tapsLen);                                       \
+                store(pDlyLineIndex, pState->dlyLineIndex);                                                       \
+            },                                                                                                    \
+            pState, pDlyLine, pDlyLineIndex);                                                                     \
     }                                                                                                             \
     TarnStatus tarnsFIRLMS##TAIL(const S* pSrc, const S* pRef, S* pDst, int len, Tarn32f mu,                      \
                                  TarnsFIRLMSState##TAIL* pState)                                                  \

@@ -76,6 +76,19 @@ struct LmsRatesState {
     int muShift; // how far steps may leave 16 bits before they are scaled; 0: they never are
 };
 
+// -- Calls ------------------------------------------------------------------------------------------------------------
+
+// Calls `run` if the state and the other pointers are good.
+template <typename Run, typename State, typename... P>
+TarnStatus withState(Run run, State* state, const P*... pointers)
+{
+    if (const TarnStatus status = checkObject(state, pointers...)) {
+        return status;
+    }
+    run();
+    return tarnStsNoErr;
+}
+
 // -- Delay lines ------------------------------------------------------------------------------------------------------
 
 // Where a ring of places has the one that an index means. What callers give is not checked, and no index leads out of
