@@ -1,6 +1,7 @@
 // Samples of the caller's type as elements of the type that a filter computes in, and its results as such samples.
 #pragma once
 
+#include "frame/delay_line.h"
 #include "frame/factor.h"
 #include "frame/rounding.h"
 #include "frame/samples.h"
@@ -34,12 +35,7 @@ using SamplesRounding = std::conditional_t<std::is_floating_point_v<Part<S>>, Ca
 template <typename T, typename S>
 TARN_INLINE T sampleAs(const S* p)
 {
-    const S x = loadElement(p);
-    if constexpr (isComplex<S>) {
-        return {static_cast<Part<T>>(x.re), static_cast<Part<T>>(x.im)};
-    } else {
-        return static_cast<T>(x);
-    }
+    return convertedTo<T>(loadElement(p));
 }
 
 // Parts of results as parts of samples: integers rounded and limited, a NaN to the lowest.
