@@ -118,10 +118,7 @@ TarnStatus getValue(const State* state, typename State::Sample* pDlyVal, int ind
 
 constexpr int fractionBits = 15; // of mu
 
-Tarn32s timesMu(Tarn32s err, int mu)
-{
-    return static_cast<Tarn32s>(static_cast<Tarn32u>(err) * static_cast<Tarn32u>(mu));
-}
+Tarn32s timesMu(Tarn32s err, int mu) { return wrappedProduct(err, mu); }
 Tarn32sc timesMu(Tarn32sc err, int mu) { return {timesMu(err.re, mu), timesMu(err.im, mu)}; }
 
 Tarn32s rounded(Tarn32s v) { return add(v, Tarn32s{1} << (fractionBits - 1)) >> fractionBits; }

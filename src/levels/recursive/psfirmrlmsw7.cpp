@@ -1,5 +1,6 @@
 // Adaptive filters in fixed point, whose output and whose step of the taps are calls of their own. All sums are modulo
 // 2^32.
+#include "frame/checks.h"
 #include "frame/reduce.h"
 #include "frame/simd_complex.h"
 #include "frame/simd_mul.h"
@@ -58,10 +59,6 @@ struct EverySample {
 
 // -- One at a time ----------------------------------------------------------------------------------------------------
 
-TARN_INLINE Tarn32s wrappedProduct32(Tarn32s a, Tarn32s b)
-{
-    return static_cast<Tarn32s>(static_cast<Tarn32u>(a) * static_cast<Tarn32u>(b));
-}
 TARN_INLINE Tarn16s upperHalf(Tarn32s tap) { return static_cast<Tarn16s>(tap >> 16); }
 
 TARN_INLINE Tarn32s productWithTap(Tarn32s tap, Tarn16s x) { return mulWidened(upperHalf(tap), x); }
@@ -71,11 +68,11 @@ TARN_INLINE Tarn32sc productWithTap(Tarn32sc tap, Tarn16sc x)
     return {differenceOfParts(w, x), mulAddPairs(w, swapParts(x))};
 }
 
-TARN_INLINE Tarn32s stepOfTap(Tarn16s x, Tarn32s g, int shift) { return shiftRight(wrappedProduct32(x, g), shift); }
+TARN_INLINE Tarn32s stepOfTap(Tarn16s x, Tarn32s g, int shift) { return shiftRight(wrappedProduct(x, g), shift); }
 TARN_INLINE Tarn32sc stepOfTap(Tarn16sc x, Tarn32sc g, int shift)
 {
-    const Tarn32s re = add(wrappedProduct32(x.re, g.re), wrappedProduct32(x.im, g.im));
-    const Tarn32s im = sub(wrappedProduct32(x.re, g.im), wrappedProduct32(x.im, g.re));
+    const Tarn32s re = add(wrappedProduct(x.re, g.re), wrappedProduct(x.im, g.im));
+    const Tarn32s im = sub(wrappedProduct(x.re, g.im), wrappedProduct(x.im, g.re));
     return {shiftRight(re, shift), shiftRight(im, shift)};
 }
 
