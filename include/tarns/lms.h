@@ -156,7 +156,7 @@ TARN_API TarnStatus tarnsFIRLMSOne_Direct32f_16s(Tarn16s src, Tarn16s refVal, Ta
 ///@}
 
 /** Filters one sample by taps in Q15, and changes them by a step that is normalised by the energy in the window, so
-   that it suits signals of any power:
+    that it suits signals of any power:
 
         y = 2^-15 sum of pTapsInv[j] window[j]
         g = mu (refVal - y) / sum of window[j]^2

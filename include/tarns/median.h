@@ -17,7 +17,7 @@ extern "C" {
     element are never changed: y[0] = x[0], y[len - 1] = x[len - 1].
 
     An array is filtered as it is given, so blocks of a longer signal have to overlap by m - 1 elements; the h results
-   at either end of a block that is not an end of the signal are to be dropped.
+    at either end of a block that is not an end of the signal are to be dropped.
 
     Masks of 3, 5, 7 and 9 are networks of minima and maxima, without a branch on the data and without memory but the
     data. Larger ones keep a sorted copy of the window, in which one element leaves and one enters for each result; its
@@ -32,18 +32,18 @@ extern "C" {
     `32s` elements have one particularity. A mask of 11 or more elements may be even there: it is used as it is, the
     window is x[n - maskSize/2], ..., x[n + maskSize/2 - 1], the upper one of the two elements in its middle is the
     result, and there is no warning. Smaller masks filter the elements as doubles, exactly, for which memory is
-   allocated from 513 elements on.
+    allocated from 513 elements on.
 
     @param pSrc     array, `len` elements
     @param pDst     gets the result, `len` elements; may be `pSrc` itself, and must not overlap it otherwise
     @param pSrcDst  array that is filtered in place, `len` elements; the results are those of the other form
     @param len      number of elements, at least 1; one or two stay as they are
     @param maskSize number of elements of the window, at least 1, and of no upper limit but memory; an even number
-   counts as the odd one below it, and the call answers with a warning; 1 and 2 change nothing
+                    counts as the odd one below it, and the call answers with a warning; 1 and 2 change nothing
     @return tarnStsNoErr; tarnStsEvenMedianMaskSize, a warning, for an even mask that was made odd; tarnStsNullPtrErr
-   for a null pointer; tarnStsSizeErr for `len` or `maskSize` below 1; tarnStsNoMemErr if there is no memory for the
-            window or for the doubles: the data in place is as it was, and pDst holds a copy of pSrc if it was the
-   window that could not be had, and what it held before if it was the doubles */
+            for a null pointer; tarnStsSizeErr for `len` or `maskSize` below 1; tarnStsNoMemErr if there is no memory
+            for the window or for the doubles: the data in place is as it was, and pDst holds a copy of pSrc if it was
+            the window that could not be had, and what it held before if it was the doubles */
 ///@{
 TARN_API TarnStatus tarnsFilterMedian_8u(const Tarn8u* pSrc, Tarn8u* pDst, int len, int maskSize);
 TARN_API TarnStatus tarnsFilterMedian_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len, int maskSize);
