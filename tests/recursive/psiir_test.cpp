@@ -81,6 +81,26 @@ TYPED_TEST(IirTest, FiltersBlocksAndSamples)
 }
 
 // Whole numbers that no road rounds: bits are compared, ties and bounds included. The poles lie on the unit circle.
+/// Results times 2^-scale, to the nearest even integer and limited.
+template <class S>
+std::vector<S> scaledSamples(const iir::Numbers& results, int scale)
+{
+    using P = IirPart<S>;
+    const auto part = [=](iir::Wide v) {
+        const iir::Wide scaled = std::nearbyint(std::ldexp(v, -scale));
+        return static_cast<P>(
+            std::clamp<iir::Wide>(scaled, std::numeric_limits<P>::lowest(), std::numeric_limits<P>::max()));
+    };
+    std::vector<S> samples;
+    for (iir::Number y : results) {
+        if constexpr (ComplexElement<S>)
+            samples.push_back({part(y.real()), part(y.imag())});
+        else
+            samples.push_back(part(y.real()));
+    }
+    return samples;
+}
+
 TYPED_TEST(IirTest, RoundsToEvenAndSaturates)
 {
     using F = TypeParam;
@@ -109,23 +129,41 @@ TYPED_TEST(IirTest, RoundsToEvenAndSaturates)
             iir::Numbers lines(iir::delayOf(filter));
             const auto exact = iir::run(filter, toNumbers(signal), lines);
             for (int scale : {0, 1, 3, -1, -5, -9, -22, 20, 40}) {
-                std::vector<S> expected;
-                for (iir::Number y : exact) {
-                    const auto part = [&](iir::Wide v) {
-                        const iir::Wide scaled = std::nearbyint(std::ldexp(v, -scale));
-                        return static_cast<P>(std::clamp<iir::Wide>(scaled, std::numeric_limits<P>::lowest(),
-                                                                    std::numeric_limits<P>::max()));
-                    };
-                    if constexpr (ComplexElement<S>)
-                        expected.push_back({part(y.real()), part(y.imag())});
-                    else
-                        expected.push_back(part(y.real()));
-                }
+                const std::vector<S> expected = scaledSamples<S>(exact, scale);
                 for (const auto& cut : std::vector<std::vector<int>>{{300}, {0}, {21, 5, 0}}) {
                     const IirOwner<F> state(IirForm::order, given);
                     const auto out = filterIirInCalls<F>(state.get(), signal, cut, scale);
                     EXPECT_TRUE(arraysMatch<S>(expected.data(), out.data(), out.size()))
                         << design.size() << " taps, scale " << scale << ", cut to " << cut[0];
+                }
+            }
+        }
+    }
+}
+
+// In blocks of an order, of a section and of two, and by single samples, all of which change nothing but the scale.
+// Single precision takes the low seven bits of a factor's magnitude.
+TYPED_TEST(IirTest, TakesAnyScaleFactor)
+{
+    using F = TypeParam;
+    using S = typename F::Sample;
+    if constexpr (F::scaled) {
+        const auto signal = randomValues<S>(43, 3, Values::mixed);
+        for (int factor : {31,      32,  62,  63,  64,   65,   100,  126,  127,  128,  129,   255,         300,    1100,
+                           INT_MAX, -31, -63, -64, -100, -126, -127, -128, -129, -258, -1100, INT_MIN + 1, INT_MIN}) {
+            long long size = std::abs(static_cast<long long>(factor));
+            size = std::is_same_v<IirPart<typename F::Element>, Tarn32f> ? size & 127 : std::min(size, 5000LL);
+            const auto expected = scaledSamples<S>(toNumbers(signal), static_cast<int>(factor < 0 ? -size : size));
+            for (int sections : {0, 1, 2}) {
+                const iir::Numbers design = sections == 0   ? iir::Numbers{1, 0, 1, 0}
+                                            : sections == 1 ? iir::Numbers{1, 0, 0, 1, 0, 0}
+                                                            : iir::Numbers{1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0};
+                for (int cut : {43, 0}) {
+                    const IirOwner<F> state(sections == 0 ? IirForm::order : IirForm::biquads,
+                                            asTaps<typename F::Given>(design, 1));
+                    const auto out = filterIirInCalls<F>(state.get(), signal, {cut}, factor);
+                    EXPECT_TRUE(arraysMatch<S>(expected.data(), out.data(), out.size()))
+                        << sections << " sections, factor " << factor << ", cut to " << cut;
                 }
             }
         }
