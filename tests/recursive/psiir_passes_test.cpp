@@ -158,6 +158,37 @@ TEST(IirPassesTest, SectionsHavePassesOfTheirOwn)
     expectSectionPasses<IirTail64f_16s>(ownsIIRxBQ64f_16s, ownsIIRyBQ64f_16s, ownsIIRxAR64f_16s, ownsIIRyAR64f_16s);
 }
 
+// What the two outputs before and the next three inputs weigh in the next four outputs, each rounded once.
+template <class F>
+void expectSectionTables()
+{
+    using T = typename F::Element;
+    using iir::Wide;
+    constexpr int sections = 12, rows = 5, columns = 4;
+    const IirOwner<F> state(IirForm::biquads, asTaps<T>(randomIirTaps(false, sections, false, 11)));
+    for (int s = 0; s < sections; ++s) {
+        const T* const taps = state->pTaps + 5 * s;
+        for (int row = 0; row < rows; ++row) {
+            Wide last = row == 0, secondLast = row == 1;
+            for (int column = 0; column < columns; ++column) {
+                const Wide input = column == row - 2;
+                const Wide y = input - Wide{taps[3]} * last - Wide{taps[4]} * secondLast;
+                secondLast = std::exchange(last, y);
+                const Wide ulp = y == 0 ? 0 : std::ldexp(Wide{std::numeric_limits<T>::epsilon()}, std::ilogb(y));
+                const Wide weight = state->pTapsY[rows * columns * s + columns * row + column];
+                EXPECT_LE(static_cast<double>(std::abs(weight - y)), static_cast<double>(0.51L * ulp))
+                    << "section " << s << ", row " << row << ", column " << column;
+            }
+        }
+    }
+}
+
+TEST(IirPassesTest, TablesOfSectionsAreRoundedOnce)
+{
+    expectSectionTables<IirTail32f>();
+    expectSectionTables<IirTail64f>();
+}
+
 // -- Sections side by side --------------------------------------------------------------------------------------------
 
 // A cascade gives what its sections give one after the other, to the bit, delay lines included; in place, too.
