@@ -156,6 +156,16 @@ TEST(LmsQ15Test, RoundsAndLimits)
     }
 }
 
+// Two squares of the lowest sample are one more than a signed integer holds.
+TEST(LmsQ15Test, AddsUpTheSquaresOfLowestSamples)
+{
+    for (int n : {2, 7, 8, 9, 16, 40, 129}) {
+        Normalised filter(std::vector<Tarn32s>(static_cast<std::size_t>(n), 500), 0);
+        for (int i = 0; i < n + 3; ++i)
+            ASSERT_NO_FATAL_FAILURE(filter.step(-32768, 100, 16384)) << n << " taps, sample " << i;
+    }
+}
+
 // A step of 1 makes the error of the same window zero.
 TEST(LmsQ15Test, ConvergesAtAnyPower)
 {
