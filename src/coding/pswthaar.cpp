@@ -9,9 +9,6 @@ using namespace tarn;
 namespace {
 
 template <typename T>
-constexpr int widthOf = 8 * static_cast<int>(sizeof(T));
-
-template <typename T>
 TarnStatus forward(void (*kernel)(const T*, int, T*, T*), const T* pSrc, int len, T* pDstLow, T* pDstHigh)
 {
     if (const TarnStatus status = check(len, pSrc, pDstLow, pDstHigh)) {
@@ -38,7 +35,7 @@ TarnStatus forwardScaled(TarnStatus (*unscaled)(const T*, int, T*, T*), void (*k
     if (const TarnStatus status = check(len, pSrc, pDstLow, pDstHigh)) {
         return status;
     }
-    if (scaleFactor >= widthOf<T>) {
+    if (scaleFactor >= bitsOfType<T>) {
         zeroFill(pDstLow, len - len / 2);
         if (len > 1) {
             zeroFill(pDstHigh, len / 2);
@@ -60,7 +57,7 @@ TarnStatus inverseScaled(TarnStatus (*unscaled)(const T*, const T*, T*, int),
     if (const TarnStatus status = check(len, pSrcLow, pSrcHigh, pDst)) {
         return status;
     }
-    if (scaleFactor > widthOf<T>) {
+    if (scaleFactor > bitsOfType<T>) {
         zeroFill(pDst, len);
     } else {
         kernel(pSrcLow, pSrcHigh, pDst, len, scaleFactor);

@@ -4,6 +4,11 @@
 
 #include "frame/kernels.h"
 
+namespace tarn {
+template <typename T>
+inline constexpr int bitsOfType = 8 * static_cast<int>(sizeof(T));
+} // namespace tarn
+
 #define TARN_DECLARE_HAAR_KERNELS(TAG)                                                                             \
     TARN_KERNEL void ownsWTHaarFwd_##TAG(const Tarn##TAG* pSrc, int len, Tarn##TAG* pDstLow, Tarn##TAG* pDstHigh); \
     TARN_KERNEL void ownsWTHaarInv_##TAG(const Tarn##TAG* pSrcLow, const Tarn##TAG* pSrcHigh, Tarn##TAG* pDst, int len)

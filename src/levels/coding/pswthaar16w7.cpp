@@ -36,16 +36,6 @@ struct Halves {
     }
 };
 
-template <typename T>
-TARN_INLINE void analyseHalves(const T* pSrc, int len, T* pDstLow, T* pDstHigh)
-{
-    const T last = loadElement(pSrc + len - 1);
-    analyse(pSrc, len, pDstLow, pDstHigh, Halves<T>{});
-    if (len % 2 != 0) {
-        store(pDstLow + len / 2, last);
-    }
-}
-
 // A scale factor of 1: the second value is the first one plus h, not (l + h) / 2 rounded by itself. They differ in the
 // ties where h is odd. The sum is formed before the first one is saturated, and needs no limit.
 struct HalvedFromTheFirst {
@@ -65,12 +55,12 @@ struct HalvedFromTheFirst {
 
 void ownsWTHaarFwd_8s(const Tarn8s* pSrc, int len, Tarn8s* pDstLow, Tarn8s* pDstHigh)
 {
-    analyseHalves(pSrc, len, pDstLow, pDstHigh);
+    analyseHalves(pSrc, len, pDstLow, pDstHigh, Halves<Tarn8s>{});
 }
 
 void ownsWTHaarFwd_16s(const Tarn16s* pSrc, int len, Tarn16s* pDstLow, Tarn16s* pDstHigh)
 {
-    analyseHalves(pSrc, len, pDstLow, pDstHigh);
+    analyseHalves(pSrc, len, pDstLow, pDstHigh, Halves<Tarn16s>{});
 }
 
 void ownsWTHaarFwd_8s_Sfs(const Tarn8s* pSrc, int len, Tarn8s* pDstLow, Tarn8s* pDstHigh, int scaleFactor)
@@ -85,12 +75,12 @@ void ownsWTHaarFwd_16s_Sfs(const Tarn16s* pSrc, int len, Tarn16s* pDstLow, Tarn1
 
 void ownsWTHaarInv_8s(const Tarn8s* pSrcLow, const Tarn8s* pSrcHigh, Tarn8s* pDst, int len)
 {
-    synthesiseSaturated(pSrcLow, pSrcHigh, pDst, len);
+    synthesiseUnscaled(pSrcLow, pSrcHigh, pDst, len, SaturatedHaarInverse{});
 }
 
 void ownsWTHaarInv_16s(const Tarn16s* pSrcLow, const Tarn16s* pSrcHigh, Tarn16s* pDst, int len)
 {
-    synthesiseSaturated(pSrcLow, pSrcHigh, pDst, len);
+    synthesiseUnscaled(pSrcLow, pSrcHigh, pDst, len, SaturatedHaarInverse{});
 }
 
 void ownsWTHaarInv_8s_Sfs(const Tarn8s* pSrcLow, const Tarn8s* pSrcHigh, Tarn8s* pDst, int len, int scaleFactor)

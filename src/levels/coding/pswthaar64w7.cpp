@@ -28,16 +28,6 @@ struct Halves {
     }
 };
 
-template <typename T>
-TARN_INLINE void analyseHalves(const T* pSrc, int len, T* pDstLow, T* pDstHigh)
-{
-    const T last = loadElement(pSrc + len - 1);
-    analyse(pSrc, len, pDstLow, pDstHigh, Halves<T>{});
-    if (len % 2 != 0) {
-        store(pDstLow + len / 2, last);
-    }
-}
-
 } // namespace
 } // namespace tarn
 
@@ -46,7 +36,7 @@ using namespace tarn;
 #define TARN_DEFINE_HAAR_KERNELS(T, TAG)                                                                   \
     void ownsWTHaarFwd_##TAG(const T* pSrc, int len, T* pDstLow, T* pDstHigh)                              \
     {                                                                                                      \
-        analyseHalves(pSrc, len, pDstLow, pDstHigh);                                                       \
+        analyseHalves(pSrc, len, pDstLow, pDstHigh, Halves<T>{});                                          \
     }                                                                                                      \
     void ownsWTHaarFwd_##TAG##_Sfs(const T* pSrc, int len, T* pDstLow, T* pDstHigh, int scaleFactor)       \
     {                                                                                                      \
@@ -54,7 +44,7 @@ using namespace tarn;
     }                                                                                                      \
     void ownsWTHaarInv_##TAG(const T* pSrcLow, const T* pSrcHigh, T* pDst, int len)                        \
     {                                                                                                      \
-        synthesiseSaturated(pSrcLow, pSrcHigh, pDst, len);                                                 \
+        synthesiseUnscaled(pSrcLow, pSrcHigh, pDst, len, SaturatedHaarInverse{});                          \
     }                                                                                                      \
     void ownsWTHaarInv_##TAG##_Sfs(const T* pSrcLow, const T* pSrcHigh, T* pDst, int len, int scaleFactor) \
     {                                                                                                      \

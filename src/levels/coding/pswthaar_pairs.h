@@ -1,4 +1,5 @@
-// Neighbouring elements of an array as source and as destination of the walker: one step for every two of them.
+// Neighbouring elements of an array as source and as destination of the walker: one step for every two of them. And the
+// transform of whole vectors with them.
 #pragma once
 
 #include "frame/two_arrays.h"
@@ -74,6 +75,29 @@ template <typename T, typename X>
 TARN_INLINE void storeStream(NeighboursTo<T> dst, Both<X, X> x)
 {
     storeStream(dst.p, zip(x.first, x.second));
+}
+
+// A channel may lie where the source does: of no element that is still to be read has a result been written.
+template <typename T, typename Operation>
+TARN_INLINE void analyse(const T* pSrc, int len, T* pDstLow, T* pDstHigh, Operation operation)
+{
+    walk(twoArrays(pDstLow, pDstHigh), len / 2, operation, Neighbours<T>{pSrc});
+}
+
+template <typename T, typename Operation>
+TARN_INLINE void synthesise(const T* pSrcLow, const T* pSrcHigh, T* pDst, int len, Operation operation)
+{
+    walk(NeighboursTo<T>{pDst}, len / 2, operation, pSrcLow, pSrcHigh);
+}
+
+// Of an odd length the last low value is the last element as it is.
+template <typename T, typename Operation>
+TARN_INLINE void synthesiseUnscaled(const T* pSrcLow, const T* pSrcHigh, T* pDst, int len, Operation operation)
+{
+    synthesise(pSrcLow, pSrcHigh, pDst, len, operation);
+    if (len % 2 != 0) {
+        moveElement(pDst + len - 1, pSrcLow + len / 2);
+    }
 }
 
 } // namespace tarn

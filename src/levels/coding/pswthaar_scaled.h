@@ -2,12 +2,10 @@
 #pragma once
 
 #include "frame/scale_exact.h"
+#include "levels/coding/pswthaar.h"
 #include "levels/coding/pswthaar_pairs.h"
 
 namespace tarn {
-
-template <typename T>
-inline constexpr int bitsOfType = 8 * static_cast<int>(sizeof(T));
 
 template <typename X>
 inline constexpr bool isNarrow = sizeof(Element<X>) <= 2;
@@ -38,8 +36,7 @@ template <typename X>
 TARN_INLINE auto exactDifferenceOf(X a, X b)
 {
     if constexpr (isNarrow<X>) {
-        const auto difference = sub(widen(a), widen(b));
-        return difference;
+        return sub(widen(a), widen(b));
     } else {
         return exactDifference(a, b);
     }
@@ -142,11 +139,15 @@ TARN_INLINE void withStep(int s, Run run)
 
 // -- Whole vectors ----------------------------------------------------------------------------------------------------
 
-// A channel may lie where the source does: of no element that is still to be read has a result been written.
+// Operation is one for pairs that halves their sums; of an odd length the last element is a low value as it is.
 template <typename T, typename Operation>
-TARN_INLINE void analyse(const T* pSrc, int len, T* pDstLow, T* pDstHigh, Operation operation)
+TARN_INLINE void analyseHalves(const T* pSrc, int len, T* pDstLow, T* pDstHigh, Operation operation)
 {
-    walk(twoArrays(pDstLow, pDstHigh), len / 2, operation, Neighbours<T>{pSrc});
+    const T last = loadElement(pSrc + len - 1);
+    analyse(pSrc, len, pDstLow, pDstHigh, operation);
+    if (len % 2 != 0) {
+        store(pDstLow + len / 2, last);
+    }
 }
 
 // One scale factor is one halving already. An odd last element counts as a pair of two equal ones.
@@ -160,21 +161,6 @@ TARN_INLINE void analyseScaled(const T* pSrc, int len, T* pDstLow, T* pDstHigh, 
             store(pDstLow + len / 2, step(exactSumOf(last, last)));
         }
     });
-}
-
-template <typename T, typename Operation>
-TARN_INLINE void synthesise(const T* pSrcLow, const T* pSrcHigh, T* pDst, int len, Operation operation)
-{
-    walk(NeighboursTo<T>{pDst}, len / 2, operation, pSrcLow, pSrcHigh);
-}
-
-template <typename T>
-TARN_INLINE void synthesiseSaturated(const T* pSrcLow, const T* pSrcHigh, T* pDst, int len)
-{
-    synthesise(pSrcLow, pSrcHigh, pDst, len, SaturatedHaarInverse{});
-    if (len % 2 != 0) {
-        moveElement(pDst + len - 1, pSrcLow + len / 2);
-    }
 }
 
 template <typename T, typename Step>

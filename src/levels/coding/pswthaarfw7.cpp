@@ -5,9 +5,8 @@
 //
 // - In double precision a difference or sum of elements is exact, or so much larger than one of them that single
 //   precision does not see what was lost; and halving is exact.
-// - In single precision b / 2 - a / 2 and b / 2 + (a - a / 2) are the same roundings of the same values, an infinite
-// `a`
-//   giving the same NaN, if no halving lost a bit. It does for denormals only, and then leaves a flag.
+// - In single precision b / 2 - a / 2 and b / 2 + (a - a / 2) are the same roundings of the same values, and of an
+//   infinite one the same NaN, if no halving lost a bit. It does for denormals only, and then leaves a flag.
 #include "levels/coding/pswthaar.h"
 #include "levels/coding/pswthaar_pairs.h"
 
@@ -113,15 +112,6 @@ void analyseExtended(const T* pSrc, int pairs, T* pDstLow, T* pDstHigh)
     walkElements(dst, 0, pairs, InExtended{}, src);
 }
 
-template <typename T>
-TARN_INLINE void synthesise(const T* pSrcLow, const T* pSrcHigh, T* pDst, int len)
-{
-    walk(NeighboursTo<T>{pDst}, len / 2, Inverse{}, pSrcLow, pSrcHigh);
-    if (len % 2 != 0) {
-        moveElement(pDst + len - 1, pSrcLow + len / 2);
-    }
-}
-
 } // namespace
 
 void ownsWTHaarFwd_32f(const Tarn32f* pSrc, int len, Tarn32f* pDstLow, Tarn32f* pDstHigh)
@@ -148,10 +138,10 @@ void ownsWTHaarFwd_64f(const Tarn64f* pSrc, int len, Tarn64f* pDstLow, Tarn64f* 
 
 void ownsWTHaarInv_32f(const Tarn32f* pSrcLow, const Tarn32f* pSrcHigh, Tarn32f* pDst, int len)
 {
-    synthesise(pSrcLow, pSrcHigh, pDst, len);
+    synthesiseUnscaled(pSrcLow, pSrcHigh, pDst, len, Inverse{});
 }
 
 void ownsWTHaarInv_64f(const Tarn64f* pSrcLow, const Tarn64f* pSrcHigh, Tarn64f* pDst, int len)
 {
-    synthesise(pSrcLow, pSrcHigh, pDst, len);
+    synthesiseUnscaled(pSrcLow, pSrcHigh, pDst, len, Inverse{});
 }
