@@ -147,8 +147,7 @@ public:
         const Tarn32u first = word(a);
         const Tarn32u second = word(8 + b);
         const auto error = static_cast<Tarn16s>(static_cast<Tarn16u>(first) + static_cast<Tarn16u>(second));
-        if (!isSet || error < smallest) {
-            isSet = true;
+        if (error < smallest) {
             smallest = error;
             code = static_cast<Tarn16u>((first >> halfWord) | (second >> halfWord << 8));
         }
@@ -159,8 +158,7 @@ private:
     Tarn32u word(int i) const { return loadElement(subsetErrors + (i & 15)); }
 
     const Tarn32u* subsetErrors;
-    bool isSet = false;
-    Tarn16s smallest = 0;
+    int smallest = highest<Tarn16s> + 1; // of none yet
     Tarn16u code = 0;
 };
 
@@ -200,10 +198,8 @@ void ownsGetVarPoint8_16sc(TARN_VAR_POINT_PARAMETERS) { getVarPoint<8>(pSrc, pBa
 void owntarnsBuild4DSymblTable16_16sc(const Tarn32u* pSubsetError, Tarn32u* pBranchTable)
 {
     const Pairs pairs(pSubsetError, 1);
-    storeEntries(pBranchTable, better(pairs.with<0, 0>(),
-                                      joined(asFirst(loadElement(pSubsetError + 2)), turned<2>(pairs.second[0]))));
-    storeEntries(pBranchTable + 4, better(pairs.with<1, 0>(),
-                                          joined(asFirst(loadElement(pSubsetError + 3)), turned<3>(pairs.second[0]))));
+    storeEntries(pBranchTable, better(pairs.with<0, 0>(), pairs.with<2, 0>()));
+    storeEntries(pBranchTable + 4, better(pairs.with<1, 0>(), pairs.with<3, 0>()));
 }
 
 void owntarnsBuild4DSymblTable32_16sc(const Tarn32u* pSubsetError, Tarn32u* pBranchTable)
