@@ -1,26 +1,19 @@
 // The forward filters of wavelet banks: every second output of a convolution.
-#include "frame/simd.h"
-#include "levels/coding/pswt.h"
 #include "levels/coding/pswt_heads.h"
-#include "levels/coding/pswt_unroll.h"
+#include "levels/coding/pswt_taps.h"
+
+#include "frame/walk.h"
 
 #include <algorithm>
-#include <array>
 
 using namespace tarn;
+using namespace tarn::wavelet;
 
 namespace {
-
-using V = Vector<Tarn32f>;
-constexpr int width = V::size;
 
 // Pairs of neighbouring samples are multiplied by pairs of taps, in the order of the window, so that no vector needs a
 // shuffle in front of its product; a filter of an odd length has its last tap alone before the pairs. An output is
 // (p0 + p2 + ..) + (p1 + p3 + ..), p being the products of the pairs, + the lone product.
-
-// Filters of up to so many pairs have loops of their own. Others are gone through in passes of four pairs.
-constexpr int mostPairs = 5;
-constexpr int pairsOfPass = 4;
 
 template <int pairs>
 using TapVectors = std::array<V, static_cast<unsigned>(pairs)>;
@@ -28,7 +21,7 @@ template <int pairs>
 TARN_INLINE TapVectors<pairs> tapVectors(const Tarn32f* table)
 {
     TapVectors<pairs> taps;
-    unroll<pairs>([&](auto i) { taps[i] = loadAligned<width>(table + width * i); });
+    repeat<pairs>([&](auto i) { taps[i] = loadAligned<width>(table + width * i); });
     return taps;
 }
 
@@ -44,10 +37,10 @@ struct PairSums {
     TARN_INLINE void pass(const TapVectors<pairs>& taps)
     {
         constexpr int apart = width / 2; // pairs from one vector to the next
-        unroll<pairs + apart*(vectors - 1)>([&](auto at) {
+        repeat<pairs + apart*(vectors - 1)>([&](auto at) {
             V x = loadPack<width>(samples + 2 * at);
             settle(x); // or it would be loaded once for each sum
-            unroll<vectors>([&](auto v) {
+            repeat<vectors>([&](auto v) {
                 constexpr int pair = decltype(at)::value - apart * decltype(v)::value;
                 if constexpr (pair >= 0 && pair < pairs) {
                     const V p = mul(x, taps[pair]);
@@ -60,19 +53,12 @@ struct PairSums {
 
     TARN_INLINE void passes(const Tarn32f* table, int pairs)
     {
-        pass<pairsOfPass, true>(tapVectors<pairsOfPass>(table));
-        for (pairs -= pairsOfPass; pairs >= pairsOfPass; pairs -= pairsOfPass) {
-            table += pairsOfPass * width;
-            pass<pairsOfPass, false>(tapVectors<pairsOfPass>(table));
-        }
-        table += pairsOfPass * width;
-        if (pairs == 3) {
-            pass<3, false>(tapVectors<3>(table));
-        } else if (pairs == 2) {
-            pass<2, false>(tapVectors<2>(table));
-        } else if (pairs == 1) {
-            pass<1, false>(tapVectors<1>(table));
-        }
+        const auto one = [&](auto count, auto isFirst) __attribute__((always_inline))
+        {
+            pass<count, isFirst>(tapVectors<count>(table));
+            table += count * width;
+        };
+        inPasses(pairs, one);
     }
 };
 
@@ -148,11 +134,10 @@ void filterDown(const Tarn32f* src, Tarn32f* dst, std::ptrdiff_t count, const Wa
     }
 }
 
-using DownLoop = void (*)(const Tarn32f*, Tarn32f*, std::ptrdiff_t, const WaveletKernel&);
 template <int... known>
 constexpr auto downLoops(std::integer_sequence<int, known...> /*pairs*/)
 {
-    return std::array<std::array<DownLoop, 2>, sizeof...(known)>{
+    return std::array<std::array<BlockLoop, 2>, sizeof...(known)>{
         {{filterDown<known, false>, filterDown<known, true>}...}};
 }
 

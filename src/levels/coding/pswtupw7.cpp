@@ -1,25 +1,18 @@
 // The inverse filters of wavelet banks: a convolution of a signal that has zeros between its samples.
-#include "frame/simd.h"
-#include "levels/coding/pswt.h"
 #include "levels/coding/pswt_heads.h"
-#include "levels/coding/pswt_unroll.h"
+#include "levels/coding/pswt_taps.h"
+
+#include "frame/walk.h"
 
 #include <algorithm>
-#include <array>
 
 using namespace tarn;
+using namespace tarn::wavelet;
 
 namespace {
 
-using V = Vector<Tarn32f>;
-constexpr int width = V::size;
-
 // Even outputs are sums with the even taps, odd ones with the odd taps, over the same samples, the oldest first. A
 // filter of an odd length has one even tap more, on the oldest sample.
-
-// Filters of up to so many pairs have loops of their own. Others are gone through in passes of four pairs.
-constexpr int mostPairs = 5;
-constexpr int pairsOfPass = 4;
 
 template <int vectors>
 struct TapSums {
@@ -32,9 +25,9 @@ struct TapSums {
     template <int pairs, bool firstEven, bool firstOdd>
     TARN_INLINE void pass()
     {
-        unroll<pairs>([&](auto pair) {
+        repeat<pairs>([&](auto pair) {
             const Tarn32f* const taps = table + 2 * width * pair;
-            unroll<vectors>([&](auto v) {
+            repeat<vectors>([&](auto v) {
                 constexpr int at = decltype(pair)::value;
                 V x = loadPack<width>(samples + at + width * v);
                 settle(x); // or it would be loaded twice
@@ -51,17 +44,11 @@ struct TapSums {
     template <bool firstEven>
     TARN_INLINE void passes(int pairs)
     {
-        pass<pairsOfPass, firstEven, true>();
-        for (pairs -= pairsOfPass; pairs >= pairsOfPass; pairs -= pairsOfPass) {
-            pass<pairsOfPass, false, false>();
-        }
-        if (pairs == 3) {
-            pass<3, false, false>();
-        } else if (pairs == 2) {
-            pass<2, false, false>();
-        } else if (pairs == 1) {
-            pass<1, false, false>();
-        }
+        const auto one = [&](auto count, auto isFirst) __attribute__((always_inline))
+        {
+            pass<count, firstEven && isFirst, isFirst>();
+        };
+        inPasses(pairs, one);
     }
 };
 
@@ -147,11 +134,10 @@ void filterAll(const Tarn32f* src, Tarn32f* dst, std::ptrdiff_t count, const Wav
     }
 }
 
-using UpLoop = void (*)(const Tarn32f*, Tarn32f*, std::ptrdiff_t, const WaveletKernel&);
 template <bool adds, int... known>
 constexpr auto upLoops(std::integer_sequence<int, known...> /*pairs*/)
 {
-    return std::array<std::array<UpLoop, 2>, sizeof...(known)>{
+    return std::array<std::array<BlockLoop, 2>, sizeof...(known)>{
         {{filterAll<adds, known, false>, filterAll<adds, known, true>}...}};
 }
 
@@ -161,8 +147,8 @@ void filterUp(const Tarn32f* src, Tarn32f* dst, std::ptrdiff_t count, const Wave
     constexpr auto loops = upLoops<adds>(std::make_integer_sequence<int, mostPairs + 1>{});
     const int pairs = kernel.len / 2;
     const bool isOdd = kernel.len % 2 != 0;
-    const UpLoop any = isOdd ? filterAll<adds, -1, true> : filterAll<adds, -1, false>;
-    const UpLoop loop = pairs <= mostPairs ? loops[static_cast<unsigned>(pairs)][isOdd ? 1 : 0] : any;
+    const BlockLoop any = isOdd ? filterAll<adds, -1, true> : filterAll<adds, -1, false>;
+    const BlockLoop loop = pairs <= mostPairs ? loops[static_cast<unsigned>(pairs)][isOdd ? 1 : 0] : any;
     loop(src, dst, count, kernel);
 }
 
