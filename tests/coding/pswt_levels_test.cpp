@@ -1,6 +1,5 @@
 // Wavelet banks that join what they split: wavelets in streams cut anywhere, delays of offsets and levels, the numbers
 // of the manual.
-#include "support/hard_values.h"
 #include "support/wavelet_banks.h"
 
 #include <fstream>
@@ -11,25 +10,6 @@ namespace tarn::test {
 namespace {
 
 using wavelet::Filter;
-
-std::vector<float> randomSignal(std::size_t len, std::uint64_t seed)
-{
-    return randomValues<float>(len, seed, Values::unit);
-}
-
-// Integers of the type, up to 2000 of magnitude: their sums stay small.
-std::vector<float> signalFor(const ForwardBank& bank, std::size_t len, std::uint64_t seed)
-{
-    auto signal = randomSignal(len, seed);
-    if (bank.sampleBytes < sizeof(float)) {
-        for (float& x : signal)
-            x = static_cast<float>(std::clamp(std::nearbyint(2000.0 * x), bank.lowest, bank.highest));
-    }
-    return signal;
-}
-
-// Whole, sample by sample, and in pieces around the lengths of filters, of vectors and of chunks.
-const std::vector<Cuts> cutLists = {{4000}, {1}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, {17, 1, 64, 33, 2}, {512, 513, 5}};
 
 // -- Reconstruction ---------------------------------------------------------------------------------------------------
 

@@ -1,7 +1,6 @@
 // States of wavelet banks: fields and delay lines.
 #include "levels/coding/pswt.h"
 #include "support/compare.h"
-#include "support/hard_values.h"
 #include "support/wavelet_banks.h"
 
 namespace tarn::test {
@@ -9,18 +8,10 @@ namespace {
 
 using wavelet::Filter;
 
-Filter randomFilter(int len, int offs, std::uint64_t seed)
-{
-    return {randomValues<float>(static_cast<std::size_t>(len), seed, Values::unit), offs};
-}
-
 std::vector<float> lineOf(int len, std::uint64_t seed)
 {
-    return randomValues<float>(static_cast<std::size_t>(std::max(len, 0)), seed, Values::unit);
+    return randomSignal(static_cast<std::size_t>(std::max(len, 0)), seed);
 }
-
-const Filter three = {{1, 2, 3}, 2};
-const Filter four = {{4, 5, 6, 7}, -1};
 
 // -- Fields -----------------------------------------------------------------------------------------------------------
 

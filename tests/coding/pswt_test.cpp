@@ -2,7 +2,6 @@
 // them.
 #include "levels/coding/pswt.h"
 #include "support/compare.h"
-#include "support/hard_values.h"
 #include "support/wavelet_banks.h"
 
 namespace tarn::test {
@@ -11,27 +10,6 @@ namespace {
 using wavelet::Filter;
 using wavelet::Sum;
 using wavelet::Wide;
-
-Filter randomFilter(int len, int offs, std::uint64_t seed)
-{
-    return {randomValues<float>(static_cast<std::size_t>(len), seed, Values::unit), offs};
-}
-
-std::vector<float> randomSignal(std::size_t len, std::uint64_t seed)
-{
-    return randomValues<float>(len, seed, Values::unit);
-}
-
-// Integers of the type, up to 2000 of magnitude: their sums stay small.
-std::vector<float> signalFor(const ForwardBank& bank, std::size_t len, std::uint64_t seed)
-{
-    auto signal = randomSignal(len, seed);
-    if (bank.sampleBytes < sizeof(float)) {
-        for (float& x : signal)
-            x = static_cast<float>(std::clamp(std::nearbyint(2000.0 * x), bank.lowest, bank.highest));
-    }
-    return signal;
-}
 
 ::testing::AssertionResult near(const std::vector<Sum>& expected, const std::vector<float>& actual, int terms)
 {
@@ -66,9 +44,6 @@ std::vector<Sum> sumOf(const std::vector<Sum>& a, const std::vector<Sum>& b)
         sums.push_back(a[i] + b[i]);
     return sums;
 }
-
-// Whole, sample by sample, and in pieces around the lengths of filters, of vectors and of chunks.
-const std::vector<Cuts> cutLists = {{4000}, {1}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, {17, 1, 64, 33, 2}, {512, 513, 5}};
 
 struct Shape {
     int len, offs;

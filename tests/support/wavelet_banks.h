@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/wavelet.h"
+#include "support/hard_values.h"
 #include "tarns.h"
 
 #include <gtest/gtest.h>
@@ -109,6 +110,16 @@ inline const std::vector<InverseBank>& inverseBanks()
     return banks;
 }
 
+/// Calls `run` for each of them, forward ones first.
+template <class Run>
+void forAllBanks(Run run)
+{
+    for (const ForwardBank& bank : forwardBanks())
+        run(bank);
+    for (const InverseBank& bank : inverseBanks())
+        run(bank);
+}
+
 /// A state that is freed at the end of its scope.
 template <class Bank>
 class BankOwner {
@@ -137,6 +148,10 @@ struct Channels {
 /// Lengths of calls, at half rate, repeated until the signal ends.
 using Cuts = std::vector<int>;
 
+/// Whole, sample by sample, and in pieces around the lengths of filters, of vectors and of chunks.
+inline const std::vector<Cuts> cutLists = {
+    {4000}, {1}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, {17, 1, 64, 33, 2}, {512, 513, 5}};
+
 /// Calls `run(begin, len)` for the pieces of `total` samples.
 template <class Run>
 void inPieces(std::size_t total, const Cuts& cuts, Run run)
@@ -147,6 +162,31 @@ void inPieces(std::size_t total, const Cuts& cuts, Run run)
         run(begin, static_cast<int>(len));
         begin += len;
     }
+}
+
+/// A filter that delays, and one that advances.
+inline const wavelet::Filter three = {{1, 2, 3}, 2};
+inline const wavelet::Filter four = {{4, 5, 6, 7}, -1};
+
+inline std::vector<float> randomSignal(std::size_t len, std::uint64_t seed)
+{
+    return randomValues<float>(len, seed, Values::unit);
+}
+
+inline wavelet::Filter randomFilter(int len, int offs, std::uint64_t seed)
+{
+    return {randomSignal(static_cast<std::size_t>(len), seed), offs};
+}
+
+/// Integers of the type, up to 2000 of magnitude: their sums stay small.
+inline std::vector<float> signalFor(const ForwardBank& bank, std::size_t len, std::uint64_t seed)
+{
+    auto signal = randomSignal(len, seed);
+    if (bank.sampleBytes < sizeof(float)) {
+        for (float& x : signal)
+            x = static_cast<float>(std::clamp(std::nearbyint(2000.0 * x), bank.lowest, bank.highest));
+    }
+    return signal;
 }
 
 /// An even number of samples through a forward bank. Integer ones have such values.
