@@ -24,8 +24,8 @@ extern "C" {
     @{ */
 
 /** Linear values of codes: pDst[i] = value of pSrc[i], the middle of its interval. A-law spans -32256 to 32256 and has
-    no zero (its smallest values are +-8), mu-law -32124 to 32124. As floats the values are divided by 32768, exactly,
-   and lie within -1 and 1; a zero is +0.
+    no zero (its smallest values are +-8), mu-law -32124 to 32124. As floats the values are divided by 32768, exactly;
+    they lie within -1 and 1, and a zero is +0.
 
     @param pSrc codes, `len` elements
     @param pDst linear samples, `len` elements

@@ -21,8 +21,8 @@ extern "C" {
     each other:
 
     - a received point: in units in which the constellation's points lie at odd multiples of 128;
-    - subset errors: for each of eight 2-D subsets (four for 16 states) a word with the squared error in the low half
-   and the number of its nearest point, 0 to 11, in the high half;
+    - subset errors: for each of eight 2-D subsets (four for 16 states) a word with the squared error in the low half,
+      and the number of its nearest point, 0 to 11, in the high half;
     - branch table: for each 4-D subset, 8, 16 or 32 of them for 16, 32 or 64 states, a word with the code in the low
       half (the number of the first point in the low byte, that of the second in the high one) and the error in the high
       half;
@@ -57,9 +57,10 @@ extern "C" {
     For 16 states only the first four are written, for all others the smaller of two, on a tie the second. Where the map
     has a subset at several of these places the last one stays.
 
-    Of the last two rows each has the errors of the place of the other: points 6 and 10 lie at col, row + 3, points 7
-   and 11 at col + 1, row + 3, both more than a grid step off the received point. That is how these tables have always
-   been built; the error of a subset that has a corner of the cell around the received point is not touched by it.
+    Of the last two rows each has the errors of the place of the other: points 6 and 10 lie at col, row + 3, and points
+    7 and 11 at col + 1, row + 3, both more than a grid step off the received point. That is how these tables have
+    always been built; the error of a subset that has a corner of the cell around the received point is not touched by
+    it.
 
     @param pSrc         the received point
     @param pBasePoint   where the base point goes
@@ -106,8 +107,7 @@ TARN_API TarnStatus tarnsBuildSymblTableDV4D_16sc(const Tarn32u* pSubsetError, T
 
     @param pPathMetric  metric of each state, `numStates` elements
     @param pNextState   next state of each branch, `numStates` rows of 4 bytes for 16 states, 8 for 32, 16 otherwise;
-                        all below `numStates`: for 16,
-                        32 and 64 states branches to others are passed over
+                        all below `numStates`: for 16, 32 and 64 states branches to others are passed over
     @param pNewMetric   new metrics, `numStates` elements: 65535 all of them to begin with, which is how
                         tarnsUpdatePathMetricsDV_16u() leaves them
     @param pBranchTable branch table of the step

@@ -148,10 +148,9 @@ TARN_API TarnStatus tarnsWTInv_32f16s(const Tarn32f* pSrcLow, const Tarn32f* pSr
 /** Sets the delay lines of both channels, or gets them: the samples that outputs to come still depend on, the oldest
     first. A state that is set to what another one gave goes on exactly as that one does.
 
-    A channel of a forward bank has `len` + `offs` - 1 samples, those of the signal; with an offset of -1 there are
-   `len`
-    - 2 (none if `len` is 1). One of an inverse bank has the (`offs` + `len` - 1) / 2 newest samples of the channel,
-    rounded down; with an offset of -1 there are `len` / 2.
+    A channel of a forward bank has `len` + `offs` - 1 samples, those of the signal; with an offset of -1 it has one
+    less than without any (none if `len` is 1). One of an inverse bank has the (`offs` + `len` - 1) / 2 newest samples
+    of the channel, rounded down; with an offset of -1 there are `len` / 2.
 
     @param pState   state of the bank
     @param pDlyLow  delay line of the low channel
