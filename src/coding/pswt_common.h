@@ -100,6 +100,30 @@ inline void setLines(const Tarn32f* pDly, CircularLine& line, int count, Circula
     }
 }
 
+// Samples of a filter's line that still count: forward as many as miss for the next output, and inverse those that the
+// next ones have in their sums.
+inline int countOf(const ConvDown2& conv) { return conv.len - conv.phase - 1; }
+inline int countOf(const Up2Conv& conv) { return (conv.len + conv.phase - 1) / 2; }
+
+template <typename State>
+inline void setBankLines(State* state, const Tarn32f* pDlyLow, const Tarn32f* pDlyHigh)
+{
+    const auto set = [](const auto& conv, const Tarn32f* pDly) {
+        setLines(pDly, *conv.pConv->pLine, countOf(*conv.pConv), conv.pOffsetLine);
+    };
+    set(*state->pLow, pDlyLow);
+    set(*state->pHigh, pDlyHigh);
+}
+template <typename State>
+inline void getBankLines(const State* state, Tarn32f* pDlyLow, Tarn32f* pDlyHigh)
+{
+    const auto get = [](const auto& conv, Tarn32f* pDly) {
+        getLines(*conv.pConv->pLine, countOf(*conv.pConv), conv.pOffsetLine, pDly);
+    };
+    get(*state->pLow, pDlyLow);
+    get(*state->pHigh, pDlyHigh);
+}
+
 // -- Checks -----------------------------------------------------------------------------------------------------------
 
 inline TarnStatus checkFilters(const void* ppState, const WaveletFilter& low, const WaveletFilter& high)
@@ -189,3 +213,43 @@ inline void floatsToSamples(const Tarn32f* src, Tarn16s* dst, int len)
 }
 
 } // namespace tarn
+
+// -- Front ends -------------------------------------------------------------------------------------------------------
+
+// All that a state has but its transform. WAY is Fwd or Inv.
+#define TARN_DEFINE_WT_STATE(WAY, TAIL, TAG, SCRATCH)                                                         \
+    TarnStatus tarnsWT##WAY##InitAlloc_##TAIL(TarnsWT##WAY##State_##TAIL** ppState, const Tarn32f* pTapsLow,  \
+                                              int lenLow, int offsLow, const Tarn32f* pTapsHigh, int lenHigh, \
+                                              int offsHigh)                                                   \
+    {                                                                                                         \
+        const WaveletFilter low{pTapsLow, lenLow, offsLow};                                                   \
+        const WaveletFilter high{pTapsHigh, lenHigh, offsHigh};                                               \
+        const TarnStatus status = checkFilters(ppState, low, high);                                           \
+        return status != tarnStsNoErr ? status : WT##WAY##BaseInit_32f(ppState, TAG, &low, &high, SCRATCH);   \
+    }                                                                                                         \
+    TarnStatus tarnsWT##WAY##Free_##TAIL(TarnsWT##WAY##State_##TAIL* pState)                                  \
+    {                                                                                                         \
+        const TarnStatus status = checkBankState(pState, TAG);                                                \
+        if (status == tarnStsNoErr) {                                                                         \
+            WT##WAY##BaseFree_32f(pState);                                                                    \
+        }                                                                                                     \
+        return status;                                                                                        \
+    }                                                                                                         \
+    TarnStatus tarnsWT##WAY##SetDlyLine_##TAIL(TarnsWT##WAY##State_##TAIL* pState, const Tarn32f* pDlyLow,    \
+                                               const Tarn32f* pDlyHigh)                                       \
+    {                                                                                                         \
+        const TarnStatus status = checkLines(pState, TAG, pDlyLow, pDlyHigh);                                 \
+        if (status == tarnStsNoErr) {                                                                         \
+            WT##WAY##BaseSetDlyLine_32f(pState, pDlyLow, pDlyHigh);                                           \
+        }                                                                                                     \
+        return status;                                                                                        \
+    }                                                                                                         \
+    TarnStatus tarnsWT##WAY##GetDlyLine_##TAIL(const TarnsWT##WAY##State_##TAIL* pState, Tarn32f* pDlyLow,    \
+                                               Tarn32f* pDlyHigh)                                             \
+    {                                                                                                         \
+        const TarnStatus status = checkLines(pState, TAG, pDlyLow, pDlyHigh);                                 \
+        if (status == tarnStsNoErr) {                                                                         \
+            WT##WAY##BaseGetDlyLine_32f(pState, pDlyLow, pDlyHigh);                                           \
+        }                                                                                                     \
+        return status;                                                                                        \
+    }

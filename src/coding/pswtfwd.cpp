@@ -16,9 +16,6 @@ struct DownFilter {
     CircularLine offsetLine;
 };
 
-// Samples of a filter's line that still count: as many as miss for the next output.
-int countOf(const ConvDown2& conv) { return conv.len - conv.phase - 1; }
-
 } // namespace
 
 long long tarn::convDown2OffsetBytes(long long len, long long offs)
@@ -75,20 +72,12 @@ void WTFwdBaseFree_32f(TarnsWTFwdState* pState) { freeBank(pState); }
 
 void WTFwdBaseSetDlyLine_32f(TarnsWTFwdState* pState, const Tarn32f* pDlyLow, const Tarn32f* pDlyHigh)
 {
-    const auto set = [](ConvDown2Offset& conv, const Tarn32f* pDly) {
-        setLines(pDly, *conv.pConv->pLine, countOf(*conv.pConv), conv.pOffsetLine);
-    };
-    set(*pState->pLow, pDlyLow);
-    set(*pState->pHigh, pDlyHigh);
+    setBankLines(pState, pDlyLow, pDlyHigh);
 }
 
 void WTFwdBaseGetDlyLine_32f(const TarnsWTFwdState* pState, Tarn32f* pDlyLow, Tarn32f* pDlyHigh)
 {
-    const auto get = [](const ConvDown2Offset& conv, Tarn32f* pDly) {
-        getLines(*conv.pConv->pLine, countOf(*conv.pConv), conv.pOffsetLine, pDly);
-    };
-    get(*pState->pLow, pDlyLow);
-    get(*pState->pHigh, pDlyHigh);
+    getBankLines(pState, pDlyLow, pDlyHigh);
 }
 
 void WTFwdBaseGetDlyLen_32f(const TarnsWTFwdState* pState, int* pLenLow, int* pLenHigh)
@@ -135,44 +124,12 @@ TarnStatus runForward(const S* pSrc, Tarn32f* pDstLow, Tarn32f* pDstHigh, int ds
 
 } // namespace
 
-#define TARN_DEFINE_WT_FWD(TAIL, S, SCRATCH)                                                                          \
-    TarnStatus tarnsWTFwdInitAlloc_##TAIL(TarnsWTFwdState_##TAIL** ppState, const Tarn32f* pTapsLow, int lenLow,      \
-                                          int offsLow, const Tarn32f* pTapsHigh, int lenHigh, int offsHigh)           \
-    {                                                                                                                 \
-        const WaveletFilter low{pTapsLow, lenLow, offsLow};                                                           \
-        const WaveletFilter high{pTapsHigh, lenHigh, offsHigh};                                                       \
-        const TarnStatus status = checkFilters(ppState, low, high);                                                   \
-        return status != tarnStsNoErr ? status : WTFwdBaseInit_32f(ppState, fwd##TAIL, &low, &high, SCRATCH);         \
-    }                                                                                                                 \
-    TarnStatus tarnsWTFwdFree_##TAIL(TarnsWTFwdState_##TAIL* pState)                                                  \
-    {                                                                                                                 \
-        const TarnStatus status = checkBankState(pState, fwd##TAIL);                                                  \
-        if (status == tarnStsNoErr) {                                                                                 \
-            WTFwdBaseFree_32f(pState);                                                                                \
-        }                                                                                                             \
-        return status;                                                                                                \
-    }                                                                                                                 \
-    TarnStatus tarnsWTFwdSetDlyLine_##TAIL(TarnsWTFwdState_##TAIL* pState, const Tarn32f* pDlyLow,                    \
-                                           const Tarn32f* pDlyHigh)                                                   \
-    {                                                                                                                 \
-        const TarnStatus status = checkLines(pState, fwd##TAIL, pDlyLow, pDlyHigh);                                   \
-        if (status == tarnStsNoErr) {                                                                                 \
-            WTFwdBaseSetDlyLine_32f(pState, pDlyLow, pDlyHigh);                                                       \
-        }                                                                                                             \
-        return status;                                                                                                \
-    }                                                                                                                 \
-    TarnStatus tarnsWTFwdGetDlyLine_##TAIL(const TarnsWTFwdState_##TAIL* pState, Tarn32f* pDlyLow, Tarn32f* pDlyHigh) \
-    {                                                                                                                 \
-        const TarnStatus status = checkLines(pState, fwd##TAIL, pDlyLow, pDlyHigh);                                   \
-        if (status == tarnStsNoErr) {                                                                                 \
-            WTFwdBaseGetDlyLine_32f(pState, pDlyLow, pDlyHigh);                                                       \
-        }                                                                                                             \
-        return status;                                                                                                \
-    }                                                                                                                 \
-    TarnStatus tarnsWTFwd_##TAIL(const S* pSrc, Tarn32f* pDstLow, Tarn32f* pDstHigh, int dstLen,                      \
-                                 TarnsWTFwdState_##TAIL* pState)                                                      \
-    {                                                                                                                 \
-        return runForward(pSrc, pDstLow, pDstHigh, dstLen, pState, fwd##TAIL);                                        \
+#define TARN_DEFINE_WT_FWD(TAIL, S, SCRATCH)                                                     \
+    TARN_DEFINE_WT_STATE(Fwd, TAIL, fwd##TAIL, SCRATCH)                                          \
+    TarnStatus tarnsWTFwd_##TAIL(const S* pSrc, Tarn32f* pDstLow, Tarn32f* pDstHigh, int dstLen, \
+                                 TarnsWTFwdState_##TAIL* pState)                                 \
+    {                                                                                            \
+        return runForward(pSrc, pDstLow, pDstHigh, dstLen, pState, fwd##TAIL);                   \
     }
 
 TARN_DEFINE_WT_FWD(32f, Tarn32f, 0)

@@ -15,8 +15,6 @@ struct UpFilter {
     CircularLine offsetLine;
 };
 
-int countOf(const Up2Conv& conv) { return (conv.len + conv.phase - 1) / 2; }
-
 // Taps `first`, first + 2, .. of a filter, the last one in front.
 void reverseEverySecond(const WaveletFilter& filter, int first, Tarn32f* taps, int count)
 {
@@ -91,20 +89,12 @@ void WTInvBaseFree_32f(TarnsWTInvState* pState) { freeBank(pState); }
 
 void WTInvBaseSetDlyLine_32f(TarnsWTInvState* pState, const Tarn32f* pDlyLow, const Tarn32f* pDlyHigh)
 {
-    const auto set = [](Up2ConvOffset& conv, const Tarn32f* pDly) {
-        setLines(pDly, *conv.pConv->pLine, countOf(*conv.pConv), conv.pOffsetLine);
-    };
-    set(*pState->pLow, pDlyLow);
-    set(*pState->pHigh, pDlyHigh);
+    setBankLines(pState, pDlyLow, pDlyHigh);
 }
 
 void WTInvBaseGetDlyLine_32f(const TarnsWTInvState* pState, Tarn32f* pDlyLow, Tarn32f* pDlyHigh)
 {
-    const auto get = [](const Up2ConvOffset& conv, Tarn32f* pDly) {
-        getLines(*conv.pConv->pLine, countOf(*conv.pConv), conv.pOffsetLine, pDly);
-    };
-    get(*pState->pLow, pDlyLow);
-    get(*pState->pHigh, pDlyHigh);
+    getBankLines(pState, pDlyLow, pDlyHigh);
 }
 
 // -- Front ends -------------------------------------------------------------------------------------------------------
@@ -146,44 +136,12 @@ TarnStatus runInverse(const Tarn32f* pSrcLow, const Tarn32f* pSrcHigh, int srcLe
 
 } // namespace
 
-#define TARN_DEFINE_WT_INV(TAIL, D, SCRATCH)                                                                          \
-    TarnStatus tarnsWTInvInitAlloc_##TAIL(TarnsWTInvState_##TAIL** ppState, const Tarn32f* pTapsLow, int lenLow,      \
-                                          int offsLow, const Tarn32f* pTapsHigh, int lenHigh, int offsHigh)           \
-    {                                                                                                                 \
-        const WaveletFilter low{pTapsLow, lenLow, offsLow};                                                           \
-        const WaveletFilter high{pTapsHigh, lenHigh, offsHigh};                                                       \
-        const TarnStatus status = checkFilters(ppState, low, high);                                                   \
-        return status != tarnStsNoErr ? status : WTInvBaseInit_32f(ppState, inv##TAIL, &low, &high, SCRATCH);         \
-    }                                                                                                                 \
-    TarnStatus tarnsWTInvFree_##TAIL(TarnsWTInvState_##TAIL* pState)                                                  \
-    {                                                                                                                 \
-        const TarnStatus status = checkBankState(pState, inv##TAIL);                                                  \
-        if (status == tarnStsNoErr) {                                                                                 \
-            WTInvBaseFree_32f(pState);                                                                                \
-        }                                                                                                             \
-        return status;                                                                                                \
-    }                                                                                                                 \
-    TarnStatus tarnsWTInvSetDlyLine_##TAIL(TarnsWTInvState_##TAIL* pState, const Tarn32f* pDlyLow,                    \
-                                           const Tarn32f* pDlyHigh)                                                   \
-    {                                                                                                                 \
-        const TarnStatus status = checkLines(pState, inv##TAIL, pDlyLow, pDlyHigh);                                   \
-        if (status == tarnStsNoErr) {                                                                                 \
-            WTInvBaseSetDlyLine_32f(pState, pDlyLow, pDlyHigh);                                                       \
-        }                                                                                                             \
-        return status;                                                                                                \
-    }                                                                                                                 \
-    TarnStatus tarnsWTInvGetDlyLine_##TAIL(const TarnsWTInvState_##TAIL* pState, Tarn32f* pDlyLow, Tarn32f* pDlyHigh) \
-    {                                                                                                                 \
-        const TarnStatus status = checkLines(pState, inv##TAIL, pDlyLow, pDlyHigh);                                   \
-        if (status == tarnStsNoErr) {                                                                                 \
-            WTInvBaseGetDlyLine_32f(pState, pDlyLow, pDlyHigh);                                                       \
-        }                                                                                                             \
-        return status;                                                                                                \
-    }                                                                                                                 \
-    TarnStatus tarnsWTInv_##TAIL(const Tarn32f* pSrcLow, const Tarn32f* pSrcHigh, int srcLen, D* pDst,                \
-                                 TarnsWTInvState_##TAIL* pState)                                                      \
-    {                                                                                                                 \
-        return runInverse(pSrcLow, pSrcHigh, srcLen, pDst, pState, inv##TAIL);                                        \
+#define TARN_DEFINE_WT_INV(TAIL, D, SCRATCH)                                                           \
+    TARN_DEFINE_WT_STATE(Inv, TAIL, inv##TAIL, SCRATCH)                                                \
+    TarnStatus tarnsWTInv_##TAIL(const Tarn32f* pSrcLow, const Tarn32f* pSrcHigh, int srcLen, D* pDst, \
+                                 TarnsWTInvState_##TAIL* pState)                                       \
+    {                                                                                                  \
+        return runInverse(pSrcLow, pSrcHigh, srcLen, pDst, pState, inv##TAIL);                         \
     }
 
 TARN_DEFINE_WT_INV(32f, Tarn32f, 0)
