@@ -303,7 +303,7 @@ TEST(WaveletBankTest, KeepsSpecialValuesToTheirWindows)
 // No read or write outside, at any address, and the same bits everywhere.
 TEST(WaveletBankTest, StaysWithinItsArrays)
 {
-    for (const auto& [len, offs] : {Shape{1, 0}, Shape{2, 1}, Shape{3, -1}, Shape{8, 0}, Shape{9, 5}}) {
+    for (const auto& [len, offs] : {Shape{1, 0}, Shape{1, -1}, Shape{2, 1}, Shape{3, -1}, Shape{8, 0}, Shape{9, 5}}) {
         const Filter filter = randomFilter(len, offs, 3);
         for (std::size_t count = 1; count < 44; count += count < 20 ? 1 : 5) {
             for (unsigned gap : {0u, 1u, 4u, 13u}) {
