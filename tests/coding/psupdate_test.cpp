@@ -73,9 +73,10 @@ void expectAverage(const Case& c, Tarn32s start, const std::vector<Tarn16s>& sam
 }
 
 /// Those at which a path or a closed form changes, and some between them.
-constexpr Tarn16s alphas[] = {-32768, -1449, -1448, -609, -608, -181, -180, -39, -38, -25, -24, -17, -16,  -7,   -6,
-                              -5,     -4,    -3,    -2,   -1,   0,    1,    2,   3,   4,   5,   6,   7,    8,    9,
-                              16,     17,    24,    25,   38,   39,   100,  181, 182, 200, 608, 609, 1448, 1449, 32767};
+constexpr Tarn16s alphas[] = {-32768, -2049, -2048, -609, -608, -181, -180, -46, -45,  -31,  -25,  -24,
+                              -17,    -16,   -7,    -6,   -5,   -4,   -3,   -2,  -1,   0,    1,    2,
+                              3,      4,     5,     6,    7,    8,    9,    16,  17,   24,   25,   31,
+                              45,     46,    100,   181,  182,  200,  608,  609, 2048, 2049, 32767};
 
 /// Samples of which the last few differ from what came before: y stays at the others' value until then, and within
 /// 32 bits at the end.
