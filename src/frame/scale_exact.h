@@ -81,9 +81,7 @@ TARN_INLINE X limitTo(Wide33<X> t)
 {
     static_assert(std::is_same_v<D, Element<X>>);
     constexpr int sign = 8 * static_cast<int>(sizeof(D)) - 1;
-    const auto signs = shiftRight(t.half, sign);
-    const auto bound = bitXor(signs, splat<X>(highest<D>));
-    return select(equal(signs, shiftRight(t.wrapped, sign)), t.wrapped, bound);
+    return select(equal(shiftRight(t.half, sign), shiftRight(t.wrapped, sign)), t.wrapped, boundOfSign(t.half));
 }
 
 // -- Complex results part by part

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/simd_float.h"
+#include "frame/simd_interleave.h"
 
 namespace tarn {
 
@@ -201,11 +202,10 @@ struct NarrowSaturated {
             return {native::narrow32To16s(first, second)};
         } else {
             static_assert(std::is_same_v<D, Tarn32s>);
-            using R = Pack<Tarn32s, N>;
-            const R low{native::even32(first, second)};
-            const R high{native::odd32(first, second)};
-            const auto bound = BitXor::of(ShiftRight::of(high, 31), splat<R>(highest<Tarn32s>));
-            return SelectInteger::of(EqualInteger::of(ShiftRight::of(low, 31), high), low, bound);
+            const auto halves = reinterpretPack<Tarn32s>(x);
+            const auto low = EvenElements::of(halves);
+            const auto high = OddElements::of(halves);
+            return SelectInteger::of(EqualInteger::of(ShiftRight::of(low, 31), high), low, BoundOfSign::of(high));
         }
     }
 };
@@ -220,7 +220,7 @@ struct ShiftLeftSaturated {
     {
         if constexpr (sizeof(T) == 8) {
             const auto shifted = ShiftLeft::of(x, n);
-            return (shifted >> n) == x ? shifted : x < 0 ? lowest<T> : highest<T>;
+            return (shifted >> n) == x ? shifted : BoundOfSign::of(x);
         } else {
             return clampTo<T>(static_cast<Tarn64s>(static_cast<unsigned long long>(Tarn64s{x}) << n));
         }
@@ -233,11 +233,8 @@ struct ShiftLeftSaturated {
         requires(sizeof(Element<R>) >= 4)
     static TARN_INLINE R of(R x, int n)
     {
-        using T = Element<R>;
-        constexpr int sign = 8 * static_cast<int>(sizeof(T)) - 1;
         const auto shifted = ShiftLeft::of(x, n);
-        const auto bound = BitXor::of(ShiftRight::of(x, sign), splat<R>(highest<T>));
-        return SelectInteger::of(EqualInteger::of(ShiftRight::of(shifted, n), x), shifted, bound);
+        return SelectInteger::of(EqualInteger::of(ShiftRight::of(shifted, n), x), shifted, BoundOfSign::of(x));
     }
 };
 inline constexpr Word<ShiftLeftSaturated> shiftLeftSaturated;

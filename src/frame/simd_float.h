@@ -13,12 +13,6 @@ concept Float = std::is_floating_point_v<T>;
 template <typename X>
 concept FloatRegister = AnyRegister<X> && Float<Element<X>>;
 
-// One word from parts that each serve some of the types.
-template <typename... Parts>
-struct Overloads : Parts... {
-    using Parts::of...;
-};
-
 // An operation on parts, applied to complex elements.
 template <typename Operation>
 struct OnParts {

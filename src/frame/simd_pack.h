@@ -228,6 +228,12 @@ private:
     }
 };
 
+// One word from parts that each serve some of the types.
+template <typename... Parts>
+struct Overloads : Parts... {
+    using Parts::of...;
+};
+
 // Memory. Nothing is assumed of an address: element access is a byte copy to the compiler and one move to the machine.
 
 template <typename T>

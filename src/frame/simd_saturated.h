@@ -5,107 +5,77 @@
 
 namespace tarn {
 
-struct AddSaturated {
+// The bound on the side of a sign: the lowest integer for negative ones, the highest for others.
+struct BoundOfSign {
     template <Integer T>
-        requires(sizeof(T) <= 4)
-    static TARN_INLINE T of(T a, T b)
+    static TARN_INLINE T of(T x)
     {
-        using W = std::conditional_t<sizeof(T) == 4, Tarn64s, Tarn32s>;
-        return clampTo<T>(static_cast<W>(W{a} + W{b}));
+        return x < 0 ? lowest<T> : highest<T>;
     }
-    static TARN_INLINE Tarn64s of(Tarn64s a, Tarn64s b)
+    template <IntegerRegister R>
+    static TARN_INLINE R of(R x)
     {
-        Tarn64s result;
-        return __builtin_add_overflow(a, b, &result) ? (a < 0 ? lowest<Tarn64s> : highest<Tarn64s>) : result;
+        using T = Element<R>;
+        static_assert(std::is_signed_v<T>);
+        constexpr int sign = 8 * static_cast<int>(sizeof(T)) - 1;
+        return BitXor::of(ShiftRight::of(x, sign), splat<R>(highest<T>));
     }
-    template <RegisterOf<Tarn8s> R>
-    static TARN_INLINE R of(R a, R b)
-    {
-        return {native::add8s(a.v, b.v)};
+};
+inline constexpr Word<BoundOfSign> boundOfSign;
+
+// Stamps a saturated operation from its operator and the stem of its instructions. Where registers have none, the
+// WRAPPED result has left the range where its sign is not that of the first operand although the operands' signs ALLOW
+// no other; the bound has the first operand's sign.
+#define TARN_SATURATED_OPERATION(NAME, OPERATOR, STEM, WRAPPED, ALLOW)                       \
+    struct NAME {                                                                            \
+        template <Integer T>                                                                 \
+            requires(sizeof(T) <= 4)                                                         \
+        static TARN_INLINE T of(T a, T b)                                                    \
+        {                                                                                    \
+            using W = std::conditional_t<sizeof(T) == 4, Tarn64s, Tarn32s>;                  \
+            return clampTo<T>(static_cast<W>(W{a} OPERATOR W{b}));                           \
+        }                                                                                    \
+        static TARN_INLINE Tarn64s of(Tarn64s a, Tarn64s b)                                  \
+        {                                                                                    \
+            Tarn64s result;                                                                  \
+            return __builtin_##STEM##_overflow(a, b, &result) ? BoundOfSign::of(a) : result; \
+        }                                                                                    \
+        template <IntegerRegister R>                                                         \
+            requires(sizeof(Element<R>) <= 2 || std::is_signed_v<Element<R>>)                \
+        static TARN_INLINE R of(R a, R b)                                                    \
+        {                                                                                    \
+            using T = Element<R>;                                                            \
+            if constexpr (std::is_same_v<T, Tarn8s>) {                                       \
+                return {native::STEM##8s(a.v, b.v)};                                         \
+            } else if constexpr (std::is_same_v<T, Tarn8u>) {                                \
+                return {native::STEM##8u(a.v, b.v)};                                         \
+            } else if constexpr (std::is_same_v<T, Tarn16s>) {                               \
+                return {native::STEM##16s(a.v, b.v)};                                        \
+            } else if constexpr (std::is_same_v<T, Tarn16u>) {                               \
+                return {native::STEM##16u(a.v, b.v)};                                        \
+            } else {                                                                         \
+                const auto result = WRAPPED::of(a, b);                                       \
+                const auto left = ALLOW::of(BitXor::of(a, b), BitXor::of(a, result));        \
+                const auto mask = ShiftRight::of(left, 8 * static_cast<int>(sizeof(T)) - 1); \
+                return SelectInteger::of(mask, BoundOfSign::of(a), result);                  \
+            }                                                                                \
+        }                                                                                    \
     }
-    template <RegisterOf<Tarn8u> R>
-    static TARN_INLINE R of(R a, R b)
-    {
-        return {native::add8u(a.v, b.v)};
-    }
-    template <RegisterOf<Tarn16u> R>
-    static TARN_INLINE R of(R a, R b)
-    {
-        return {native::add16u(a.v, b.v)};
-    }
-    template <RegisterOf<Tarn16s> R>
-    static TARN_INLINE R of(R a, R b)
-    {
-        return {native::add16s(a.v, b.v)};
-    }
-    // Carry out of the top: the wrapped sum is below an operand.
+TARN_SATURATED_OPERATION(AddWithinBounds, +, add, AddInteger, BitAndNot);
+TARN_SATURATED_OPERATION(SubSaturated, -, sub, SubInteger, BitAnd);
+#undef TARN_SATURATED_OPERATION
+
+// Carry out of the top: the wrapped sum is below an operand.
+struct AddBelowCarry {
     template <RegisterOf<Tarn32u> R>
     static TARN_INLINE R of(R a, R b)
     {
         const auto sum = AddInteger::of(a, b);
         return BitOr::of(sum, GreaterInteger::of(a, sum));
     }
-    // The sum wrapped where both operands have the sign that it lacks; the bound has their sign.
-    template <IntegerRegister R>
-        requires(std::is_signed_v<Element<R>> && sizeof(Element<R>) >= 4)
-    static TARN_INLINE R of(R a, R b)
-    {
-        using T = Element<R>;
-        constexpr int sign = 8 * static_cast<int>(sizeof(T)) - 1;
-        const auto sum = AddInteger::of(a, b);
-        const auto wrapped = ShiftRight::of(BitAndNot::of(BitXor::of(a, b), BitXor::of(a, sum)), sign);
-        const auto bound = BitXor::of(ShiftRight::of(a, sign), splat<R>(highest<T>));
-        return SelectInteger::of(wrapped, bound, sum);
-    }
 };
+using AddSaturated = Overloads<AddWithinBounds, AddBelowCarry>;
 inline constexpr Word<AddSaturated> addSaturated;
-
-// a minus b.
-struct SubSaturated {
-    template <Integer T>
-        requires(sizeof(T) <= 4)
-    static TARN_INLINE T of(T a, T b)
-    {
-        using W = std::conditional_t<sizeof(T) == 4, Tarn64s, Tarn32s>;
-        return clampTo<T>(static_cast<W>(W{a} - W{b}));
-    }
-    static TARN_INLINE Tarn64s of(Tarn64s a, Tarn64s b)
-    {
-        Tarn64s result;
-        return __builtin_sub_overflow(a, b, &result) ? (a < 0 ? lowest<Tarn64s> : highest<Tarn64s>) : result;
-    }
-    template <RegisterOf<Tarn8s> R>
-    static TARN_INLINE R of(R a, R b)
-    {
-        return {native::sub8s(a.v, b.v)};
-    }
-    template <RegisterOf<Tarn8u> R>
-    static TARN_INLINE R of(R a, R b)
-    {
-        return {native::sub8u(a.v, b.v)};
-    }
-    template <RegisterOf<Tarn16u> R>
-    static TARN_INLINE R of(R a, R b)
-    {
-        return {native::sub16u(a.v, b.v)};
-    }
-    template <RegisterOf<Tarn16s> R>
-    static TARN_INLINE R of(R a, R b)
-    {
-        return {native::sub16s(a.v, b.v)};
-    }
-    template <IntegerRegister R>
-        requires(std::is_signed_v<Element<R>> && sizeof(Element<R>) >= 4)
-    static TARN_INLINE R of(R a, R b)
-    {
-        using T = Element<R>;
-        constexpr int sign = 8 * static_cast<int>(sizeof(T)) - 1;
-        const auto difference = SubInteger::of(a, b);
-        const auto wrapped = ShiftRight::of(BitAnd::of(BitXor::of(a, b), BitXor::of(a, difference)), sign);
-        const auto bound = BitXor::of(ShiftRight::of(a, sign), splat<R>(highest<T>));
-        return SelectInteger::of(wrapped, bound, difference);
-    }
-};
-inline constexpr Word<SubSaturated> subSaturated;
+inline constexpr Word<SubSaturated> subSaturated; // a minus b
 
 } // namespace tarn

@@ -50,6 +50,9 @@ TEST(Simd, SaturatingArithmetic)
     expectAgreement<Tarn16u, Tarn16u>(subSaturated);
     expectAgreement<Tarn16s, Tarn16s>(subSaturated);
     expectAgreement<Tarn32s, Tarn32s>(subSaturated);
+    expectAgreement<Tarn16s>(boundOfSign);
+    expectAgreement<Tarn32s>(boundOfSign);
+    expectAgreement<Tarn64s>(boundOfSign);
 }
 
 TEST(Simd, ComparisonsAndChoices)
@@ -97,6 +100,7 @@ TEST(Simd, ShiftsAtEveryCount)
         expectAgreement<Tarn16u>(left);
         expectAgreement<Tarn32s>(left);
         expectAgreement<Tarn32u>(left);
+        expectAgreement<Tarn64s>(left);
         expectAgreement<Tarn16s>(right);
         expectAgreement<Tarn16u>(right);
         expectAgreement<Tarn32s>(right);
