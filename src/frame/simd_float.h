@@ -28,11 +28,12 @@ struct OnParts {
     }
 };
 
-// Stamps an operation that is one instruction: the element, then the registers.
+// Stamps an operation that is one instruction: the element, then the registers. Comparisons give a bool for elements
+// and a mask for registers; unordered operands compare as IEEE says.
 #define TARN_FLOAT_OPERATION(NAME, EXPRESSION, INSTRUCTION) \
     struct NAME {                                           \
         template <Float T>                                  \
-        static TARN_INLINE T of(T a, T b)                   \
+        static TARN_INLINE auto of(T a, T b)                \
         {                                                   \
             return EXPRESSION;                              \
         }                                                   \
@@ -48,6 +49,10 @@ TARN_FLOAT_OPERATION(Mul, a* b, mul);
 TARN_FLOAT_OPERATION(Div, a / b, div);
 TARN_FLOAT_OPERATION(MinFloat, a < b ? a : b, min);
 TARN_FLOAT_OPERATION(MaxFloat, a > b ? a : b, max);
+TARN_FLOAT_OPERATION(GreaterFloat, a > b, greater);
+TARN_FLOAT_OPERATION(LessFloat, a < b, less);
+TARN_FLOAT_OPERATION(EqualFloat, a == b, equal);
+TARN_FLOAT_OPERATION(NotLess, !(a < b), notLess);
 #undef TARN_FLOAT_OPERATION
 
 using AddReal = Overloads<AddInteger, AddFloat>;
@@ -78,25 +83,6 @@ TARN_INLINE X polynomial(X z, const Element<X> (&coefficients)[count])
 
 // -- Comparison and choice --------------------------------------------------------------------------------------------
 
-// Stamps a float comparison: a bool for elements, a mask for registers. Unordered operands compare as IEEE says.
-#define TARN_FLOAT_COMPARISON(NAME, OPERATOR, INSTRUCTION) \
-    struct NAME {                                          \
-        template <Float T>                                 \
-        static TARN_INLINE bool of(T a, T b)               \
-        {                                                  \
-            return a OPERATOR b;                           \
-        }                                                  \
-        template <FloatRegister R>                         \
-        static TARN_INLINE R of(R a, R b)                  \
-        {                                                  \
-            return {native::INSTRUCTION(a.v, b.v)};        \
-        }                                                  \
-    }
-TARN_FLOAT_COMPARISON(GreaterFloat, >, greater);
-TARN_FLOAT_COMPARISON(LessFloat, <, less);
-TARN_FLOAT_COMPARISON(EqualFloat, ==, equal);
-#undef TARN_FLOAT_COMPARISON
-
 struct LessInteger {
     template <Integer T>
     static TARN_INLINE bool of(T a, T b)
@@ -118,18 +104,6 @@ using Equal = Overloads<EqualInteger, EqualFloat>;
 inline constexpr Word<Equal> equal;
 
 // True where a is not below b: also where the two are unordered.
-struct NotLess {
-    template <Float T>
-    static TARN_INLINE bool of(T a, T b)
-    {
-        return !(a < b);
-    }
-    template <FloatRegister R>
-    static TARN_INLINE R of(R a, R b)
-    {
-        return {native::notLess(a.v, b.v)};
-    }
-};
 inline constexpr Word<NotLess> notLess;
 
 // True unless x is below or above y: where either is a NaN, too.
