@@ -43,47 +43,26 @@ struct Convert<Tarn64f> {
 
 // -- Floats as integers -----------------------------------------------------------------------------------------------
 
-// In the current rounding mode; what does not fit, NaN included, becomes the lowest integer.
-struct RoundToInteger {
-    static TARN_INLINE Tarn32s of(Tarn32f x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
-    static TARN_INLINE Tarn32s of(Tarn64f x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
-    template <RegisterOf<Tarn32f> R>
-    static TARN_INLINE Like<R, Tarn32s> of(R x)
-    {
-        return {native::round(x.v)};
+// Stamps a conversion; what does not fit, NaN included, becomes the lowest integer.
+#define TARN_CONVERSION_TO_INTEGER(NAME, INSTRUCTION, CVT)                                                      \
+    struct NAME {                                                                                               \
+        static TARN_INLINE Tarn32s of(Tarn32f x) { return _mm_##CVT##ss_si32(_mm_set_ss(x)); }                  \
+        static TARN_INLINE Tarn32s of(Tarn64f x) { return _mm_##CVT##sd_si32(_mm_set_sd(x)); }                  \
+        template <FloatRegister R>                                                                              \
+            requires(isSingle<Element<R>> || WideRegister<R>)                                                   \
+        static TARN_INLINE Like<R, Tarn32s> of(R x) { return {native::INSTRUCTION(x.v)}; }                      \
+        template <int N>                                                                                        \
+            requires(N == 2 * registerLanes<Tarn64f> && widestRegister == registerBytes)                        \
+        static TARN_INLINE Register<Tarn32s> of(Pack<Tarn64f, N> x)                                             \
+        {                                                                                                       \
+            return {_mm_unpacklo_epi64(_mm_##CVT##pd_epi32(lowHalf(x).v), _mm_##CVT##pd_epi32(highHalf(x).v))}; \
+        }                                                                                                       \
     }
-    template <RegisterOf<Tarn64f> R>
-        requires WideRegister<R>
-    static TARN_INLINE Like<R, Tarn32s> of(R x) { return {native::round(x.v)}; }
-    template <int N>
-        requires(N == 2 * registerLanes<Tarn64f> && widestRegister == registerBytes)
-    static TARN_INLINE Register<Tarn32s> of(Pack<Tarn64f, N> x)
-    {
-        return {_mm_unpacklo_epi64(_mm_cvtpd_epi32(lowHalf(x).v), _mm_cvtpd_epi32(highHalf(x).v))};
-    }
-};
+TARN_CONVERSION_TO_INTEGER(RoundToInteger, round, cvt); // in the current rounding mode
 inline constexpr Word<RoundToInteger> roundToInteger;
-
-// Towards zero; what does not fit, NaN included, becomes the lowest integer.
-struct TruncateToInteger {
-    static TARN_INLINE Tarn32s of(Tarn32f x) { return _mm_cvttss_si32(_mm_set_ss(x)); }
-    static TARN_INLINE Tarn32s of(Tarn64f x) { return _mm_cvttsd_si32(_mm_set_sd(x)); }
-    template <RegisterOf<Tarn32f> R>
-    static TARN_INLINE Like<R, Tarn32s> of(R x)
-    {
-        return {native::truncate(x.v)};
-    }
-    template <RegisterOf<Tarn64f> R>
-        requires WideRegister<R>
-    static TARN_INLINE Like<R, Tarn32s> of(R x) { return {native::truncate(x.v)}; }
-    template <int N>
-        requires(N == 2 * registerLanes<Tarn64f> && widestRegister == registerBytes)
-    static TARN_INLINE Register<Tarn32s> of(Pack<Tarn64f, N> x)
-    {
-        return {_mm_unpacklo_epi64(_mm_cvttpd_epi32(lowHalf(x).v), _mm_cvttpd_epi32(highHalf(x).v))};
-    }
-};
+TARN_CONVERSION_TO_INTEGER(TruncateToInteger, truncate, cvtt); // towards zero
 inline constexpr Word<TruncateToInteger> truncateToInteger;
+#undef TARN_CONVERSION_TO_INTEGER
 
 // The conversion of another word, saturated at both ends. No single-precision number lies between the highest integer
 // and 2^31, so that a limit from above cannot be one: the lowest integer, which the conversion gives from 2^31 on, is

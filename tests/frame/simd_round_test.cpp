@@ -19,6 +19,7 @@ TEST(SimdRound, FloatsAsIntegersInEveryRoundingMode)
         expectAgreement<Tarn32f>(truncateSaturated);
         // The second operand only makes the packs as long as those of single precision.
         expectAgreement<Tarn64f, Tarn32f>([](auto x, auto) { return roundToInteger(x); });
+        expectAgreement<Tarn64f, Tarn32f>([](auto x, auto) { return truncateToInteger(x); });
     }
 }
 
