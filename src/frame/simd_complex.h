@@ -21,8 +21,6 @@ struct ReOf {
         if constexpr (std::is_same_v<T, Tarn16sc>) {
             // A complex word times (1, 0) is the sign-extended part.
             return NarrowSaturated<Tarn16s>::of(mulAddPairs(z, splat<decltype(z)>({1, 0})));
-        } else if constexpr (std::is_same_v<T, Tarn32sc>) {
-            return reinterpretPack<Tarn32s>(evenElements(reinterpretPack<Tarn32f>(z)));
         } else {
             return evenElements(reinterpretPack<Part<T>>(z));
         }
@@ -40,8 +38,6 @@ struct ImOf {
     {
         if constexpr (std::is_same_v<T, Tarn16sc>) {
             return NarrowSaturated<Tarn16s>::of(mulAddPairs(z, splat<decltype(z)>({0, 1})));
-        } else if constexpr (std::is_same_v<T, Tarn32sc>) {
-            return reinterpretPack<Tarn32s>(oddElements(reinterpretPack<Tarn32f>(z)));
         } else {
             return oddElements(reinterpretPack<Part<T>>(z));
         }

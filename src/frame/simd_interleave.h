@@ -105,10 +105,9 @@ struct EvenElements {
             return {native::shuffle<sizeof(T), native::Even>(lowHalf(x).v, highHalf(x).v)};
         } else if constexpr (registerLanes<T> == 1) {
             return lowHalf(x);
-        } else if constexpr (std::is_same_v<T, Tarn32f>) {
-            return {_mm_shuffle_ps(lowHalf(x).v, highHalf(x).v, 0x88)};
-        } else if constexpr (std::is_same_v<T, Tarn32s>) {
-            return {native::even32(lowHalf(x).v, highHalf(x).v)};
+        } else if constexpr (sizeof(T) == 4) {
+            return {reinterpret_cast<Native<T>>(
+                _mm_shuffle_ps(reinterpret_cast<__m128>(lowHalf(x).v), reinterpret_cast<__m128>(highHalf(x).v), 0x88))};
         } else if constexpr (std::is_same_v<T, Tarn64s>) {
             return {_mm_unpacklo_epi64(lowHalf(x).v, highHalf(x).v)};
         } else if constexpr (std::is_same_v<T, Tarn64f>) {
@@ -131,10 +130,9 @@ struct OddElements {
             return {native::shuffle<sizeof(T), native::Odd>(lowHalf(x).v, highHalf(x).v)};
         } else if constexpr (registerLanes<T> == 1) {
             return highHalf(x);
-        } else if constexpr (std::is_same_v<T, Tarn32f>) {
-            return {_mm_shuffle_ps(lowHalf(x).v, highHalf(x).v, 0xDD)};
-        } else if constexpr (std::is_same_v<T, Tarn32s>) {
-            return {native::odd32(lowHalf(x).v, highHalf(x).v)};
+        } else if constexpr (sizeof(T) == 4) {
+            return {reinterpret_cast<Native<T>>(
+                _mm_shuffle_ps(reinterpret_cast<__m128>(lowHalf(x).v), reinterpret_cast<__m128>(highHalf(x).v), 0xDD))};
         } else if constexpr (std::is_same_v<T, Tarn64s>) {
             return {_mm_unpackhi_epi64(lowHalf(x).v, highHalf(x).v)};
         } else {

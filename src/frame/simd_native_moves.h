@@ -6,8 +6,7 @@
 namespace tarn {
 namespace native {
 
-// -- Pairs of lanes
-// -----------------------------------------------------------------------------------------------------
+// -- Pairs of lanes ---------------------------------------------------------------------------------------------------
 
 // Neighbours exchanged, the even one in both places, the odd one there.
 TARN_INLINE __m128 exchanged(__m128 x) { return _mm_shuffle_ps(x, x, 0xB1); }
@@ -23,52 +22,31 @@ TARN_INLINE __m128d subAdd(__m128d a, __m128d b) { return _mm_addsub_pd(a, b); }
 TARN_INLINE __m128 pairSums(__m128 a, __m128 b) { return _mm_hadd_ps(a, b); }
 TARN_INLINE __m128d pairSums(__m128d a, __m128d b) { return _mm_hadd_pd(a, b); }
 
+// PLACES has a bit for each double of a register, all of them set.
+#define TARN_WIDE_PAIRS(F, D, PREFIX, PLACES)                                     \
+    TARN_INLINE F exchanged(F x) { return PREFIX##_permute_ps(x, 0xB1); }         \
+    TARN_INLINE D exchanged(D x) { return PREFIX##_permute_pd(x, (PLACES) / 3); } \
+    TARN_INLINE F evenTwice(F x) { return PREFIX##_moveldup_ps(x); }              \
+    TARN_INLINE D evenTwice(D x) { return PREFIX##_movedup_pd(x); }               \
+    TARN_INLINE F oddTwice(F x) { return PREFIX##_movehdup_ps(x); }               \
+    TARN_INLINE D oddTwice(D x) { return PREFIX##_permute_pd(x, PLACES); }        \
+    TARN_INLINE F pairSums(F a, F b) { return add(shuffle<4, Even>(a, b), shuffle<4, Odd>(a, b)); }
 #if TARNS_REGISTER_BYTES >= 32
-TARN_INLINE __m256 exchanged(__m256 x) { return _mm256_permute_ps(x, 0xB1); }
-TARN_INLINE __m256d exchanged(__m256d x) { return _mm256_permute_pd(x, 0x5); }
-TARN_INLINE __m256 evenTwice(__m256 x) { return _mm256_moveldup_ps(x); }
-TARN_INLINE __m256d evenTwice(__m256d x) { return _mm256_movedup_pd(x); }
-TARN_INLINE __m256 oddTwice(__m256 x) { return _mm256_movehdup_ps(x); }
-TARN_INLINE __m256d oddTwice(__m256d x) { return _mm256_permute_pd(x, 0xF); }
+TARN_WIDE_PAIRS(__m256, __m256d, _mm256, 0xF)
 TARN_INLINE __m256 subAdd(__m256 a, __m256 b) { return _mm256_addsub_ps(a, b); }
 TARN_INLINE __m256d subAdd(__m256d a, __m256d b) { return _mm256_addsub_pd(a, b); }
-TARN_INLINE __m256 pairSums(__m256 a, __m256 b) { return add(shuffle<4, Even>(a, b), shuffle<4, Odd>(a, b)); }
 TARN_INLINE __m256d pairSums(__m256d a, __m256d b) { return shuffle<8, InLanesToOrder>(_mm256_hadd_pd(a, b)); }
 #endif
 #if TARNS_REGISTER_BYTES >= 64
-TARN_INLINE __m512 exchanged(__m512 x) { return _mm512_permute_ps(x, 0xB1); }
-TARN_INLINE __m512d exchanged(__m512d x) { return _mm512_permute_pd(x, 0x55); }
-TARN_INLINE __m512 evenTwice(__m512 x) { return _mm512_moveldup_ps(x); }
-TARN_INLINE __m512d evenTwice(__m512d x) { return _mm512_movedup_pd(x); }
-TARN_INLINE __m512 oddTwice(__m512 x) { return _mm512_movehdup_ps(x); }
-TARN_INLINE __m512d oddTwice(__m512d x) { return _mm512_permute_pd(x, 0xFF); }
+TARN_WIDE_PAIRS(__m512, __m512d, _mm512, 0xFF)
 // A product by one is exact, so that the sum is all that is rounded.
 TARN_INLINE __m512 subAdd(__m512 a, __m512 b) { return _mm512_fmaddsub_ps(a, _mm512_set1_ps(1), b); }
 TARN_INLINE __m512d subAdd(__m512d a, __m512d b) { return _mm512_fmaddsub_pd(a, _mm512_set1_pd(1), b); }
-TARN_INLINE __m512 pairSums(__m512 a, __m512 b) { return add(shuffle<4, Even>(a, b), shuffle<4, Odd>(a, b)); }
 TARN_INLINE __m512d pairSums(__m512d a, __m512d b) { return add(shuffle<8, Even>(a, b), shuffle<8, Odd>(a, b)); }
 #endif
+#undef TARN_WIDE_PAIRS
 
-// The elements of 32 bits at even places of two registers, and those at odd ones.
-TARN_INLINE __m128i even32(__m128i a, __m128i b)
-{
-    return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0x88));
-}
-TARN_INLINE __m128i odd32(__m128i a, __m128i b)
-{
-    return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0xDD));
-}
-#if TARNS_REGISTER_BYTES >= 32
-TARN_INLINE __m256i even32(__m256i a, __m256i b) { return shuffle<4, Even>(a, b); }
-TARN_INLINE __m256i odd32(__m256i a, __m256i b) { return shuffle<4, Odd>(a, b); }
-#endif
-#if TARNS_REGISTER_BYTES >= 64
-TARN_INLINE __m512i even32(__m512i a, __m512i b) { return shuffle<4, Even>(a, b); }
-TARN_INLINE __m512i odd32(__m512i a, __m512i b) { return shuffle<4, Odd>(a, b); }
-#endif
-
-// -- Other widths of elements
-// -------------------------------------------------------------------------------------------
+// -- Other widths of elements -----------------------------------------------------------------------------------------
 
 // Two registers of elements that are twice as wide, saturated, in their order.
 TARN_INLINE __m128i narrow16To8u(__m128i a, __m128i b) { return _mm_packus_epi16(a, b); }
