@@ -12,6 +12,20 @@ template <typename T>
 inline constexpr int blockLanes = blockBytes / static_cast<int>(sizeof(T));
 template <typename T>
 using BlockPart = Pack<T, blockLanes<T>>;
+template <typename T>
+using Block = Complex<BlockPart<T>>;
+
+template <typename T>
+TARN_INLINE Block<T> loadBlock(const T* p)
+{
+    return {loadAligned<blockLanes<T>>(p), loadAligned<blockLanes<T>>(p + blockLanes<T>)};
+}
+template <typename T>
+TARN_INLINE void storeBlock(T* p, Block<T> x)
+{
+    storeAligned(p, x.re);
+    storeAligned(p + blockLanes<T>, x.im);
+}
 
 template <typename X>
 using Quad = std::array<Complex<X>, 4>;

@@ -9,9 +9,6 @@
 
 namespace tarn::fft {
 
-template <typename T>
-using Slots = Complex<BlockPart<T>>;
-
 // A table of values (A[k], B[k]) for k from 1 to a quarter of the real length, in blocks of blockLanes<T>: A, then B.
 // They are made of the cosines and sines of k, which stand in the base table.
 template <typename T, typename Values>
@@ -118,9 +115,8 @@ inline void recombine(const T* src, T* dst, int M, const T* table)
         const T* srcHigh = src + 2 * (M - width);
         T* dstHigh = dst + 2 * (M - width);
         for (int k = 1; k < M / 2; k += width) {
-            const auto x =
-                Rule::join(loadPairs<blockLanes<T>>(srcLow), loadPairsReversed<blockLanes<T>>(srcHigh),
-                           Slots<T>{loadAligned<blockLanes<T>>(table), loadAligned<blockLanes<T>>(table + width)});
+            const auto x = Rule::join(loadPairs<blockLanes<T>>(srcLow), loadPairsReversed<blockLanes<T>>(srcHigh),
+                                      loadBlock(table));
             storePairs(dstLow, x.low);
             storePairsReversed(dstHigh, x.high);
             srcLow += 2 * width;

@@ -11,21 +11,6 @@
 
 namespace tarn::fft {
 
-template <typename T>
-using Block = Complex<BlockPart<T>>;
-
-template <typename T>
-TARN_INLINE Block<T> loadBlock(const T* p)
-{
-    return {loadAligned<blockLanes<T>>(p), loadAligned<blockLanes<T>>(p + blockLanes<T>)};
-}
-template <typename T>
-TARN_INLINE void storeBlock(T* p, Block<T> x)
-{
-    storeAligned(p, x.re);
-    storeAligned(p + blockLanes<T>, x.im);
-}
-
 // A level's own blocks: their elements, where an element has its real part, and how far from it the imaginary one lies.
 // Elements are named by their place in blocks of blockLanes<T>, in reals, and only the first one of such a block is.
 // Single precision has enough elements in a block of the tables: wider ones cost more for gathering the factors and for

@@ -16,7 +16,7 @@ using fft::BlockPart;
 
 // Neighbours, or one element of each of so many transforms.
 template <typename T>
-using Lanes = Complex<BlockPart<T>>;
+using Lanes = fft::Block<T>;
 
 // Where as many elements lie.
 template <typename T>

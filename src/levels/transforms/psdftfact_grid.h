@@ -57,7 +57,7 @@ TARN_INLINE void transposeTo(PartArrays<T> rows, std::ptrdiff_t distance, const 
     re = transpose<T>(re);
     im = transpose<T>(im);
     repeat<blockLanes<T>>([&](auto j) {
-        (rows + j * distance).put(0, times(Lanes<T>{re[j], im[j]}, loadLanes(factors + j * realsOfLanes<T>)));
+        (rows + j * distance).put(0, times(Lanes<T>{re[j], im[j]}, fft::loadBlock(factors + j * realsOfLanes<T>)));
     });
 }
 

@@ -26,26 +26,14 @@ inline constexpr int longestLanes = 1024;
 template <typename T>
 inline constexpr int realsOfLanes = 2 * blockLanes<T>;
 
-template <typename T>
-TARN_INLINE Lanes<T> loadLanes(const T* p)
-{
-    return {loadAligned<blockLanes<T>>(p), loadAligned<blockLanes<T>>(p + blockLanes<T>)};
-}
-template <typename T>
-TARN_INLINE void storeLanes(T* p, Lanes<T> x)
-{
-    storeAligned(p, x.re);
-    storeAligned(p + blockLanes<T>, x.im);
-}
-
 // The work area of one transform as a source or a destination: points at equal distances from one on.
 template <typename T>
 struct LaneArea {
     T* points;
     int distance = realsOfLanes<T>;
 
-    TARN_INLINE Lanes<T> get(int i) const { return loadLanes(static_cast<const T*>(points + i * distance)); }
-    TARN_INLINE void put(int i, Lanes<T> x) const { storeLanes(points + i * distance, x); }
+    TARN_INLINE Lanes<T> get(int i) const { return fft::loadBlock(static_cast<const T*>(points + i * distance)); }
+    TARN_INLINE void put(int i, Lanes<T> x) const { fft::storeBlock(points + i * distance, x); }
     TARN_INLINE LaneArea from(int i, int step) const { return {points + i * distance, step * distance}; }
 };
 
@@ -111,7 +99,7 @@ inline void laneMerge(const LanePlan<T>& plan, int q, const T* twd, LaneArea<T> 
         const auto out = resultsTo(area, sink).from(at, q);
         Points<BlockPart<T>, p> x;
         x[0] = in.get(0);
-        repeat<p - 1>([&](auto j) { x[j + 1] = times(in.get(j + 1), loadLanes(factors + width * j)); });
+        repeat<p - 1>([&](auto j) { x[j + 1] = times(in.get(j + 1), fft::loadBlock(factors + width * j)); });
         x = transformPoints(x);
         repeat<p>([&](auto j) { out.put(j, x[j]); });
     };
@@ -143,7 +131,7 @@ inline void laneMergeAny(const LanePlan<T>& plan, int p, int q, const T* roots, 
                 p, roots, pairs,
                 [&](int j) {
                     const auto x = in.get(j);
-                    return j == 0 || k == 0 ? x : times(x, loadLanes(factors + width * (j - 1)));
+                    return j == 0 || k == 0 ? x : times(x, fft::loadBlock(factors + width * (j - 1)));
                 },
                 [&](int j, Lanes<T> y) { out.put(j, y); });
         }
