@@ -12,7 +12,7 @@ struct TwoFactors {
 
     explicit TwoFactors(int scaleFactor) : first(0), second(1)
     {
-        withPower<T>(scaleFactor, [this](auto power) { take(power); });
+        withPower<T>(scaleFactor, [&](auto power) { take(power); });
     }
     template <typename X>
     TARN_INLINE X operator()(X x) const

@@ -19,12 +19,10 @@ constexpr Tarn16s upperHalf(Tarn32s tap)
     return static_cast<Tarn16s>((static_cast<Tarn32u>(tap) - static_cast<Tarn32u>(Tarn32s{lowerHalf(tap)})) >> 16);
 }
 
-// -- Stretches of taps, in reversed order
-// ------------------------------------------------------------------------------
+// -- Stretches of taps, in reversed order -----------------------------------------------------------------------------
 
 // Real taps, zeros behind the last one.
 struct RealStretch {
-    static constexpr int lists = 1;
     alignas(regionAlignment) Tarn16s lower[directTaps];
     alignas(regionAlignment) Tarn16s upper[directTaps];
     int len = 0; // whole steps
