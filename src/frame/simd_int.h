@@ -88,9 +88,10 @@ struct BitAndNot {
 };
 inline constexpr Word<BitAndNot> bitAndNot;
 
-// -- Shifts by a common count: a count of the width or more shifts every bit out, leaving zeros, or signs where the
-// shift
-// -- is arithmetic. Right shifts are arithmetic for signed elements and logical for unsigned ones.
+// -- Shifts by a common count ----------------------------------------------------------------------------------------
+
+// A count of the width or more shifts every bit out, leaving zeros, or signs where the shift is arithmetic. Right
+// shifts are arithmetic for signed elements and logical for unsigned ones.
 
 struct ShiftLeft {
     template <Integer T>

@@ -48,8 +48,7 @@ TARN_REGISTER_TYPES(64, __m512i, __m512, __m512d);
 #endif
 #undef TARN_REGISTER_TYPES
 
-// -- Memory, at any address; stores past the caches lie on a boundary of the register's bytes
-// ---------------------------
+// -- Memory, at any address; stores past the caches lie on a boundary of the register's bytes -------------------------
 
 #define TARN_MEMORY(V, E, PREFIX, SUFFIX)                                                                 \
     TARN_INLINE void load(V& x, const void* p) { x = PREFIX##_loadu_##SUFFIX(static_cast<const E*>(p)); } \
@@ -118,8 +117,7 @@ TARN_SPLATS(__m512i, __m512, __m512d, _mm512, _mm512_broadcast_i32x4)
 #endif
 #undef TARN_SPLATS
 
-// -- Two operands, one result, all of one register type
-// -------------------------------------------------------------------
+// -- Two operands, one result, all of one register type ---------------------------------------------------------------
 
 #define TARN_128(NAME, V, CALL) \
     TARN_INLINE V NAME(V a, V b) { return CALL(a, b); }
@@ -341,8 +339,7 @@ TARN_INLINE __m256i signs64(__m256i x) { return _mm256_cmpgt_epi64(_mm256_setzer
 TARN_INLINE __m512i signs64(__m512i x) { return _mm512_srai_epi64(x, 63); }
 #endif
 
-// -- Shifts by a common count
-// -------------------------------------------------------------------------------------------
+// -- Shifts by a common count -----------------------------------------------------------------------------------------
 
 #define TARN_SHIFTS(V, PREFIX)                                                       \
     TARN_INLINE V shiftLeft16(V x, __m128i n) { return PREFIX##_sll_epi16(x, n); }   \
@@ -362,8 +359,7 @@ TARN_SHIFTS(__m512i, _mm512)
 #endif
 #undef TARN_SHIFTS
 
-// -- One operand
-// --------------------------------------------------------------------------------------------------------
+// -- One operand ------------------------------------------------------------------------------------------------------
 
 // The approximations of the widest registers have other bits, so that theirs are made in two halves.
 #define TARN_ONE_OPERAND(NAME, V, EXPRESSION) \
