@@ -216,6 +216,10 @@ TEST(VectorSine, IsThePreciseSine)
         zpldCos2(x, y);
         for (int j : {0, 1})
             EXPECT_TRUE(valuesMatch(preciseCosine(x[j]), y[j]));
+        Tarn64f inPlace[] = {x[1], -x[0]};
+        zpldSin2(inPlace, inPlace);
+        EXPECT_TRUE(valuesMatch(preciseSine(x[1]), inPlace[0]));
+        EXPECT_TRUE(valuesMatch(preciseSine(-x[0]), inPlace[1]));
         const Tarn32f narrow[] = {static_cast<Tarn32f>(x[0]), static_cast<Tarn32f>(x[1]), static_cast<Tarn32f>(-x[0]),
                                   static_cast<Tarn32f>(3 * x[1])};
         Tarn32f z[4];

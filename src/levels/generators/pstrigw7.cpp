@@ -9,26 +9,8 @@ using namespace tarn;
 namespace {
 
 // Angles that are a rest already, and not so small as to be their own sine: those that the tables of transforms are
-// made of. Both values come from under one guard, and with the bits that the precise functions have.
+// made of. Their values come from under one guard, and with the bits that the precise functions have.
 bool isRest(Tarn64f x) { return x >= 0x1p-32 && x < 0.785; }
-
-template <typename OfRest>
-bool takenAsRests(const Tarn64f* x, Tarn64f* y, OfRest ofRest)
-{
-    if (!isRest(x[0]) || !isRest(x[1])) {
-        return false;
-    }
-    const StandardArithmetic guard;
-    double a = x[0];
-    double b = x[1];
-    asm volatile("" : "+x"(a), "+x"(b));
-    a = ofRest({a, 0});
-    b = ofRest({b, 0});
-    asm volatile("" : "+x"(a), "+x"(b));
-    y[0] = a;
-    y[1] = b;
-    return true;
-}
 
 template <typename OfRest, typename OfAny>
 void takeAll(const Tarn64f* x, Tarn64f* y, int count, OfRest ofRest, OfAny ofAny)
@@ -67,13 +49,11 @@ void zplsCos4(const Tarn32f* x, Tarn32f* y)
 }
 void zpldSin2(const Tarn64f* x, Tarn64f* y)
 {
-    if (!takenAsRests(x, y, precise::sineOfRest)) {
-        std::transform(x, x + 2, y, preciseSine);
-    }
+    const Tarn64f arguments[] = {x[0], x[1]}; // results may replace them
+    sinesOf(arguments, y, 2);
 }
 void zpldCos2(const Tarn64f* x, Tarn64f* y)
 {
-    if (!takenAsRests(x, y, precise::cosineOfRest)) {
-        std::transform(x, x + 2, y, preciseCosine);
-    }
+    const Tarn64f arguments[] = {x[0], x[1]};
+    cosinesOf(arguments, y, 2);
 }
