@@ -180,6 +180,9 @@ TEST(Simd, AnyLaneOfAMask)
         if (set >= 0)
             mask[set] = -1;
         EXPECT_EQ(set >= 0, anyOf(loadPack<2 * lanes<Tarn16s>>(mask))) << set;
+        for (Tarn16s& lane : mask)
+            lane = static_cast<Tarn16s>(~lane);
+        EXPECT_EQ(set < 0, allOf(loadPack<2 * lanes<Tarn16s>>(mask))) << set;
     }
     EXPECT_TRUE(anyOf(true));
     EXPECT_FALSE(anyOf(false));

@@ -92,7 +92,7 @@ TEST(Walk, ASourceThatIsTheSameEverywhere)
 
 TEST(Walk, BoundaryOfAnArray)
 {
-    alignas(vectorBytes) Tarn8u bytes[64] = {};
+    alignas(vectorBytes) Tarn8u bytes[2 * vectorBytes] = {};
     for (int offset = 0; offset < 2 * vectorBytes; ++offset) {
         const auto* words = reinterpret_cast<const Tarn16s*>(bytes + offset);
         const int toNext = (2 * vectorBytes - offset) % vectorBytes;
