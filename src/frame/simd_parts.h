@@ -23,13 +23,9 @@ TARN_INLINE auto asDoubles(X z)
         return reinterpretPack<Tarn64f>(z);
     } else if constexpr (std::is_same_v<T, Tarn16sc>) {
         return convert<Tarn64f>(widen(reinterpretPack<Tarn16s>(z)));
-    } else if constexpr (widestRegister > registerBytes) {
-        return widen(reinterpretPack<Tarn32f>(z));
-    } else if constexpr (X::size > registerLanes<T>) {
-        return join(asDoubles(lowHalf(z)), asDoubles(highHalf(z)));
     } else {
         static_assert(std::is_same_v<T, Tarn32fc>);
-        return Pack<Tarn64f, 2 * registerLanes<Tarn64f>>{{_mm_cvtps_pd(z.v)}, {_mm_cvtps_pd(_mm_movehl_ps(z.v, z.v))}};
+        return widen(reinterpretPack<Tarn32f>(z));
     }
 }
 
@@ -51,13 +47,9 @@ TARN_INLINE X fromDoubles(Pack<Tarn64f, N> parts)
         return reinterpretPack<T>(parts);
     } else if constexpr (std::is_same_v<T, Tarn16sc>) {
         return reinterpretPack<T>(narrowSaturated<Tarn16s>(roundToInteger(parts)));
-    } else if constexpr (widestRegister > registerBytes) {
-        return reinterpretPack<T>(narrowFloat(parts));
-    } else if constexpr (X::size > registerLanes<T>) {
-        return {fromDoubles<HalfOf<X>>(lowHalf(parts)), fromDoubles<HalfOf<X>>(highHalf(parts))};
     } else {
         static_assert(std::is_same_v<T, Tarn32fc>);
-        return {_mm_movelh_ps(_mm_cvtpd_ps(lowHalf(parts).v), _mm_cvtpd_ps(highHalf(parts).v))};
+        return reinterpretPack<T>(narrowFloat(parts));
     }
 }
 
@@ -67,13 +59,8 @@ TARN_INLINE D inBothParts(Pack<Tarn64f, N> perElement)
 {
     if constexpr (D::size == N) {
         return perElement;
-    } else if constexpr (widestRegister > registerBytes) {
-        return twice(perElement);
-    } else if constexpr (N > registerLanes<Tarn64f>) {
-        return {inBothParts<HalfOf<D>>(lowHalf(perElement)), inBothParts<HalfOf<D>>(highHalf(perElement))};
     } else {
-        const __m128d x = perElement.v;
-        return {{_mm_unpacklo_pd(x, x)}, {_mm_unpackhi_pd(x, x)}};
+        return twice(perElement);
     }
 }
 
