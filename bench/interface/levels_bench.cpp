@@ -108,7 +108,6 @@ void addElementwise(const std::vector<Level>& levels, int n)
     TARN_UNARY("arctan_32f", tarnsArctan_32f, Tarn32f, Tarn32f);
     TARN_UNARY("convert_16s32f", tarnsConvert_16s32f, Tarn16s, Tarn32f);
     auto* const parts = array<Tarn32f>();
-    auto* const positive = array<Tarn32f>(false);
     auto* const others = array<Tarn32f>();
     auto* const result = array<Tarn32f>();
     auto* const words = array<Tarn16s>();
@@ -142,6 +141,7 @@ void addElementwise(const std::vector<Level>& levels, int n)
         });
     }
 #ifdef TARNS_HAVE_VOLK
+    auto* const positive = array<Tarn32f>(false);
     const auto un = static_cast<unsigned>(n);
     const auto* const zv = reinterpret_cast<const lv_32fc_t*>(parts);
     const auto* const wv = reinterpret_cast<const lv_32fc_t*>(others);
