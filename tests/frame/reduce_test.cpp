@@ -99,14 +99,23 @@ TEST(ReduceWords, LanesFoldUpperOntoLower)
     EXPECT_EQ((std::vector<Tarn32f>{1, 20, 0, 0}), lanesOfVector(loadHalf<4>(values)));
 }
 
+template <class T, int n>
+void expectFirstSet()
+{
+    for (int first = 0; first < n; ++first) {
+        T values[n] = {};
+        for (int k = first; k < n; k += 2)
+            values[k] = -1;
+        EXPECT_EQ(first, firstSet(loadPack<n>(values))) << n << " lanes";
+    }
+}
+
 TEST(ReduceWords, FirstSetLane)
 {
-    for (int first = 0; first < 8; ++first) {
-        Tarn16s values[8] = {};
-        for (int k = first; k < 8; k += 2)
-            values[k] = -1;
-        EXPECT_EQ(first, firstSet(loadPack<8>(values)));
-    }
+    expectFirstSet<Tarn16s, 8>();
+    expectFirstSet<Tarn16s, 2 * lanes<Tarn16s>>();
+    expectFirstSet<Tarn8s, lanes<Tarn8s>>();
+    expectFirstSet<Tarn32s, 4 * lanes<Tarn32s>>();
 }
 
 TEST(ReduceWords, LogarithmOfTheProcessor)
