@@ -107,20 +107,6 @@ static int endDrawing(Levels* levels, const char* path)
 
 /* -- The filter ---------------------------------------------------------------------------------------------------- */
 
-/* Samples as floats of full scale 1, zeros behind the last of them; how many there were, or -1. */
-static int readFloats(Sound* sound, Tarn32f* samples, int count)
-{
-    static Tarn16s words[mostTaps];
-    const int found = readSound(sound, words, count);
-
-    tarnsZero_32f(samples, count);
-    if (found > 0) {
-        tarnsConvert_16s32f(words, samples, found);
-        tarnsMulC_32f_I(1.0F / 32768, samples, found);
-    }
-    return found;
-}
-
 /* Blocks are as long as the filter: the energies of a block and of the one before are then at least that of every
    window of samples that the taps meet, and a step divided by them is a safe one. */
 static int cleanStream(const Options* options, Sound* recording, Sound* interference, Sound* cleaned, Levels* levels,

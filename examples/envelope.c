@@ -48,20 +48,6 @@ static int analyse(const TarnsHilbertSpec_32f32fc* spec, const Tarn32f* samples,
     return succeeded("the analytic signal", status);
 }
 
-/* Fills up the samples with what is left of the sound, and zeros behind it; tells how many there were, or -1. */
-static int readSamples(Sound* sound, Tarn32f* samples, int count)
-{
-    static Tarn16s words[blockLen];
-    const int found = readSound(sound, words, count);
-
-    tarnsZero_32f(samples, count);
-    if (found > 0) {
-        tarnsConvert_16s32f(words, samples, found);
-        tarnsMulC_32f_I(1.0F / 32768, samples, found);
-    }
-    return found;
-}
-
 static int writeStream(const TarnsHilbertSpec_32f32fc* spec, Sound* sound, double rate, int step)
 {
     static Tarn32f samples[blockLen];
@@ -70,7 +56,7 @@ static int writeStream(const TarnsHilbertSpec_32f32fc* spec, Sound* sound, doubl
     double written = 0;
     double next = 0;
     /* Silence comes before the recording; the first block ends where its middle does, and one margin more. */
-    int left = readSamples(sound, samples + margin, blockLen - margin);
+    int left = readFloats(sound, samples + margin, blockLen - margin);
 
     while (left > 0) {
         const int count = left < middle ? left : middle;
@@ -89,7 +75,7 @@ static int writeStream(const TarnsHilbertSpec_32f32fc* spec, Sound* sound, doubl
         }
         written += count;
         tarnsMove_32f(samples + middle, samples, 2 * margin);
-        found = readSamples(sound, samples + 2 * margin, middle);
+        found = readFloats(sound, samples + 2 * margin, middle);
         if (found < 0)
             return 0;
         left += found - count;

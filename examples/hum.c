@@ -55,23 +55,20 @@ static int periodOf(const Options* options)
 /* Adds up the periods of the recording and leaves their mean. */
 static int readMeanPeriod(Sound* sound, Tarn32f* period, int len)
 {
-    Tarn16s* samples = tarnsMalloc_16s(len);
     Tarn32f* added = tarnsMalloc_32f(len);
     int periods = 0;
     int got = 0;
-    int ok = samples != NULL && added != NULL ? 1 : fail("period", "no memory");
+    int ok = added != NULL ? 1 : fail("period", "no memory");
 
     ok = ok && succeeded("period", tarnsZero_32f(period, len));
-    while (ok && (got = readSound(sound, samples, len)) == len) {
-        ok = succeeded("period", tarnsConvert_16s32f_Sfs(samples, added, len, 15)) &&
-             succeeded("period", tarnsAdd_32f_I(added, period, len));
+    while (ok && (got = readFloats(sound, added, len)) == len) {
+        ok = succeeded("period", tarnsAdd_32f_I(added, period, len));
         periods++;
     }
     ok = ok && got >= 0;
     if (ok && periods == 0)
         ok = fail("input", "too short: there is not one period of the mains");
     ok = ok && succeeded("period", tarnsMulC_32f_I(1.0f / (float)periods, period, len));
-    tarnsFree(samples);
     tarnsFree(added);
     return ok;
 }

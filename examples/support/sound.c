@@ -186,6 +186,26 @@ int readSound(Sound* sound, Tarn16s* samples, int count)
     return got;
 }
 
+int readFloats(Sound* sound, Tarn32f* samples, int count)
+{
+    enum { piece = 4096 };
+    static Tarn16s words[piece];
+    int got = 0;
+    int wanted;
+    int found;
+
+    tarnsZero_32f(samples, count);
+    do {
+        wanted = count - got < piece ? count - got : piece;
+        found = readSound(sound, words, wanted);
+        if (found > 0) {
+            tarnsConvert_16s32f_Sfs(words, samples + got, found, 15);
+            got += found;
+        }
+    } while (found == wanted && got < count);
+    return found < 0 ? found : got;
+}
+
 Tarn16s* readWholeSound(Sound* sound, int* len)
 {
     enum { longest = 0x1fffffff };

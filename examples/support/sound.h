@@ -22,6 +22,9 @@ Sound* openSound(const char* path, double* rate);
    takes long. */
 int readSound(Sound* sound, Tarn16s* samples, int count);
 
+/* The same as floats of full scale 1, and zeros behind the last of them. */
+int readFloats(Sound* sound, Tarn32f* samples, int count);
+
 /* All samples that are left, for tarnsFree. Null after a message: there has to be at least one. */
 Tarn16s* readWholeSound(Sound* sound, int* len);
 
