@@ -1,25 +1,13 @@
 # Runs the removal of interference over speech in noise that came through a room, over signals whose remainder is known,
 # and over what it has to refuse.
 cmake_minimum_required(VERSION 3.25)
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
+set(PROGRAM ${CANCEL})
+include(${CMAKE_CURRENT_LIST_DIR}/support.cmake)
 
 set(raw -t raw -r 8000 -e signed -b 16 -c 1)
-function(sox)
-    execute_process(COMMAND ${SOX} -V1 -R -D ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
-
 function(cancel interference recording cleaned)
     execute_process(COMMAND ${CANCEL} ${ARGN} ${WORK_DIR}/${interference} INPUT_FILE ${WORK_DIR}/${recording}
         OUTPUT_FILE ${WORK_DIR}/${cleaned} COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
-
-function(expect_refusal reason recording)
-    execute_process(COMMAND ${CANCEL} ${ARGN} INPUT_FILE ${recording} RESULT_VARIABLE status ERROR_VARIABLE message
-        OUTPUT_VARIABLE output)
-    if(NOT status EQUAL 1 OR NOT message MATCHES "^cancel: ${reason}")
-        message(SEND_ERROR "cancel ${ARGN} <${recording}: status ${status}, message ${message}, output ${output}")
-    endif()
 endfunction()
 
 # rms_of(<variable> <sox input>...): of what comes after four seconds
@@ -57,12 +45,8 @@ expect_refusal("--taps" ${something} --taps 4097 ${something})
 expect_refusal("--step" ${something} --step 0 ${something})
 expect_refusal("--step" ${something} --step 2 ${something})
 expect_refusal(".*no/drawing: No such file" ${something} --draw ${WORK_DIR}/no/drawing ${something})
-expect_refusal("/dev/full: No space left" ${something} --draw /dev/full ${something})
-execute_process(COMMAND ${CANCEL} ${something} INPUT_FILE ${something} OUTPUT_FILE /dev/full RESULT_VARIABLE status
-    ERROR_VARIABLE message)
-if(NOT status EQUAL 1 OR NOT message MATCHES "^cancel: output: No space left on device")
-    message(SEND_ERROR "cancel >/dev/full: status ${status}, message ${message}")
-endif()
+expect_failure("/dev/full: No space left" ${something} --draw /dev/full ${something})
+expect_no_space(${something} ${something})
 
 if(NOT SOX)
     message("No sox: sounds are left out")

@@ -1,13 +1,9 @@
 # Runs the example that repairs clicks over a tone and over speech with clicks in known places, and over what it has to
 # refuse.
 cmake_minimum_required(VERSION 3.25)
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
+set(PROGRAM ${DECLICK})
+include(${CMAKE_CURRENT_LIST_DIR}/support.cmake)
 set(format -t raw -r 44100 -e signed -b 16 -c 1)
-
-function(sox)
-    execute_process(COMMAND ${SOX} -V1 -R -D ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
 
 function(declick input output)
     execute_process(COMMAND ${DECLICK} ${ARGN} INPUT_FILE ${WORK_DIR}/${input} OUTPUT_FILE ${WORK_DIR}/${output}
@@ -21,14 +17,6 @@ function(difference first second result)
         COMMAND awk "{ sum += $1 * $1 } END { printf \"%.0f\", 1e6 * sqrt(sum / NR) / 32768 }" OUTPUT_VARIABLE rms
         COMMAND_ERROR_IS_FATAL ANY)
     set(${result} ${rms} PARENT_SCOPE)
-endfunction()
-
-function(expect_refusal reason input)
-    execute_process(COMMAND ${DECLICK} ${ARGN} INPUT_FILE ${input} RESULT_VARIABLE status ERROR_VARIABLE message
-        OUTPUT_FILE ${WORK_DIR}/refused)
-    if(NOT status EQUAL 1 OR NOT message MATCHES "^declick: ${reason}")
-        message(SEND_ERROR "declick ${ARGN} <${input}: status ${status}, message ${message}")
-    endif()
 endfunction()
 
 # add_clicks(<sound> <clicked sound> <count>): one sample at 700, three behind 16382, where the second block of the
@@ -105,8 +93,4 @@ expect_refusal("input: not 16-bit PCM" ${WORK_DIR}/odd)
 expect_refusal("--longest: a whole number from 1 to 500 is wanted" ${WORK_DIR}/single --longest 0)
 expect_refusal("--threshold: a number from 1 to 1000000 is wanted" ${WORK_DIR}/single --threshold 0.5)
 expect_refusal("${WORK_DIR}/missing/list: No such file" ${WORK_DIR}/single --clicks ${WORK_DIR}/missing/list)
-execute_process(COMMAND ${DECLICK} INPUT_FILE ${WORK_DIR}/clicked_tone OUTPUT_FILE /dev/full RESULT_VARIABLE status
-    ERROR_VARIABLE message)
-if(NOT status EQUAL 1 OR NOT message MATCHES "^declick: output: No space left on device")
-    message(SEND_ERROR "declick >/dev/full: status ${status}, message ${message}")
-endif()
+expect_no_space(${WORK_DIR}/clicked_tone)

@@ -1,8 +1,8 @@
 # Runs the search for echoes over sounds that sox makes, noise with an echo, strings, whose delays and pitches are
 # known; and over what it has to refuse.
 cmake_minimum_required(VERSION 3.25)
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
+set(PROGRAM ${ECHO_PROGRAM})
+include(${CMAKE_CURRENT_LIST_DIR}/support.cmake)
 file(WRITE ${WORK_DIR}/empty "")
 file(WRITE ${WORK_DIR}/odd "abc")
 string(REPEAT "aa" 48000 constant)
@@ -27,14 +27,6 @@ function(expect_echo sound expression)
         message(SEND_ERROR "echo ${ARGN} <${sound}: ${output}")
     endif()
     set(output "${output}" PARENT_SCOPE)
-endfunction()
-
-function(expect_refusal reason input)
-    execute_process(COMMAND ${ECHO_PROGRAM} ${ARGN} INPUT_FILE ${input} RESULT_VARIABLE status ERROR_VARIABLE message
-        OUTPUT_VARIABLE output)
-    if(NOT status EQUAL 1 OR NOT message MATCHES "^echo: ${reason}" OR NOT output STREQUAL "")
-        message(SEND_ERROR "echo ${ARGN} <${input}: status ${status}, message ${message}, output ${output}")
-    endif()
 endfunction()
 
 # Noise, and noise that comes back after 5926 samples with 0.4 / 0.8 of its amplitude.
@@ -91,8 +83,4 @@ expect_refusal("--to: a number from 0 to 1000000 is wanted" ${noise} --to 1s)
 expect_refusal("--loud: no such option" ${noise} --loud 1)
 expect_refusal("--rate: a value is missing" ${noise} --rate)
 
-execute_process(COMMAND ${ECHO_PROGRAM} INPUT_FILE ${noise} OUTPUT_FILE /dev/full RESULT_VARIABLE status
-    ERROR_VARIABLE message)
-if(NOT status EQUAL 1 OR NOT message MATCHES "^echo: output: No space left on device")
-    message(SEND_ERROR "echo >/dev/full: status ${status}, message ${message}")
-endif()
+expect_no_space(${noise})

@@ -1,7 +1,7 @@
 # Runs the program that draws envelopes over a tone, whose envelope and frequency are known, and over speech.
 cmake_minimum_required(VERSION 3.25)
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
+set(PROGRAM ${ENVELOPE})
+include(${CMAKE_CURRENT_LIST_DIR}/support.cmake)
 
 # Every line has to pass an awk condition on $1 seconds, $2 sample, $3 envelope, $4 frequency, and there are so many.
 function(expect_lines count condition input)
@@ -13,14 +13,6 @@ function(expect_lines count condition input)
         INPUT_FILE ${WORK_DIR}/lines OUTPUT_VARIABLE complaint COMMAND_ERROR_IS_FATAL ANY)
     if(complaint)
         message(SEND_ERROR "envelope ${ARGN} <${input}: ${complaint}")
-    endif()
-endfunction()
-
-function(expect_refusal reason input)
-    execute_process(COMMAND ${ENVELOPE} ${ARGN} INPUT_FILE ${input} RESULT_VARIABLE status ERROR_VARIABLE message
-        OUTPUT_FILE ${WORK_DIR}/refused)
-    if(NOT status EQUAL 1 OR NOT message MATCHES "^envelope: ${reason}")
-        message(SEND_ERROR "envelope ${ARGN} <${input}: status ${status}, message ${message}")
     endif()
 endfunction()
 
@@ -64,8 +56,4 @@ expect_refusal("--rate: a number from 1 to 1000000000 is wanted" ${WORK_DIR}/odd
 expect_refusal("--step: a whole number from 1 to 100000 is wanted" ${WORK_DIR}/odd --step many)
 expect_refusal("--loud: no such option" ${WORK_DIR}/odd --loud 1)
 expect_refusal("--step: a value is missing" ${WORK_DIR}/odd --step)
-execute_process(COMMAND ${ENVELOPE} INPUT_FILE ${WORK_DIR}/silence OUTPUT_FILE /dev/full RESULT_VARIABLE status
-    ERROR_VARIABLE message)
-if(NOT status EQUAL 1 OR NOT message MATCHES "^envelope: output: No space left on device")
-    message(SEND_ERROR "envelope >/dev/full: status ${status}, message ${message}")
-endif()
+expect_no_space(${WORK_DIR}/silence)

@@ -1,25 +1,13 @@
 # Measures the equalizer by tones that sox makes: the levels that come out are those of the analog filters that the bands
 # stand for, at the frequencies that the bilinear transform makes of theirs; and tries what is to be refused.
 cmake_minimum_required(VERSION 3.25)
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
+set(PROGRAM ${EQUALIZER})
+include(${CMAKE_CURRENT_LIST_DIR}/support.cmake)
 set(raw -b 16 -c 1 -e signed -t raw)
 
 function(equalize input output)
     execute_process(COMMAND ${EQUALIZER} ${ARGN} INPUT_FILE ${input} OUTPUT_FILE ${output}
         COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
-
-# The level of the tone in a recording, in thousandths of a decibel.
-function(measure path rate frequency)
-    math(EXPR skipped "${rate} / 10")
-    execute_process(COMMAND ${TONE_QUALITY} ${rate} ${frequency} ${skipped} INPUT_FILE ${path} OUTPUT_VARIABLE output
-        COMMAND_ERROR_IS_FATAL ANY)
-    if(NOT output MATCHES "^tone -([0-9]+)\\.([0-9][0-9][0-9])[0-9] dB")
-        message(FATAL_ERROR "tone_quality ${path}: ${output}")
-    endif()
-    math(EXPR level "1000 - ${CMAKE_MATCH_1} * 1000 - 1${CMAKE_MATCH_2}")
-    set(level ${level} PARENT_SCOPE)
 endfunction()
 
 # `levels` are pairs of a frequency and the gain that it is to have; within a hundredth of a decibel, where 16 bits leave
@@ -75,38 +63,25 @@ if(different OR NOT written EQUAL given)
     message(SEND_ERROR "equalizer: ${given} bytes became ${written}, or their beginning differs")
 endif()
 
-function(expect_refusal reason)
-    execute_process(COMMAND ${EQUALIZER} ${ARGN} INPUT_FILE ${WORK_DIR}/noise RESULT_VARIABLE status
-        OUTPUT_FILE ${WORK_DIR}/refused ERROR_VARIABLE message)
-    file(SIZE ${WORK_DIR}/refused written)
-    if(NOT status EQUAL 1 OR NOT message MATCHES "^equalizer: ${reason}" OR NOT written EQUAL 0)
-        message(SEND_ERROR "equalizer ${ARGN}: status ${status}, message ${message}, ${written} bytes")
-    endif()
-endfunction()
-
-expect_refusal("arguments: some are missing")
+expect_refusal("arguments: some are missing" ${WORK_DIR}/noise)
 foreach(band loud:200:6 lowest:200:6 lo:200:6 200:6 :200:6 peak)
-    expect_refusal("${band}: not a band like" ${band})
+    expect_refusal("${band}: not a band like" ${WORK_DIR}/noise ${band})
 endforeach()
 foreach(band low: low:a:6 low:0:6 low:-5:6 peak:inf:3 lowcut:1e999)
-    expect_refusal("${band}: a frequency above 0 is wanted" ${band})
+    expect_refusal("${band}: a frequency above 0 is wanted" ${WORK_DIR}/noise ${band})
 endforeach()
 foreach(band low:200 low:200: low:200:61 peak:200:nan high:200:x)
-    expect_refusal("${band}: a gain between -60 and 60 dB is wanted" ${band})
+    expect_refusal("${band}: a gain between -60 and 60 dB is wanted" ${WORK_DIR}/noise ${band})
 endforeach()
 foreach(band low:200:3:1 high:200:3:1 peak:200:3:0 peak:200:3:q lowcut:200:1001)
-    expect_refusal("${band}: a quality between" ${band})
+    expect_refusal("${band}: a quality between" ${WORK_DIR}/noise ${band})
 endforeach()
-expect_refusal("peak:200:3:2:1: there is more than a band in it" peak:200:3:2:1)
-expect_refusal("high: a band lies above half the rate" --rate 8000 high:4000:1)
-expect_refusal("--gain: a number from -120 to 60 is wanted" --gain loud low:200:3)
+expect_refusal("peak:200:3:2:1: there is more than a band in it" ${WORK_DIR}/noise peak:200:3:2:1)
+expect_refusal("high: a band lies above half the rate" ${WORK_DIR}/noise --rate 8000 high:4000:1)
+expect_refusal("--gain: a number from -120 to 60 is wanted" ${WORK_DIR}/noise --gain loud low:200:3)
 foreach(i RANGE 32)
     list(APPEND many low:200:0)
 endforeach()
-expect_refusal("low:200:0: one argument too many" ${many})
+expect_refusal("low:200:0: one argument too many" ${WORK_DIR}/noise ${many})
 
-execute_process(COMMAND ${EQUALIZER} ${bands} INPUT_FILE ${WORK_DIR}/noise OUTPUT_FILE /dev/full
-    RESULT_VARIABLE status ERROR_VARIABLE message)
-if(NOT status EQUAL 1 OR NOT message MATCHES "^equalizer: output: No space left on device")
-    message(SEND_ERROR "equalizer >/dev/full: status ${status}, message ${message}")
-endif()
+expect_no_space(${WORK_DIR}/noise ${bands})

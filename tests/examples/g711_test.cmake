@@ -1,27 +1,15 @@
 # Sends speech through the coder and back between processes of sox, and through sox's own coder for comparison.
 cmake_minimum_required(VERSION 3.25)
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
+set(PROGRAM ${G711})
+include(${CMAKE_CURRENT_LIST_DIR}/support.cmake)
 
 set(raw -t raw -r 8000 -e signed -b 16 -c 1)
 set(a-law -t raw -r 8000 -e a-law -b 8 -c 1)
 set(mu-law -t raw -r 8000 -e mu-law -b 8 -c 1)
 
-function(sox)
-    execute_process(COMMAND ${SOX} -D -R -V1 ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
-
 function(g711 input output)
     execute_process(COMMAND ${G711} ${ARGN} INPUT_FILE ${WORK_DIR}/${input} OUTPUT_FILE ${WORK_DIR}/${output}
         COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
-
-function(expect_same first second)
-    execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${WORK_DIR}/${first} ${WORK_DIR}/${second}
-        RESULT_VARIABLE different)
-    if(different)
-        message(SEND_ERROR "${first} and ${second} differ")
-    endif()
 endfunction()
 
 # The level of a sound, or of the difference between two, in dB of full scale: the rms amplitude that sox finds.
@@ -30,14 +18,6 @@ function(level_of_difference first second result)
         -n stats ERROR_VARIABLE statistics COMMAND_ERROR_IS_FATAL ANY)
     string(REGEX MATCH "RMS lev dB +(-?[0-9.]+|-inf)" line "${statistics}")
     set(${result} ${CMAKE_MATCH_1} PARENT_SCOPE)
-endfunction()
-
-function(expect_refusal reason)
-    execute_process(COMMAND ${G711} ${ARGN} INPUT_FILE ${WORK_DIR}/odd RESULT_VARIABLE status ERROR_VARIABLE message
-        OUTPUT_FILE ${WORK_DIR}/refused)
-    if(NOT status EQUAL 1 OR NOT message MATCHES "^g711: ${reason}")
-        message(SEND_ERROR "g711 ${ARGN}: status ${status}, message ${message}")
-    endif()
 endfunction()
 
 # Something between -1 and -60 dB at all times, longer than a block, and not a whole number of blocks.
@@ -52,13 +32,13 @@ foreach(law a-law mu-law)
         OUTPUT_FILE ${WORK_DIR}/decoded COMMAND_ERROR_IS_FATAL ANY)
     g711(sound coded --to ${law})
     g711(coded back --from ${law} --to linear)
-    expect_same(decoded back)
+    expect_same(${WORK_DIR}/decoded ${WORK_DIR}/back)
 
     # The other way round its codes are sox's.
     sox(${raw} ${WORK_DIR}/sound ${${law}} ${WORK_DIR}/coded_by_sox)
     sox(${${law}} ${WORK_DIR}/coded_by_sox ${raw} ${WORK_DIR}/by_sox)
     g711(coded_by_sox by_g711 --from ${law} --to linear)
-    expect_same(by_sox by_g711)
+    expect_same(${WORK_DIR}/by_sox ${WORK_DIR}/by_g711)
 
     # One byte a sample, and a noise 30 dB or more below the sound.
     file(SIZE ${WORK_DIR}/sound given)
@@ -90,17 +70,13 @@ foreach(formats "linear;a-law" "a-law;mu-law" "mu-law;linear")
     list(GET formats 0 from)
     list(GET formats 1 to)
     g711(empty nothing --from ${from} --to ${to})
-    expect_same(empty nothing)
+    expect_same(${WORK_DIR}/empty ${WORK_DIR}/nothing)
 endforeach()
 
 file(WRITE ${WORK_DIR}/odd "abc")
-expect_refusal("input: not 16-bit PCM: its last sample is cut in two" --to mu-law)
-expect_refusal("--to: the format that it has already" --from a-law)
-expect_refusal("--to: one of these is wanted: linear a-law mu-law" --to g722)
+expect_refusal("input: not 16-bit PCM: its last sample is cut in two" ${WORK_DIR}/odd --to mu-law)
+expect_refusal("--to: the format that it has already" ${WORK_DIR}/odd --from a-law)
+expect_refusal("--to: one of these is wanted: linear a-law mu-law" ${WORK_DIR}/odd --to g722)
 foreach(options "--to;a-law" "--from;a-law;--to;linear" "--from;a-law;--to;mu-law")
-    execute_process(COMMAND ${G711} ${options} INPUT_FILE ${WORK_DIR}/sound OUTPUT_FILE /dev/full
-        RESULT_VARIABLE status ERROR_VARIABLE message)
-    if(NOT status EQUAL 1 OR NOT message MATCHES "^g711: output: No space left on device")
-        message(SEND_ERROR "g711 ${options} >/dev/full: status ${status}, message ${message}")
-    endif()
+    expect_no_space(${WORK_DIR}/sound ${options})
 endforeach()

@@ -1,27 +1,13 @@
 # Changes the rate of tones that sox makes, measures what comes out beside sox's own change of rate, and tries what is to
 # be refused.
 cmake_minimum_required(VERSION 3.25)
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
+set(PROGRAM ${RESAMPLE})
+include(${CMAKE_CURRENT_LIST_DIR}/support.cmake)
 
 # Five eighths of a second one decibel below full scale, without dither.
 function(make_tone rate frequency)
     execute_process(COMMAND ${SOX} -D -n -r ${rate} -b 16 -c 1 -e signed -t raw ${WORK_DIR}/tone synth 0.625 sine
         ${frequency} gain -1 COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
-
-# The level of the tone in a recording, that of all the rest, and their ratio, in thousandths and whole decibels.
-function(measure path rate frequency)
-    math(EXPR skipped "${rate} / 10")
-    execute_process(COMMAND ${TONE_QUALITY} ${rate} ${frequency} ${skipped} INPUT_FILE ${path} OUTPUT_VARIABLE output
-        COMMAND_ERROR_IS_FATAL ANY)
-    if(NOT output MATCHES "^tone (-?)([0-9]+)\\.([0-9][0-9][0-9])[0-9] dB rest -([0-9]+).* ratio (-?[0-9]+) dB")
-        message(FATAL_ERROR "tone_quality ${path}: ${output}")
-    endif()
-    math(EXPR level "${CMAKE_MATCH_2} * 1000 + 1${CMAKE_MATCH_3} - 1000")
-    set(level ${CMAKE_MATCH_1}${level} PARENT_SCOPE)
-    set(rest -${CMAKE_MATCH_4} PARENT_SCOPE)
-    set(ratio ${CMAKE_MATCH_5} PARENT_SCOPE)
 endfunction()
 
 function(resample from to)
@@ -76,14 +62,6 @@ foreach(case "48000 32000 16100" "44100 22050 12000" "48000 8000 20000")
     endif()
 endforeach()
 
-function(expect_refusal reason input)
-    execute_process(COMMAND ${RESAMPLE} ${ARGN} INPUT_FILE ${input} RESULT_VARIABLE status ERROR_VARIABLE message
-        OUTPUT_FILE ${WORK_DIR}/refused)
-    if(NOT status EQUAL 1 OR NOT message MATCHES "^resample: ${reason}")
-        message(SEND_ERROR "resample ${ARGN} <${input}: status ${status}, message ${message}")
-    endif()
-endfunction()
-
 file(WRITE ${WORK_DIR}/empty "")
 file(WRITE ${WORK_DIR}/odd "abc")
 execute_process(COMMAND ${RESAMPLE} --from 8000 --to 16000 INPUT_FILE ${WORK_DIR}/empty OUTPUT_FILE ${WORK_DIR}/none
@@ -105,8 +83,4 @@ expect_refusal("the rates: both are wanted" ${WORK_DIR}/empty --to 8000)
 expect_refusal("the rates: their ratio is not a usual one" ${WORK_DIR}/empty --from 999999 --to 1000000)
 expect_refusal("--loud: no such option" ${WORK_DIR}/empty --loud 1)
 expect_refusal("--from: a value is missing" ${WORK_DIR}/empty --from)
-execute_process(COMMAND ${RESAMPLE} --from 44100 --to 48000 INPUT_FILE ${WORK_DIR}/tone OUTPUT_FILE /dev/full
-    RESULT_VARIABLE status ERROR_VARIABLE message)
-if(NOT status EQUAL 1 OR NOT message MATCHES "^resample: output: No space left on device")
-    message(SEND_ERROR "resample >/dev/full: status ${status}, message ${message}")
-endif()
+expect_no_space(${WORK_DIR}/tone --from 44100 --to 48000)

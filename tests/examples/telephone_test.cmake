@@ -1,7 +1,7 @@
 # Runs the telephone filter over a square wave, whose harmonics are known, and over what it has to refuse.
 cmake_minimum_required(VERSION 3.25)
-file(REMOVE_RECURSE ${WORK_DIR})
-file(MAKE_DIRECTORY ${WORK_DIR})
+set(PROGRAM ${TELEPHONE})
+include(${CMAKE_CURRENT_LIST_DIR}/support.cmake)
 
 # 750 Hz at 48000 samples a second, with harmonics at 2250, 3750, ... Hz; more samples than the program reads at once.
 include(${CMAKE_CURRENT_LIST_DIR}/square_wave.cmake)
@@ -19,25 +19,6 @@ function(expect_tones expression)
         INPUT_FILE ${WORK_DIR}/square OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
     if(NOT output MATCHES "${expression}")
         message(SEND_ERROR "telephone ${ARGN}: ${output}")
-    endif()
-endfunction()
-
-function(expect_refusal reason input)
-    execute_process(COMMAND ${TELEPHONE} ${ARGN} INPUT_FILE ${input} RESULT_VARIABLE status ERROR_VARIABLE message
-        OUTPUT_FILE ${WORK_DIR}/refused)
-    if(NOT status EQUAL 1 OR NOT message MATCHES "^telephone: ${reason}")
-        message(SEND_ERROR "telephone ${ARGN} <${input}: status ${status}, message ${message}")
-    endif()
-    file(SIZE ${WORK_DIR}/refused written)
-    if(ARGN AND NOT written EQUAL 0)
-        message(SEND_ERROR "telephone ${ARGN} <${input} wrote ${written} bytes")
-    endif()
-endfunction()
-
-function(expect_same first second)
-    execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${first} ${second} RESULT_VARIABLE different)
-    if(different)
-        message(SEND_ERROR "${first} and ${second} differ")
     endif()
 endfunction()
 
@@ -89,8 +70,4 @@ expect_refusal("--window: one of these is wanted: bartlett blackman hamming hann
 expect_refusal("--loud: no such option" ${square} --loud 1)
 expect_refusal("--low: a value is missing" ${square} --low)
 
-execute_process(COMMAND ${TELEPHONE} INPUT_FILE ${square} OUTPUT_FILE /dev/full RESULT_VARIABLE status
-    ERROR_VARIABLE message)
-if(NOT status EQUAL 1 OR NOT message MATCHES "^telephone: output: No space left on device")
-    message(SEND_ERROR "telephone >/dev/full: status ${status}, message ${message}")
-endif()
+expect_no_space(${square})
