@@ -13,42 +13,53 @@ constexpr float nan32 = std::numeric_limits<float>::quiet_NaN();
 constexpr double nan64 = std::numeric_limits<double>::quiet_NaN();
 
 // One rounding for the reciprocal, in the nearest mode of words, and one for each product.
-float productByReciprocal(float x, float reciprocal, int s)
+float productByReciprocal(float x, float reciprocal, float factor)
 {
     volatile float product = x * reciprocal;
-    volatile float scaled = product * static_cast<float>(model::factorOf(s));
+    volatile float scaled = product * factor;
     return scaled;
 }
 
-// All constants at the factors that have steps of their own or leave the range, else one and another.
+// The factors that have steps of their own or leave the range; elsewhere one constant and another take the lengths, and
+// the others all values.
 Depth depthOf(int s) { return s == 0 || s == 1 || s == -1 || std::abs(s) == 17 ? Depth::full : Depth::quick; }
 
 TEST(DivisionByConstant, Words)
 {
-    for (const RoundingMode mode : {RoundingMode::nearest, RoundingMode::up}) {
-        std::size_t turn = 0;
-        for (const int s : scaleFactors(-16, 16)) {
-            for (const Tarn16s val : constantsAt<Tarn16s>({3, -7, 1, -1, 32767, -32768, 10}, turn++, depthOf(s))) {
-                const float reciprocal = 1.0F / static_cast<float>(val);
-                SCOPED_TRACE(std::to_string(val) + " at " + std::to_string(s));
-                // Words do not follow the rounding mode, which is set for the calls alone.
-                const auto atScale = [=](Tarn16s x) {
-                    return model::nearest<Tarn16s>(productByReciprocal(static_cast<float>(x), reciprocal, s));
-                };
+    const std::vector<Tarn16s> constants = {3, -7, 1, -1, 32767, -32768, 10};
+    std::size_t turn = 0;
+    for (const int s : scaleFactors(-16, 16)) {
+        const auto factor = static_cast<float>(model::factorOf(s));
+        for (std::size_t i = 0; i < constants.size(); ++i) {
+            const Tarn16s val = constants[i];
+            const float reciprocal = 1.0F / static_cast<float>(val);
+            const auto atScale = tabulated<Tarn16s>([=](Tarn16s x) {
+                return model::nearest<Tarn16s>(productByReciprocal(static_cast<float>(x), reciprocal, factor));
+            });
+            const SweepOptions options{.name = std::to_string(val) + " at " + std::to_string(s),
+                                       .thresholds = {32},
+                                       .depth = std::max(Depth::quick, depthOfConstant(i, turn, depthOf(s)))};
+            // Words do not follow the rounding mode, which is set for the calls alone: one or the other at most
+            // factors.
+            for (const RoundingMode mode : {RoundingMode::nearest, RoundingMode::up}) {
+                const bool isItsTurn = (mode == RoundingMode::up) == ((i + turn) % 2 == 0);
+                if (!isItsTurn && depthOf(s) != Depth::full)
+                    continue;
                 sweepElementwise<Tarn16s, Tarn16s>(
                     [=](const Tarn16s* src, Tarn16s* dst, int len) {
                         const RoundingModeScope scope(mode);
                         return tarnsDivC_16s_Sfs(src, val, dst, len, s);
                     },
-                    atScale, {.thresholds = {32}, .depth = Depth::quick});
+                    atScale, options);
                 sweepInPlace<Tarn16s>(
                     [=](Tarn16s* x, int len) {
                         const RoundingModeScope scope(mode);
                         return tarnsDivC_16s_ISfs(val, x, len, s);
                     },
-                    atScale, {.thresholds = {32}, .depth = Depth::quick});
+                    atScale, options);
             }
         }
+        ++turn;
     }
 }
 
@@ -57,13 +68,13 @@ TEST(DivisionByConstant, Bytes)
 {
     for (const RoundingMode mode : allRoundingModes) {
         const RoundingModeScope scope(mode);
-        std::size_t turn = 0;
         for (const int s : scaleFactors(-8, 8)) {
-            for (const Tarn8u val : constantsAt<Tarn8u>({3, 7, 1, 255, 128}, turn++, depthOf(s))) {
+            const auto factor = static_cast<float>(model::factorOf(s));
+            for (const Tarn8u val : std::initializer_list<Tarn8u>{3, 7, 1, 255, 128}) {
                 volatile float reciprocal = 1.0F / static_cast<float>(val);
                 SCOPED_TRACE(std::to_string(val) + " at " + std::to_string(s));
                 const auto atScale = [&](Tarn8u x) {
-                    const float value = productByReciprocal(static_cast<float>(x), reciprocal, s);
+                    const float value = productByReciprocal(static_cast<float>(x), reciprocal, factor);
                     return static_cast<Tarn8u>(std::nearbyint(value < 255 ? value : 255.0F));
                 };
                 sweepElementwise<Tarn8u, Tarn8u>(

@@ -84,15 +84,18 @@ TEST(MulC, ExactScaledProductsOf32BitComplexElements)
     const std::vector<Tarn32sc> constants = {{5, -77777}, {0, 0}, {1, 0}, {bottom, bottom}, {bottom, top}};
     std::size_t turn = 0;
     for (const int s : range_32sc.factors()) {
-        for (const Tarn32sc val : constantsAt(constants, turn++, range_32sc.depth(s))) {
-            SCOPED_TRACE(toText(val) + " at " + std::to_string(s));
+        for (std::size_t i = 0; i < constants.size(); ++i) {
+            const Tarn32sc val = constants[i];
+            const SweepOptions options{.name = toText(val) + " at " + std::to_string(s),
+                                       .depth = std::max(Depth::quick, depthOfConstant(i, turn, range_32sc.depth(s)))};
             const auto model = [=](Tarn32sc a) { return scaledProduct<Tarn32sc>(a, val, s); };
             sweepElementwise<Tarn32sc, Tarn32sc>(
                 [=](const Tarn32sc* a, Tarn32sc* dst, int len) { return tarnsMulC_32sc_Sfs(a, val, dst, len, s); },
-                model, {.depth = Depth::quick}, columns);
+                model, options, columns);
             sweepInPlace<Tarn32sc>([=](Tarn32sc* a, int len) { return tarnsMulC_32sc_ISfs(val, a, len, s); }, model,
-                                   {.depth = Depth::quick}, columns);
+                                   options, columns);
         }
+        ++turn;
     }
 }
 
@@ -134,10 +137,11 @@ TEST(MulC, FloatProductsInEveryRoundingMode)
     const auto model = [](auto a, auto val) { return floatProduct(a, val); };
     for (const RoundingMode mode : allRoundingModes) {
         const RoundingModeScope scope(mode);
-        sweepBothConstant(tarnsMulC_32f, tarnsMulC_32f_I, realFloats<Tarn32f>(), model);
-        sweepBothConstant(tarnsMulC_64f, tarnsMulC_64f_I, realFloats<Tarn64f>(), model);
-        sweepBothConstant(tarnsMulC_32fc, tarnsMulC_32fc_I, complexFloats<Tarn32fc>(), model);
-        sweepBothConstant(tarnsMulC_64fc, tarnsMulC_64fc_I, complexFloats<Tarn64fc>(), model);
+        const Depth depth = mode == RoundingMode::nearest ? Depth::full : Depth::quick;
+        sweepBothConstant(tarnsMulC_32f, tarnsMulC_32f_I, realFloats<Tarn32f>(), model, depth);
+        sweepBothConstant(tarnsMulC_64f, tarnsMulC_64f_I, realFloats<Tarn64f>(), model, depth);
+        sweepBothConstant(tarnsMulC_32fc, tarnsMulC_32fc_I, complexFloats<Tarn32fc>(), model, depth);
+        sweepBothConstant(tarnsMulC_64fc, tarnsMulC_64fc_I, complexFloats<Tarn64fc>(), model, depth);
     }
 }
 

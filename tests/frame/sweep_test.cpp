@@ -9,6 +9,8 @@
 #include <chrono>
 #include <cstring>
 #include <numeric>
+#include <set>
+#include <utility>
 
 namespace tarn::test {
 namespace {
@@ -114,6 +116,42 @@ TEST(Sweep, NoticesEachFault)
         sweepBytes({.leaveMmx = true});
         asm volatile("emms");
     });
+}
+
+TEST(Sweep, QuickOnesTakeEveryPairOfOffsetsInTurn)
+{
+    std::set<std::pair<std::uintptr_t, std::uintptr_t>> seen;
+    const auto copy = [&](const Tarn16s* src, Tarn16s* dst, int len) {
+        seen.emplace(reinterpret_cast<std::uintptr_t>(dst) % 16, reinterpret_cast<std::uintptr_t>(src) % 16);
+        std::memmove(dst, src, static_cast<std::size_t>(len) * sizeof *dst);
+        return tarnStsNoErr;
+    };
+    const auto same = [](Tarn16s x) { return x; };
+    for (int i = 0; i < 16; ++i) {
+        sweepElementwise<Tarn16s, Tarn16s>(copy, same, {.depth = Depth::quick, .aliased = false});
+        sweepInPlace<Tarn16s>([](Tarn16s*, int) { return tarnStsNoErr; }, same, {.depth = Depth::quick});
+    }
+    for (std::uintptr_t destination = 0; destination < 16; destination += sizeof(Tarn16s))
+        for (std::uintptr_t source = 0; source < 16; ++source)
+            EXPECT_EQ(1U, seen.count({destination, source})) << destination << " " << source;
+}
+
+TEST(Sweep, EveryDepthNoticesOneWrongValue)
+{
+    if (detail::sweepsAreQuick())
+        GTEST_SKIP() << "takes a part of the values";
+    const auto wrong = [](const Tarn16s* src, Tarn16s* dst, int len) {
+        for (int i = 0; i < len; ++i) {
+            const auto x = load(src, i);
+            store(dst, i, static_cast<Tarn16s>(x == 12345 ? 54 : -x));
+        }
+        return tarnStsNoErr;
+    };
+    for (const Depth depth : {Depth::full, Depth::quick, Depth::values})
+        expectNoticed("1 of 65536", [&] {
+            sweepElementwise<Tarn16s, Tarn16s>(wrong, [](Tarn16s x) { return static_cast<Tarn16s>(-x); },
+                                               {.depth = depth, .aliased = false});
+        });
 }
 
 TEST(SweepDeathTest, TellsTheRunThatReadsPast)

@@ -42,13 +42,27 @@ void sweepScaled(OutOfPlace outOfPlace, InPlace inPlace, ScaleRange range, Model
     }
 }
 
-/// The first constant at every factor, the others at those of full depth, and at each further one another of them.
-template <class T>
-std::vector<T> constantsAt(const std::vector<T>& constants, std::size_t turn, Depth depth)
+/// The depth for a constant at a factor: the first is swept as the factor is, the others where that is fully, and one
+/// and another of them elsewhere; the rest with all values.
+inline Depth depthOfConstant(std::size_t constant, std::size_t turn, Depth ofFactor)
 {
-    if (depth == Depth::full || constants.size() < 3)
-        return constants;
-    return {constants[0], constants[1 + turn % (constants.size() - 1)]};
+    if (constant == 0)
+        return ofFactor;
+    return ofFactor == Depth::full || (constant + turn) % 4 == 0 ? Depth::quick : Depth::values;
+}
+
+/// A model of words whose results for all of them are found once, for several sweeps.
+template <class T, class Model>
+auto tabulated(const Model& model)
+{
+    if constexpr (std::is_integral_v<T> && sizeof(T) == 2) {
+        std::vector<T> results(detail::sweepsAreQuick() ? 0 : detail::everyValue);
+        for (std::size_t bits = 0; bits < results.size(); ++bits)
+            results[bits] = model(static_cast<T>(bits));
+        return [=](T x) { return results.empty() ? model(x) : results[static_cast<std::make_unsigned_t<T>>(x)]; };
+    } else {
+        return model;
+    }
 }
 
 /// `model(T element, T val, int s) -> T`.
@@ -59,15 +73,15 @@ void sweepScaledConstant(OutOfPlace outOfPlace, InPlace inPlace, ScaleRange rang
     std::size_t turn = 0;
     for (const int s : range.factors()) {
         SCOPED_TRACE(s);
-        const std::vector<T> chosen = constantsAt(constants, turn++, range.depth(s));
-        for (const T& val : chosen) {
-            const Depth depth = &val == chosen.data() ? range.depth(s) : Depth::quick;
-            const auto atScale = [&](T a) { return model(a, val, s); };
+        for (const T& val : constants) {
+            const auto constant = static_cast<std::size_t>(&val - constants.data());
+            const SweepOptions options{.name = toText(val), .depth = depthOfConstant(constant, turn, range.depth(s))};
+            const auto atScale = tabulated<T>([&](T a) { return model(a, val, s); });
             sweepElementwise<T, T>([&](const T* a, T* dst, int len) { return outOfPlace(a, val, dst, len, s); },
-                                   atScale, {.name = toText(val), .depth = depth});
-            sweepInPlace<T>([&](T* srcDst, int len) { return inPlace(val, srcDst, len, s); }, atScale,
-                            {.name = toText(val), .depth = depth});
+                                   atScale, options);
+            sweepInPlace<T>([&](T* srcDst, int len) { return inPlace(val, srcDst, len, s); }, atScale, options);
         }
+        ++turn;
     }
 }
 
@@ -79,12 +93,13 @@ void sweepBoth(OutOfPlace outOfPlace, InPlace inPlace, Model model, const SweepO
     sweepInPlace<T, T>(inPlace, model, options);
 }
 
-/// `model(T element, T val) -> T`.
+/// `model(T element, T val) -> T`. The first constant has a depth of its own.
 template <class T, class OutOfPlace, class InPlace, class Model>
-void sweepBothConstant(OutOfPlace outOfPlace, InPlace inPlace, const std::vector<T>& constants, Model model)
+void sweepBothConstant(OutOfPlace outOfPlace, InPlace inPlace, const std::vector<T>& constants, Model model,
+                       Depth first)
 {
     for (const T& val : constants) {
-        const SweepOptions options{.name = toText(val), .depth = Depth::quick};
+        const SweepOptions options{.name = toText(val), .depth = &val == constants.data() ? first : Depth::quick};
         const auto withConstant = [&](T a) { return model(a, val); };
         sweepElementwise<T, T>([&](const T* a, T* dst, int len) { return outOfPlace(a, val, dst, len); }, withConstant,
                                options);

@@ -1,6 +1,8 @@
 // Lists of lengths and scale factors, and the plan of a sweep.
 #include "support/sweep.h"
 
+#include <gtest/gtest.h>
+
 #include <climits>
 #include <cstdlib>
 #include <cstring>
@@ -51,17 +53,6 @@ std::vector<int> scaleFactors(int lo, int hi)
 }
 
 namespace detail {
-namespace {
-
-// Where every call is slow, as under sanitizers: what they see beyond the guards depends on the code that runs, and a
-// quick sweep runs all of it.
-bool sweepsAreQuick()
-{
-    const char* const depth = std::getenv("TARNS_TEST_DEPTH");
-    return depth != nullptr && std::strcmp(depth, "quick") == 0;
-}
-
-} // namespace
 
 std::size_t shortestColumn(const SweepOptions& options)
 {
@@ -72,22 +63,31 @@ std::size_t shortestColumn(const SweepOptions& options)
     return static_cast<std::size_t>(len);
 }
 
-bool isFull(const SweepOptions& options)
+// Under sanitizers: what they see beyond the guards depends on the code that runs, and a quick sweep runs all of it.
+bool sweepsAreQuick()
 {
-    static const bool quick = sweepsAreQuick();
-    return options.depth == Depth::full && !quick;
+    static const char* const depth = std::getenv("TARNS_TEST_DEPTH");
+    return depth != nullptr && std::strcmp(depth, "quick") == 0;
 }
 
+// Each test begins anew, so that alone it does what it does among others.
 std::size_t nextTurn()
 {
+    static const ::testing::TestInfo* last = nullptr;
     static std::size_t turn = 0;
+    const ::testing::TestInfo* const current = ::testing::UnitTest::GetInstance()->current_test_info();
+    if (current != last)
+        turn = 0;
+    last = current;
     return turn++;
 }
 
 Plan makePlan(const SweepOptions& options, std::size_t longest, bool windowsByLength)
 {
     Plan plan;
-    plan.full = isFull(options);
+    plan.full = options.depth == Depth::full && !sweepsAreQuick();
+    plan.valuesOnly = options.depth == Depth::values;
+    plan.turn = static_cast<unsigned>(nextTurn());
     plan.lengths = lengths(options.thresholds);
     plan.longest = static_cast<int>(longest);
     plan.windowsByLength = windowsByLength;

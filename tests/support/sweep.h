@@ -34,10 +34,11 @@
 namespace tarn::test {
 
 enum class Depth {
-    full, ///< every length to 70 at every byte offset of the destination times every one of the sources; quick if the
-          ///< environment has TARNS_TEST_DEPTH=quick
-    quick ///< every length to 70, few offsets each, all offsets in turn: some 350 calls; of operands that take every
-          ///< value there is, a part, another one each time
+    full,  ///< every length to 70 at every byte offset of the destination times every one of the sources; quick if the
+           ///< environment has TARNS_TEST_DEPTH=quick
+    quick, ///< every length to 70, few offsets each, other ones in each sweep, so that a score of sweeps takes every
+           ///< one of the destination with every one of a source: some 350 calls
+    values ///< all values of the columns in one call, at offsets that change
 };
 
 struct SweepOptions {
@@ -95,10 +96,10 @@ auto valueOf(R result)
 /// The columns have to hold the longest run.
 std::size_t shortestColumn(const SweepOptions& options);
 
-/// Whether a sweep has full depth, which the environment may deny.
-bool isFull(const SweepOptions& options);
+/// Whether the environment has TARNS_TEST_DEPTH=quick, where every call is slow.
+bool sweepsAreQuick();
 
-/// Counts the sweeps that take a part of all values.
+/// Counts the sweeps of a test.
 std::size_t nextTurn();
 
 Plan makePlan(const SweepOptions& options, std::size_t longest, bool windowsByLength);
@@ -206,7 +207,8 @@ void sweepWindows(AnyCall call, ArrayModel<Dst, Src...> model, const Columns<Src
     run(job);
 }
 
-/// The columns of a test, or those of its types where it has none.
+/// The columns of a test, or those of its types where it has none. Where calls are slow, of every value there is a
+/// part, another one each time.
 template <class... Src>
 const Columns<Src...>& completeColumns(Columns<Src...>& columns, const SweepOptions& options)
 {
@@ -219,7 +221,7 @@ const Columns<Src...>& completeColumns(Columns<Src...>& columns, const SweepOpti
             return columns;
         }
         static const Columns<Src...> usual = makeColumns<Src...>(Values::mixed, shortest);
-        if (std::get<0>(usual).size() < everyValue || isFull(options))
+        if (std::get<0>(usual).size() < everyValue || !sweepsAreQuick())
             return usual;
         columns = thinnedColumns(usual, nextTurn());
     }

@@ -220,7 +220,14 @@ void run(const Job& job)
     const auto elementSize = static_cast<unsigned>(job.destination.size);
     const bool hasSources = job.columns.size() > (job.aliased < 0 ? 0U : 1U);
     constexpr int shortest = 70;
+    // One more after 16 sweeps, so that a function which is every other one, or every eighth, gets all of them too.
+    const unsigned round = job.plan.turn / offsets;
+    const unsigned turn = job.plan.turn + round;
 
+    if (job.plan.valuesOnly) {
+        sweep.at(job.plan.longest, atOffsets(round * elementSize, turn));
+        return;
+    }
     for (int len = 1; len <= shortest && !sweep.gaveUp(); ++len) {
         atGuards(sweep, len);
         if (job.plan.full) {
@@ -231,10 +238,10 @@ void run(const Job& job)
                 for (unsigned s = 0; s < (hasSources ? offsets : 1U); ++s)
                     sweep.at(len, atOffsets(d, s));
         } else {
-            const auto turn = static_cast<unsigned>(len);
-            sweep.at(len, atOffsets(0, turn));
-            sweep.at(len, atOffsets(turn * elementSize, turn / 16));
-            sweep.at(len, atOffsets(turn | 1, 0));
+            const auto at = static_cast<unsigned>(len);
+            sweep.at(len, atOffsets(0, at + turn));
+            sweep.at(len, atOffsets((at + round) * elementSize, at / offsets + turn));
+            sweep.at(len, atOffsets((at | 1) + 2 * round, turn));
         }
     }
     for (int len : job.plan.lengths) {

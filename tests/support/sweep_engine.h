@@ -43,6 +43,8 @@ struct Expectation {
 
 struct Plan {
     bool full = true;
+    bool valuesOnly = false;
+    unsigned turn = 0;            ///< counts sweeps: those that are not full try other offsets each time
     std::vector<int> lengths;     ///< tried at a few places each
     int longest = 0;              ///< windows are this long at most: the length of the columns
     bool windowsByLength = false; ///< one window for each length, where a result costs a model run over the window
