@@ -5,7 +5,7 @@
 #include "support/checks.h"
 #include "support/fpstate.h"
 #include "support/nans.h"
-#include "support/sweep.h"
+#include "support/scaled.h"
 
 #include <cmath>
 
@@ -33,34 +33,18 @@ T floatSum(T a, T b)
         return a + b;
 }
 
-// Every scale factor of interest at some lengths, and each of the kernels at every length and address.
-std::vector<int> factors(int down, int up) { return scaleFactors(-up, down); }
-Depth depthOf(int s, int up)
-{
-    return s == 0 || s == 1 || s == 2 || s == -1 || s == -up - 1 ? Depth::full : Depth::quick;
-}
-
-template <class T, class Scaled, class ScaledInPlace>
-void sweepScaled(Scaled outOfPlace, ScaledInPlace inPlace, int down, int up)
-{
-    for (const int s : factors(down, up)) {
-        SCOPED_TRACE(s);
-        const auto model = [s](T a, T b) { return sum(a, b, s); };
-        sweepElementwise<T, T, T>(
-            [&](const T* a, const T* b, T* dst, int len) { return outOfPlace(a, b, dst, len, s); }, model,
-            {.depth = depthOf(s, up)});
-        sweepInPlace<T, T>([&](const T* a, T* srcDst, int len) { return inPlace(a, srcDst, len, s); }, model,
-                           {.depth = depthOf(s, up)});
-    }
-}
+constexpr ScaleRange range_8u{.down = 9, .up = 7};
+constexpr ScaleRange range_16s{.down = 16, .up = 15};
+constexpr ScaleRange range_32s{.down = 32, .up = 30};
+constexpr auto exactSum = [](auto a, auto b, int s) { return sum(a, b, s); };
 
 TEST(Add, ScaledSums)
 {
-    sweepScaled<Tarn8u>(tarnsAdd_8u_Sfs, tarnsAdd_8u_ISfs, 9, 7);
-    sweepScaled<Tarn16s>(tarnsAdd_16s_Sfs, tarnsAdd_16s_ISfs, 16, 15);
-    sweepScaled<Tarn32s>(tarnsAdd_32s_Sfs, tarnsAdd_32s_ISfs, 32, 30);
-    sweepScaled<Tarn16sc>(tarnsAdd_16sc_Sfs, tarnsAdd_16sc_ISfs, 16, 15);
-    sweepScaled<Tarn32sc>(tarnsAdd_32sc_Sfs, tarnsAdd_32sc_ISfs, 32, 30);
+    sweepScaled<Tarn8u>(tarnsAdd_8u_Sfs, tarnsAdd_8u_ISfs, range_8u, exactSum);
+    sweepScaled<Tarn16s>(tarnsAdd_16s_Sfs, tarnsAdd_16s_ISfs, range_16s, exactSum);
+    sweepScaled<Tarn32s>(tarnsAdd_32s_Sfs, tarnsAdd_32s_ISfs, range_32s, exactSum);
+    sweepScaled<Tarn16sc>(tarnsAdd_16sc_Sfs, tarnsAdd_16sc_ISfs, range_16s, exactSum);
+    sweepScaled<Tarn32sc>(tarnsAdd_32sc_Sfs, tarnsAdd_32sc_ISfs, range_32s, exactSum);
 }
 
 TEST(Add, SumsWithoutAScale)
@@ -75,51 +59,29 @@ TEST(Add, SumsWithoutAScale)
                                                 [](int a, int b) { return static_cast<Tarn32f>(a + b); });
 }
 
-template <class T>
-void sweepFloats(TarnStatus (*outOfPlace)(const T*, const T*, T*, int), TarnStatus (*inPlace)(const T*, T*, int),
-                 RoundingMode mode)
-{
-    const RoundingModeScope scope(mode);
-    const SweepOptions options{.depth = mode == RoundingMode::nearest ? Depth::full : Depth::quick};
-    const auto model = [](T a, T b) { return floatSum(a, b); };
-    sweepElementwise<T, T, T>(outOfPlace, model, options);
-    sweepInPlace<T, T>(inPlace, model, options);
-}
-
 TEST(Add, FloatSumsInEveryRoundingMode)
 {
+    const auto model = [](auto a, auto b) { return floatSum(a, b); };
     for (const RoundingMode mode : allRoundingModes) {
-        sweepFloats<Tarn32f>(tarnsAdd_32f, tarnsAdd_32f_I, mode);
-        sweepFloats<Tarn64f>(tarnsAdd_64f, tarnsAdd_64f_I, mode);
-        sweepFloats<Tarn32fc>(tarnsAdd_32fc, tarnsAdd_32fc_I, mode);
-        sweepFloats<Tarn64fc>(tarnsAdd_64fc, tarnsAdd_64fc_I, mode);
-    }
-}
-
-template <class T, class Scaled, class ScaledInPlace>
-void sweepConstants(Scaled outOfPlace, ScaledInPlace inPlace, int down, int up, std::vector<T> constants)
-{
-    for (const int s : factors(down, up)) {
-        SCOPED_TRACE(s);
-        for (const T& val : constants) {
-            const bool first = &val == constants.data();
-            const Depth depth = first ? depthOf(s, up) : Depth::quick;
-            const auto model = [s, val](T a) { return sum(a, val, s); };
-            sweepElementwise<T, T>([&](const T* a, T* dst, int len) { return outOfPlace(a, val, dst, len, s); }, model,
-                                   {.depth = depth});
-            sweepInPlace<T>([&](T* srcDst, int len) { return inPlace(val, srcDst, len, s); }, model, {.depth = depth});
-        }
+        const RoundingModeScope scope(mode);
+        const SweepOptions options{.depth = mode == RoundingMode::nearest ? Depth::full : Depth::quick};
+        sweepBoth<Tarn32f>(tarnsAdd_32f, tarnsAdd_32f_I, model, options);
+        sweepBoth<Tarn64f>(tarnsAdd_64f, tarnsAdd_64f_I, model, options);
+        sweepBoth<Tarn32fc>(tarnsAdd_32fc, tarnsAdd_32fc_I, model, options);
+        sweepBoth<Tarn64fc>(tarnsAdd_64fc, tarnsAdd_64fc_I, model, options);
     }
 }
 
 TEST(AddC, ScaledSums)
 {
     constexpr Tarn32s top = 2147483647;
-    sweepConstants<Tarn8u>(tarnsAddC_8u_Sfs, tarnsAddC_8u_ISfs, 9, 7, {1, 0, 255});
-    sweepConstants<Tarn16s>(tarnsAddC_16s_Sfs, tarnsAddC_16s_ISfs, 16, 15, {-3, 0, 32767, -32768});
-    sweepConstants<Tarn32s>(tarnsAddC_32s_Sfs, tarnsAddC_32s_ISfs, 32, 30, {5, 0, top, -top - 1});
-    sweepConstants<Tarn16sc>(tarnsAddC_16sc_Sfs, tarnsAddC_16sc_ISfs, 16, 15, {{-3, 1000}, {0, 0}, {32767, -32768}});
-    sweepConstants<Tarn32sc>(tarnsAddC_32sc_Sfs, tarnsAddC_32sc_ISfs, 32, 30, {{5, -77777}, {0, 0}, {top, -top - 1}});
+    sweepScaledConstant<Tarn8u>(tarnsAddC_8u_Sfs, tarnsAddC_8u_ISfs, range_8u, {1, 0, 255}, exactSum);
+    sweepScaledConstant<Tarn16s>(tarnsAddC_16s_Sfs, tarnsAddC_16s_ISfs, range_16s, {-3, 0, 32767, -32768}, exactSum);
+    sweepScaledConstant<Tarn32s>(tarnsAddC_32s_Sfs, tarnsAddC_32s_ISfs, range_32s, {5, 0, top, -top - 1}, exactSum);
+    sweepScaledConstant<Tarn16sc>(tarnsAddC_16sc_Sfs, tarnsAddC_16sc_ISfs, range_16s,
+                                  {{-3, 1000}, {0, 0}, {32767, -32768}}, exactSum);
+    sweepScaledConstant<Tarn32sc>(tarnsAddC_32sc_Sfs, tarnsAddC_32sc_ISfs, range_32s,
+                                  {{5, -77777}, {0, 0}, {top, -top - 1}}, exactSum);
     for (const Tarn16s val : std::initializer_list<Tarn16s>{-32768, -1, 0, 1, 32767})
         sweepInPlace<Tarn16s>([val](Tarn16s* srcDst, int len) { return tarnsAddC_16s_I(val, srcDst, len); },
                               [val](int a) { return saturated<Tarn16s>(a + val); });
@@ -135,23 +97,22 @@ T realSum(T a, T val)
     return val == 0 || std::isnan(val) ? a : a + val;
 }
 
+template <class T>
+const std::vector<T> floats = {T(1.1),
+                               T(0),
+                               -T(0),
+                               std::numeric_limits<T>::quiet_NaN(),
+                               std::numeric_limits<T>::infinity(),
+                               -std::numeric_limits<T>::denorm_min()};
+
 TEST(AddC, FloatSums)
 {
+    const auto model = [](auto a, auto val) { return realSum(a, val); };
     for (const RoundingMode mode : allRoundingModes) {
-        RoundingModeScope scope(mode);
-        for (const Tarn32f val : {1.1F, 0.0F, -0.0F, nan32, std::numeric_limits<Tarn32f>::infinity(), -1e-45F}) {
-            sweepElementwise<Tarn32f, Tarn32f>(
-                [val](const Tarn32f* src, Tarn32f* dst, int len) { return tarnsAddC_32f(src, val, dst, len); },
-                [val](Tarn32f a) { return realSum(a, val); }, {.depth = Depth::quick});
-            sweepInPlace<Tarn32f>([val](Tarn32f* srcDst, int len) { return tarnsAddC_32f_I(val, srcDst, len); },
-                                  [val](Tarn32f a) { return realSum(a, val); }, {.depth = Depth::quick});
-            const Tarn64f wide = val * 1.1;
-            sweepElementwise<Tarn64f, Tarn64f>(
-                [wide](const Tarn64f* src, Tarn64f* dst, int len) { return tarnsAddC_64f(src, wide, dst, len); },
-                [wide](Tarn64f a) { return realSum(a, wide); }, {.depth = Depth::quick});
-            sweepInPlace<Tarn64f>([wide](Tarn64f* srcDst, int len) { return tarnsAddC_64f_I(wide, srcDst, len); },
-                                  [wide](Tarn64f a) { return realSum(a, wide); }, {.depth = Depth::quick});
-        }
+        const RoundingModeScope scope(mode);
+        const Depth depth = mode == RoundingMode::nearest ? Depth::full : Depth::quick;
+        sweepBothConstant(tarnsAddC_32f, tarnsAddC_32f_I, floats<Tarn32f>, model, depth);
+        sweepBothConstant(tarnsAddC_64f, tarnsAddC_64f_I, floats<Tarn64f>, model, depth);
     }
 }
 
