@@ -21,6 +21,17 @@ configure()
     }
 }
 
+# build NAME WHAT...: silently, unless it fails; its log has the name.
+build()
+{
+    log=$(log_of "$1-build")
+    shift
+    cmake --build "$@" -j "$jobs" >"$log" 2>&1 || {
+        cat "$log" >&2
+        return 1
+    }
+}
+
 log_of()
 {
     mkdir -p build/logs
