@@ -148,7 +148,7 @@ TEST(Sweep, EveryDepthNoticesOneWrongValue)
         return tarnStsNoErr;
     };
     for (const Depth depth : {Depth::full, Depth::quick, Depth::values})
-        expectNoticed("1 of 65536", [&] {
+        expectNoticed("expected -12345, got 54", [&] {
             sweepElementwise<Tarn16s, Tarn16s>(wrong, [](Tarn16s x) { return static_cast<Tarn16s>(-x); },
                                                {.depth = depth, .aliased = false});
         });
