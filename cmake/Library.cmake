@@ -29,9 +29,12 @@ endfunction()
 # tarns_add_library(<target> <sanitizers>): the sources under these sanitizers, or optimised if there are none.
 function(tarns_add_library target sanitizers)
     add_library(${target} SHARED ${TARNS_SOURCES})
-    # The level is part of the name, so that builds for other levels can be installed side by side.
+    # The level is part of the name, so that builds for other levels can be installed side by side; so is the major
+    # version of the file that programs load, while they are linked with a name without it.
     set_target_properties(${target} PROPERTIES
         OUTPUT_NAME tarns${TARNS_LEVEL_MARK}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
     target_include_directories(${target}

@@ -1,5 +1,4 @@
 """Loads the shared library, and turns its statuses into exceptions and warnings."""
-import ctypes.util
 import os
 import warnings
 
@@ -20,10 +19,11 @@ class Warning(RuntimeWarning):  # pylint: disable=redefined-builtin
 
 def _load():
     wanted = os.environ.get("TARNS_LIBRARY")
-    beside = os.path.join(os.path.dirname(__file__), "libtarnst7.so")
-    names = [wanted] if wanted else [beside, "libtarnst7.so", ctypes.util.find_library("tarnst7") or ""]
+    # By the name that programs load, which is there without what they are linked with.
+    name = "libtarnst7.so.4"
+    names = [wanted] if wanted else [os.path.join(os.path.dirname(__file__), name), name]
     problems = []
-    for name in filter(None, names):
+    for name in names:
         try:
             return ffi.dlopen(name)
         except OSError as problem:
