@@ -8,7 +8,7 @@ extern "C" void __libc_free(void* block);
 extern "C" void* malloc(std::size_t size) noexcept
 {
     auto& watched = tarn::test::memoryWatched;
-    if (watched.armed && watched.allocated >= watched.allowed)
+    if (watched.armed && (watched.allocated >= watched.allowed || size > watched.most))
         return nullptr;
     void* const block = __libc_malloc(size);
     if (watched.armed && block != nullptr) {

@@ -4,6 +4,7 @@
 //     MemoryWatch watch(1);                        // one allocation succeeds, the next ones fail
 //     const TarnStatus status = tarnsFIRGenBandpass_64f(...);
 //     EXPECT_EQ(0, watch.outstanding());           // what was allocated has been freed
+//     MemoryWatch watch(10, 1 << 20);              // no block of more than so many bytes either
 //
 // Test frameworks allocate too: keep nothing but calls of the library in the scope of a watch.
 #pragma once
@@ -17,6 +18,7 @@ namespace tarn::test {
 struct MemoryWatched {
     bool armed = false;
     int allowed = 0;
+    std::size_t most = 0; ///< bytes of a block
     int allocated = 0;
     int freed = 0;
     std::size_t largest = 0;
@@ -28,7 +30,11 @@ extern const bool canRefuseMemory;
 
 class MemoryWatch {
 public:
-    explicit MemoryWatch(int allowed = std::numeric_limits<int>::max()) { memoryWatched = {true, allowed, 0, 0, 0}; }
+    explicit MemoryWatch(int allowed = std::numeric_limits<int>::max(),
+                         std::size_t most = std::numeric_limits<std::size_t>::max())
+    {
+        memoryWatched = {true, allowed, most, 0, 0, 0};
+    }
     ~MemoryWatch() { memoryWatched.armed = false; }
     MemoryWatch(const MemoryWatch&) = delete;
     MemoryWatch& operator=(const MemoryWatch&) = delete;
