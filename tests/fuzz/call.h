@@ -9,6 +9,7 @@
 #include "support/hard_values.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -46,6 +47,9 @@ public:
     Object takeMade();
 
 private:
+    /// What stands where a function is to leave an address.
+    static void* untouchedPlace() { return reinterpret_cast<void*>(std::uintptr_t{0x5A5A5A50}); }
+
     struct Array {
         std::size_t argument;
         digest::Element element;
