@@ -81,6 +81,26 @@ TARN_INLINE std::array<BlockPart<T>, 4> fourPointPairs(const std::array<BlockPar
     return {add(s0, t0), forward ? minus : plus, sub(s0, t0), forward ? plus : minus};
 }
 
+// A butterfly on the four packs of N elements that load(i) gives. Within a stage the quarters are in bit-reversed
+// order, hence W(2k) for the second and W(k) for the third; factors(i) has W((i + 1) k). Results go to put(quarter's
+// number, value).
+template <bool forward, typename Load, typename Factors, typename Put>
+TARN_INLINE void butterfly(Load load, Factors factors, Put put)
+{
+    const auto c = rotate<forward>(load(2), factors(0));
+    const auto d = rotate<forward>(load(3), factors(2));
+    const auto t0 = c + d;
+    const auto t1 = c - d;
+    const auto b = rotate<forward>(load(1), factors(1));
+    const auto a = load(0);
+    const auto s0 = a + b;
+    const auto s1 = a - b;
+    put(0, s0 + t0);
+    put(2, s0 - t0);
+    put(1, plusQuarterTurn<forward>(s1, t1));
+    put(3, minusQuarterTurn<forward>(s1, t1));
+}
+
 // The eighth roots W8^0 to W8^3 that join two transforms of four points into one of eight: real parts, then imaginary
 // parts.
 template <typename T>

@@ -21,22 +21,25 @@ struct RowsOfPairs {
 
     TARN_INLINE Block<Value> load(std::ptrdiff_t row, std::ptrdiff_t column) const
     {
-        const Value* p = at(row, column);
-        return {loadPack<blockLanes<T>>(p), loadPack<blockLanes<T>>(p + blockLanes<T>)};
+        const Value* p = inWork(row, column);
+        return {loadPack<blockLanes<T>>(p), loadPack<blockLanes<T>>(p + workLanes<Value>)};
     }
     TARN_INLINE void put(std::ptrdiff_t row, std::ptrdiff_t column, Block<T> x) const
     {
-        T* p = at(row, column);
         if constexpr (pairsAfter) {
-            storePairs(p, x);
+            storePairs(data + 2 * (row * rowLength + column), x);
         } else {
+            T* p = inWork(row, column);
             store(p, x.re);
-            store(p + blockLanes<T>, x.im);
+            store(p + workLanes<T>, x.im);
         }
     }
 
 private:
-    TARN_INLINE T* at(std::ptrdiff_t row, std::ptrdiff_t column) const { return data + 2 * (row * rowLength + column); }
+    TARN_INLINE T* inWork(std::ptrdiff_t row, std::ptrdiff_t column) const
+    {
+        return data + placeInWork<Value>(row * rowLength + column);
+    }
 };
 
 // Arrays of real and of imaginary parts.
@@ -166,16 +169,20 @@ private:
         constexpr int width = 2 * blockLanes<T>;
         const int quarter = L / 4;
         const T* factors = stageTwiddles(twd, firstStage(R), L);
+        const int group = factorLanes<T>(L);
         for (int k = 0; k < quarter; ++k) {
-            const T* from = factors + k / blockLanes<T> * (3 * width) + k % blockLanes<T>;
+            const T* from = factorsOf(factors, group, k);
             alignas(blockBytes) T w[3 * width];
             for (int i = 0; i < 6; ++i) {
-                storeAligned(w + i * blockLanes<T>, splat<BlockPart<T>>(from[i * blockLanes<T>]));
+                storeAligned(w + i * blockLanes<T>, splat<BlockPart<T>>(from[i * group]));
             }
             for (int row = k; row < R; row += L) {
                 for (int block = 0; block < blocks; ++block) {
-                    butterfly<forward>(place(row, block), std::ptrdiff_t{quarter} * blocks * width, w,
-                                       [&](int part, Block<T> x) { put(row + part * quarter, block, x); });
+                    const T* const p = place(row, block);
+                    butterfly<forward>(
+                        [&](int i) { return loadBlock(p + std::ptrdiff_t{i} * quarter * blocks * width); },
+                        factorsAt<blockLanes<T>>(w, blockLanes<T>),
+                        [&](int part, Block<T> x) { put(row + part * quarter, block, x); });
                 }
             }
         }
@@ -223,16 +230,15 @@ inline void mergeLongColumns(Rows rows, T* work, const T* grid, int R)
 template <typename T, typename Rows>
 inline void splitLongColumns(Rows rows, const T* work, int R)
 {
-    constexpr int width = 2 * blockLanes<T>;
     for (int column = 0; column < gridColumns; column += blockLanes<T>) {
         const T* area = work + std::ptrdiff_t{2} * column * R;
-        for (int row = 0; row < R; row += blockLanes<T>, area += width) {
+        for (int row = 0; row < R; row += blockLanes<T>) {
             Square<T> re;
             Square<T> im;
             for (int lane = 0; lane < blockLanes<T>; ++lane) {
-                const T* p = area + std::ptrdiff_t{2} * lane * R;
+                const T* p = area + std::ptrdiff_t{2} * lane * R + placeInWork<T>(row);
                 re[lane] = loadPack<blockLanes<T>>(p);
-                im[lane] = loadPack<blockLanes<T>>(p + blockLanes<T>);
+                im[lane] = loadPack<blockLanes<T>>(p + workLanes<T>);
             }
             re = transpose<T>(re);
             im = transpose<T>(im);

@@ -5,47 +5,57 @@
 #include "frame/walk.h"
 #include "levels/fft/psfft_passes.h"
 
-#include <cstring>
-
 namespace tarn::fft {
+
+// The transform in blocks as wide as its length fills; `source` and `wide` read the same data.
+template <bool forward, typename T, typename Source, typename Wide, typename Sink>
+inline void transform(Source source, Wide wide, T* area, int size, const T* twd, Sink sink)
+{
+    if constexpr (hasWideBlocks<T>) {
+        if (Wide::takes(size)) {
+            Transform<forward, T, Wide>(wide, area, size, twd).run(sink);
+            return;
+        }
+    }
+    Transform<forward, T, Source>(source, area, size, twd).run(sink);
+}
 
 // Natural order to natural order. The destination serves as work area where it can.
 template <bool forward, typename T>
 inline void readingCore(const T* src, T* dst, int size, const T* twd, const Tarn32s* rev, T* work)
 {
     T* const area = src != dst && isOnBoundary(dst) ? dst : work;
-    Transform<forward, T, ReadPairs<T>>({{rev, size}, src}, area, size, twd).run(WritePairs<T>{dst});
+    transform<forward>(ReadPairs<T>{{rev, size}, src}, WideReadPairs<T>{{{}, rev, size}, src}, area, size, twd,
+                       WritePairs<T>{dst});
 }
 
 template <bool forward, typename T>
 inline void readingSplitCore(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, int size, const T* twd,
                              const Tarn32s* rev, T* work)
 {
-    Transform<forward, T, ReadParts<T>>({{rev, size}, srcRe, srcIm}, work, size, twd).run(WriteParts<T>{dstRe, dstIm});
+    transform<forward>(ReadParts<T>{{rev, size}, srcRe, srcIm}, WideReadParts<T>{{{}, rev, size}, srcRe, srcIm}, work,
+                       size, twd, WriteParts<T>{dstRe, dstIm});
 }
 
 // Bit-reversed order to natural order in place: as pairs, or left in the working arrangement.
 template <bool forward, typename T>
 inline void inPlaceCore(T* data, int size, const T* twd, T* work, int interleave)
 {
-    // Blocks wider than those of the tables would lie on data that the first pass has not yet read.
-    constexpr bool worksInPlace = workLanes<T> == blockLanes<T>;
-    T* const area = worksInPlace && isOnBoundary(data) ? data : work;
-    const Transform<forward, T, SequentialPairs<T>> transform({{}, data}, area, size, twd);
+    T* const area = isOnBoundary(data) ? data : work;
+    const SequentialPairs<T> source{{}, data};
+    const WideSequentialPairs<T> wide{{{}, size}, data};
     if (interleave == 1) {
-        transform.run(WritePairs<T>{data});
-        return;
-    }
-    transform.run(WriteBlocks<T>{area});
-    if (area != data) {
-        std::memcpy(static_cast<void*>(data), area, 2 * sizeof(T) * static_cast<std::size_t>(size));
+        transform<forward>(source, wide, area, size, twd, WritePairs<T>{data});
+    } else {
+        transform<forward>(source, wide, area, size, twd, WriteBlocks<T>{data});
     }
 }
 
 template <bool forward, typename T>
 inline void inPlaceSplitCore(T* re, T* im, int size, const T* twd, T* work)
 {
-    Transform<forward, T, SequentialParts<T>>({{}, re, im}, work, size, twd).run(WriteParts<T>{re, im});
+    transform<forward>(SequentialParts<T>{{}, re, im}, WideSequentialParts<T>{{{}, size}, re, im}, work, size, twd,
+                       WriteParts<T>{re, im});
 }
 
 // Scales `len` reals in place.

@@ -6,7 +6,7 @@
 #include "frame/object.h"
 #include "frame/trigonometry.h"
 #include "frame/walk.h"
-#include "levels/fft/psfft_butterflies.h"
+#include "levels/fft/psfft_work.h"
 
 #include <algorithm>
 
@@ -153,11 +153,10 @@ private:
 };
 
 // The factors of all the stages of one length, from the shortest up. A stage of length L holds W(k), W(2k) and W(3k)
-// for k below L / 4, in blocks of the working arrangement.
+// for k below L / 4, in blocks of factorLanes<T>(L).
 template <typename T>
 inline Owned<T[]> stageTable(int order, const T* base, int baseOrder)
 {
-    constexpr int group = blockLanes<T>;
     const long long size = 1LL << order;
     Owned<T[]> table = allocate<T>(2 * (size < 9 ? 1 : size));
     if (!table) {
@@ -166,9 +165,12 @@ inline Owned<T[]> stageTable(int order, const T* base, int baseOrder)
     T* to = table.get();
     for (int stage = order % 2 == 0 ? 4 : 5; stage <= order; stage += 2) {
         const Circle<T> circle(base, baseOrder, stage);
+        const int group = factorLanes<T>(1 << stage);
         for (int k = 0; k < (1 << stage) / 4; k += group) {
             for (int power = 1; power <= 3; ++power, to += 2 * group) {
-                circle.template factors<group>(power * k, power, to, to + group);
+                for (int i = 0; i < group; i += blockLanes<T>) {
+                    circle.template factors<blockLanes<T>>(power * (k + i), power, to + i, to + group + i);
+                }
             }
         }
     }

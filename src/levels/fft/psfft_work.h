@@ -1,9 +1,10 @@
 // The working arrangement of the radix-4 core: blocks of complex elements, the real parts in one register's width and
-// the imaginary parts in the next. A butterfly is then arithmetic on whole registers, with no shuffle in it. Tables,
-// and results that are left in this arrangement, have blocks of blockLanes<T> elements at every level; between the
-// passes blocks are as wide as the level's vectors.
+// the imaginary parts in the next. A butterfly is then arithmetic on whole registers, with no shuffle in it. Blocks are
+// as wide as the level's vectors where a transform is long enough to fill them; so are the blocks of factors in the
+// tables of such levels.
 #pragma once
 
+#include "frame/simd_transpose.h"
 #include "levels/fft/psfft_butterflies.h"
 
 #include <algorithm>
@@ -11,64 +12,93 @@
 
 namespace tarn::fft {
 
-// A level's own blocks: their elements, where an element has its real part, and how far from it the imaginary one lies.
-// Elements are named by their place in blocks of blockLanes<T>, in reals, and only the first one of such a block is.
-// Single precision has enough elements in a block of the tables: wider ones cost more for gathering the factors and for
-// what the first pass leaves in pieces than they save, as docs/performance.md shows.
 template <typename T>
-inline constexpr int workLanes = isDouble<T> ? std::max(blockLanes<T>, lanes<T>) : blockLanes<T>;
+inline constexpr int workLanes = std::max(blockLanes<T>, lanes<T>);
+// Levels whose first pass has to weave quadruples into wider blocks.
 template <typename T>
-TARN_INLINE std::ptrdiff_t placeInWork(std::ptrdiff_t at)
+inline constexpr bool hasWideBlocks = workLanes<T> > blockLanes<T>;
+
+template <int W, typename T>
+TARN_INLINE Complex<Pack<T, W>> loadWork(const T* p)
 {
-    constexpr int width = workLanes<T>;
-    if constexpr (width == blockLanes<T>) {
-        return at;
-    } else {
-        return at - at % (2 * width) / 2;
-    }
+    return {loadAligned<W>(p), loadAligned<W>(p + W)};
 }
-template <int N, typename T>
-TARN_INLINE Complex<Pack<T, N>> loadWork(const T* work, std::ptrdiff_t at)
+template <typename T, int W>
+TARN_INLINE void storeWork(T* p, Complex<Pack<T, W>> x)
 {
-    const T* const p = work + placeInWork<T>(at);
-    return {loadAligned<N>(p), loadAligned<N>(p + workLanes<T>)};
-}
-template <typename T, int N>
-TARN_INLINE void storeWork(T* work, std::ptrdiff_t at, Complex<Pack<T, N>> x)
-{
-    T* const p = work + placeInWork<T>(at);
     storeAligned(p, x.re);
-    storeAligned(p + workLanes<T>, x.im);
+    storeAligned(p + W, x.im);
 }
 
-// The factors of N elements from tables of blocks that come `stride` blocks apart.
-template <int N, typename T>
-TARN_INLINE Pack<T, N> gatherBlocks(const T* p, int stride)
+// The lengths of the stages: the first pass has finished transforms of 4 or, in odd orders, 8 points.
+constexpr bool isOddOrder(int size) { return (static_cast<unsigned>(size) & 0xAAAAAAAAu) != 0; }
+constexpr int firstStage(int size) { return isOddOrder(size) ? 32 : 16; }
+
+// The width of the blocks that a transform of bit-reversed data works in, and leaves its results in.
+template <typename T>
+constexpr int arrangedLanes(std::ptrdiff_t size)
 {
-    if constexpr (N == blockLanes<T>) {
-        return loadAligned<N>(p);
-    } else {
-        return join(gatherBlocks<N / 2>(p, stride),
-                    gatherBlocks<N / 2>(p + N / 2 / blockLanes<T> * stride * 2 * blockLanes<T>, stride));
-    }
-}
-template <int N, typename T>
-TARN_INLINE Complex<Pack<T, N>> loadFactors(const T* p)
-{
-    constexpr int powers = 3;
-    return {gatherBlocks<N>(p, powers), gatherBlocks<N>(p + blockLanes<T>, powers)};
+    // Two stages at least: the one that the first pass does when it weaves, and the last.
+    return hasWideBlocks<T> && size >= 4 * firstStage(static_cast<int>(size)) ? workLanes<T> : blockLanes<T>;
 }
 
-// A block of more elements as those of blockLanes<T>.
-template <typename T, int N>
-TARN_INLINE void storeBlocks(T* p, Complex<Pack<T, N>> x)
+// Where the real part of element i lies in blocks as wide as the level's.
+template <typename T>
+TARN_INLINE std::ptrdiff_t placeInWork(std::ptrdiff_t i)
 {
-    if constexpr (N == blockLanes<T>) {
-        storeBlock(p, x);
-    } else {
-        storeBlocks(p, Complex<Pack<T, N / 2>>{lowHalf(x.re), lowHalf(x.im)});
-        storeBlocks(p + N, Complex<Pack<T, N / 2>>{highHalf(x.re), highHalf(x.im)});
-    }
+    const std::ptrdiff_t within = i & (workLanes<T> - 1);
+    return 2 * (i - within) + within;
+}
+
+// The factors W(k), W(2k) and W(3k) of one stage, k below L / 4, stand in blocks of so many k: of each power the real
+// parts, then the imaginary ones.
+template <typename T>
+constexpr int factorLanes(int L)
+{
+    return hasWideBlocks<T> ? std::min(L / 4, workLanes<T>) : blockLanes<T>;
+}
+// Where in a stage table the stage of length L begins: before it lie 3/4 of each shorter length.
+template <typename T>
+TARN_INLINE const T* stageTwiddles(const T* twd, int first, int L)
+{
+    return twd + (L - first) / 2;
+}
+// Where the factors of k begin in blocks of `group`, a power of two.
+template <typename T>
+TARN_INLINE const T* factorsOf(const T* stage, int group, int k)
+{
+    const std::ptrdiff_t within = k & (group - 1);
+    return stage + 6 * (k - within) + within;
+}
+
+// The factors at `w` as a function of the power, from 0: those of N consecutive k; those of four, in every group of
+// four lanes; that of one, in every lane.
+template <int N, typename T>
+TARN_INLINE auto factorsAt(const T* w, int group)
+{
+    return [=](int power) __attribute__((always_inline))
+    {
+        const T* const p = w + 2 * group * power;
+        return Complex<Pack<T, N>>{loadAligned<N>(p), loadAligned<N>(p + group)};
+    };
+}
+template <int N, typename T>
+TARN_INLINE auto factorsRepeated(const T* w, int group)
+{
+    return [=](int power) __attribute__((always_inline))
+    {
+        const T* const p = w + 2 * group * power;
+        return Complex<Pack<T, N>>{repeatFour<N>(p), repeatFour<N>(p + group)};
+    };
+}
+template <int N, typename T>
+TARN_INLINE auto factorsSpread(const T* w, int group)
+{
+    return [=](int power) __attribute__((always_inline))
+    {
+        const T* const p = w + 2 * group * power;
+        return Complex<Pack<T, N>>{splat<Pack<T, N>>(p[0]), splat<Pack<T, N>>(p[group])};
+    };
 }
 
 } // namespace tarn::fft
