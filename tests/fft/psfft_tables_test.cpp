@@ -1,4 +1,5 @@
 // Tables of the power-of-two transforms, and bit reversal.
+#include "frame/simd_pack.h"
 #include "levels/fft/psfft.h"
 #include "support/compare.h"
 #include "support/guarded.h"
@@ -6,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <memory>
@@ -75,7 +77,6 @@ TYPED_TEST(FftTables, BaseIsAQuarterOfASine)
 TYPED_TEST(FftTables, StagesHoldThreeFactorsInBlocks)
 {
     using T = TypeParam;
-    constexpr int group = 16 / sizeof(T);
     for (int order = 4; order <= 12; ++order)
         for (int baseOrder : {order, order + 1, order + 3}) {
             const Table<T> base(createBase(baseOrder, T{}));
@@ -84,6 +85,7 @@ TYPED_TEST(FftTables, StagesHoldThreeFactorsInBlocks)
             const T* entry = stages.get();
             for (int L = order % 2 == 0 ? 16 : 32; L <= 1 << order; L *= 4) {
                 const int stride = (1 << baseOrder) / L;
+                const int group = std::min(L / 4, lanes<T>);
                 // Sine of m parts of the circle of L, out of the quarter that the base holds.
                 const auto sine = [&](int m) {
                     m = (m % L + L) % L;

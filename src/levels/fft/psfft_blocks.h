@@ -48,17 +48,19 @@ inline Owned<T[]> gridTable(int order, int block, const T* base, int baseOrder)
     const Circle<T> circle(base, baseOrder, order);
     const int columns = 1 << (order - block);
     const int rows = 1 << block;
+    const int together = columnsTogether<T>(rows);
+    const int width = gridLanes<T>(rows);
     T* to = table.get();
-    for (int column = 0; column < columns; column += gridColumns) {
+    for (int column = 0; column < columns; column += together) {
         ReversedCounter reversed(block);
         for (int row = 0; row < rows; ++row, reversed.advance()) {
-            for (int j = 0; j < gridColumns; ++j) {
+            for (int j = 0; j < together; ++j) {
                 const Complex<T> w = circle.factor(reversed.value() * (column + j));
-                T* p = to + j / blockLanes<T> * (2 * blockLanes<T>)+j % blockLanes<T>;
+                T* p = to + j / width * (2 * width) + j % width;
                 p[0] = w.re;
-                p[blockLanes<T>] = w.im;
+                p[width] = w.im;
             }
-            to += 2 * gridColumns;
+            to += 2 * together;
         }
     }
     return table;

@@ -19,27 +19,25 @@ struct RowsOfPairs {
     T* data;
     std::ptrdiff_t rowLength;
 
-    TARN_INLINE Block<Value> load(std::ptrdiff_t row, std::ptrdiff_t column) const
+    template <int W>
+    TARN_INLINE Complex<Pack<Value, W>> load(std::ptrdiff_t row, std::ptrdiff_t column) const
     {
-        const Value* p = inWork(row, column);
-        return {loadPack<blockLanes<T>>(p), loadPack<blockLanes<T>>(p + workLanes<Value>)};
+        const Value* p = at(row, column);
+        return loadBlocks<W>(p);
     }
-    TARN_INLINE void put(std::ptrdiff_t row, std::ptrdiff_t column, Block<T> x) const
+    template <typename X>
+    TARN_INLINE void put(std::ptrdiff_t row, std::ptrdiff_t column, Complex<X> x) const
     {
+        T* p = at(row, column);
         if constexpr (pairsAfter) {
-            storePairs(data + 2 * (row * rowLength + column), x);
+            storePairs(p, x);
         } else {
-            T* p = inWork(row, column);
-            store(p, x.re);
-            store(p + workLanes<T>, x.im);
+            storeBlocks(p, x);
         }
     }
 
 private:
-    TARN_INLINE T* inWork(std::ptrdiff_t row, std::ptrdiff_t column) const
-    {
-        return data + placeInWork<Value>(row * rowLength + column);
-    }
+    TARN_INLINE T* at(std::ptrdiff_t row, std::ptrdiff_t column) const { return data + 2 * (row * rowLength + column); }
 };
 
 // Arrays of real and of imaginary parts.
@@ -51,14 +49,16 @@ struct RowsOfParts {
     T* im;
     std::ptrdiff_t rowLength;
 
-    TARN_INLINE Block<Value> load(std::ptrdiff_t row, std::ptrdiff_t column) const
+    template <int W>
+    TARN_INLINE Complex<Pack<Value, W>> load(std::ptrdiff_t row, std::ptrdiff_t column) const
     {
         const std::ptrdiff_t at = row * rowLength + column;
         const Value* partsRe = re + at;
         const Value* partsIm = im + at;
-        return {loadPack<blockLanes<T>>(partsRe), loadPack<blockLanes<T>>(partsIm)};
+        return {loadPack<W>(partsRe), loadPack<W>(partsIm)};
     }
-    TARN_INLINE void put(std::ptrdiff_t row, std::ptrdiff_t column, Block<T> x) const
+    template <typename X>
+    TARN_INLINE void put(std::ptrdiff_t row, std::ptrdiff_t column, Complex<X> x) const
     {
         const std::ptrdiff_t at = row * rowLength + column;
         store(re + at, x.re);
@@ -68,14 +68,28 @@ struct RowsOfParts {
 
 // -- The grid of twiddle factors -------------------------------------------------------------------------------------
 
-// Columns whose factors stand together: those of each row in blocks, row after row.
+// Columns that are done one by one are read four at a time, and columns of few rows side by side, in whole vectors.
 inline constexpr int gridColumns = 4;
+inline constexpr int shortColumnRows = 64;
 
-// The factors of a block of columns in one row.
+// Columns whose factors stand together: those of each row in blocks, row after row.
 template <typename T>
-TARN_INLINE const T* gridBlock(const T* grid, std::ptrdiff_t rows, std::ptrdiff_t row, std::ptrdiff_t column)
+constexpr int columnsTogether(std::ptrdiff_t rows)
 {
-    return grid + 2 * (column / gridColumns * (rows * gridColumns) + row * gridColumns + column % gridColumns);
+    return rows <= shortColumnRows ? std::max(gridColumns, workLanes<T>) : gridColumns;
+}
+template <typename T>
+constexpr int gridLanes(std::ptrdiff_t rows)
+{
+    return rows <= shortColumnRows ? workLanes<T> : blockLanes<T>;
+}
+
+// The factors of a block of columns in one row, of which so many columns stand together.
+template <typename T>
+TARN_INLINE const T* gridBlock(const T* grid, std::ptrdiff_t rows, std::ptrdiff_t row, std::ptrdiff_t column,
+                               int together = gridColumns)
+{
+    return grid + 2 * (column / together * (rows * together) + row * together + column % together);
 }
 
 // -- Short columns ---------------------------------------------------------------------------------------------------
@@ -84,13 +98,12 @@ TARN_INLINE const T* gridBlock(const T* grid, std::ptrdiff_t rows, std::ptrdiff_
 // factor is the same in all lanes and nothing is shuffled. Several blocks of columns run side by side, so that rows are
 // read in whole cache lines and a factor that has been spread serves all of them.
 
-inline constexpr int shortColumnRows = 64;
-
 template <bool forward, typename T, typename Rows>
 class ShortColumns {
 public:
-    static constexpr int blocks = 8;
-    static constexpr int columns = blocks * blockLanes<T>;
+    static constexpr int W = workLanes<T>;
+    static constexpr int columns = 8 * blockLanes<T>;
+    static constexpr int blocks = columns / W;
 
     // `work` holds R rows of `columns` elements, `twd` is the stage table of R points.
     ShortColumns(Rows rows, T* work, const T* grid, int R, const T* twd)
@@ -101,10 +114,8 @@ public:
     // Transforms the columns from `column` on.
     void run(int column) const
     {
-        const auto toWork = [this](int row, int block, Block<T> x) { storeBlock(place(row, block), x); };
-        const auto toRows = [this, column](int row, int block, Block<T> x) {
-            rows.put(row, column + block * blockLanes<T>, x);
-        };
+        const auto toWork = [this](int row, int block, Lanes x) { storeWork(place(row, block), x); };
+        const auto toRows = [this, column](int row, int block, Lanes x) { rows.put(row, column + block * W, x); };
         quads(column);
         if (R == 8) {
             joinEights(0, toRows);
@@ -123,27 +134,29 @@ public:
     }
 
 private:
-    static constexpr int cacheLine = 64;
-    static constexpr int gridBytes = gridColumns * static_cast<int>(sizeof(Complex<T>));
+    using Lanes = Complex<Pack<T, W>>;
+    static constexpr int cacheLine = 64 / sizeof(T);
+    static constexpr int together = std::max(gridColumns, W);
 
-    TARN_INLINE T* place(int row, int block) const { return work + (row * blocks + block) * (2 * blockLanes<T>); }
+    TARN_INLINE T* place(int row, int block) const { return work + (row * blocks + block) * (2 * W); }
 
     // The first pass: rows of the matrix to transforms of four in the work area.
     TARN_INLINE void quads(int column) const
     {
         for (int row = 0; row < R; row += 4) {
             for (int block = 0; block < blocks; ++block) {
-                const int at = column + block * blockLanes<T>;
+                const int at = column + block * W;
                 // The factors of the next columns, which come in steps too wide for the processor to foresee.
-                for (int i = 0; i < 4; i += cacheLine / gridBytes) {
-                    prefetch(gridBlock(grid, R, row + i, at + columns));
+                for (int i = 0; i < 4 * 2 * together; i += cacheLine) {
+                    prefetch(gridBlock(grid, R, row, at + columns, together) + i);
                 }
                 const auto element = [&](int i) {
-                    return rotate<forward>(rows.load(row + i, at), loadBlock(gridBlock(grid, R, row + i, at)));
+                    return rotate<forward>(rows.template load<W>(row + i, at),
+                                           loadWork<W>(gridBlock(grid, R, row + i, at, together)));
                 };
-                const auto x = fourPoint<forward>(Quad<BlockPart<T>>{element(0), element(1), element(2), element(3)});
+                const auto x = fourPoint<forward>(Quad<Pack<T, W>>{element(0), element(1), element(2), element(3)});
                 for (int i = 0; i < 4; ++i) {
-                    storeBlock(place(row + i, block), x[i]);
+                    storeWork(place(row + i, block), x[i]);
                 }
             }
         }
@@ -153,10 +166,10 @@ private:
     TARN_INLINE void joinEights(int row, Put put) const
     {
         for (int k = 0; k < 4; ++k) {
-            const Block<T> root = {splat<BlockPart<T>>(TwdTbl_03<T>.re[k]), splat<BlockPart<T>>(TwdTbl_03<T>.im[k])};
+            const Lanes root = {splat<Pack<T, W>>(TwdTbl_03<T>.re[k]), splat<Pack<T, W>>(TwdTbl_03<T>.im[k])};
             for (int block = 0; block < blocks; ++block) {
-                const auto even = loadBlock(place(row + k, block));
-                const auto odd = rotate<forward>(loadBlock(place(row + k + 4, block)), root);
+                const auto even = loadWork<W>(place(row + k, block));
+                const auto odd = rotate<forward>(loadWork<W>(place(row + k + 4, block)), root);
                 put(row + k, block, even + odd);
                 put(row + k + 4, block, even - odd);
             }
@@ -166,23 +179,22 @@ private:
     template <typename Put>
     TARN_INLINE void stageOfRows(int L, Put put) const
     {
-        constexpr int width = 2 * blockLanes<T>;
+        constexpr int width = 2 * W;
         const int quarter = L / 4;
         const T* factors = stageTwiddles(twd, firstStage(R), L);
         const int group = factorLanes<T>(L);
         for (int k = 0; k < quarter; ++k) {
             const T* from = factorsOf(factors, group, k);
-            alignas(blockBytes) T w[3 * width];
+            alignas(Pack<T, W>) T w[3 * width];
             for (int i = 0; i < 6; ++i) {
-                storeAligned(w + i * blockLanes<T>, splat<BlockPart<T>>(from[i * group]));
+                storeAligned(w + i * W, splat<Pack<T, W>>(from[i * group]));
             }
             for (int row = k; row < R; row += L) {
                 for (int block = 0; block < blocks; ++block) {
                     const T* const p = place(row, block);
                     butterfly<forward>(
-                        [&](int i) { return loadBlock(p + std::ptrdiff_t{i} * quarter * blocks * width); },
-                        factorsAt<blockLanes<T>>(w, blockLanes<T>),
-                        [&](int part, Block<T> x) { put(row + part * quarter, block, x); });
+                        [&](int i) { return loadWork<W>(p + std::ptrdiff_t{i} * quarter * blocks * width); },
+                        factorsAt<W>(w, W), [&](int part, Lanes x) { put(row + part * quarter, block, x); });
                 }
             }
         }
@@ -205,7 +217,8 @@ inline void mergeLongColumns(Rows rows, T* work, const T* grid, int R)
     for (int column = 0; column < gridColumns; column += blockLanes<T>) {
         T* area = work + std::ptrdiff_t{2} * column * R;
         const auto value = [&](int row) {
-            return rotate<forward>(rows.load(row, column), loadBlock(gridBlock(grid, R, row, column)));
+            return rotate<forward>(rows.template load<blockLanes<T>>(row, column),
+                                   loadBlock(gridBlock(grid, R, row, column)));
         };
         for (int row = 0; row < R; row += 2, area += 4) {
             const auto first = value(row);
@@ -230,20 +243,21 @@ inline void mergeLongColumns(Rows rows, T* work, const T* grid, int R)
 template <typename T, typename Rows>
 inline void splitLongColumns(Rows rows, const T* work, int R)
 {
+    constexpr int width = 2 * blockLanes<T>;
     for (int column = 0; column < gridColumns; column += blockLanes<T>) {
         const T* area = work + std::ptrdiff_t{2} * column * R;
-        for (int row = 0; row < R; row += blockLanes<T>) {
+        for (int row = 0; row < R; row += blockLanes<T>, area += width) {
             Square<T> re;
             Square<T> im;
             for (int lane = 0; lane < blockLanes<T>; ++lane) {
-                const T* p = area + std::ptrdiff_t{2} * lane * R + placeInWork<T>(row);
+                const T* p = area + std::ptrdiff_t{2} * lane * R;
                 re[lane] = loadPack<blockLanes<T>>(p);
-                im[lane] = loadPack<blockLanes<T>>(p + workLanes<T>);
+                im[lane] = loadPack<blockLanes<T>>(p + blockLanes<T>);
             }
             re = transpose<T>(re);
             im = transpose<T>(im);
             for (int lane = 0; lane < blockLanes<T>; ++lane) {
-                rows.put(row + lane, column, {re[lane], im[lane]});
+                rows.put(row + lane, column, Block<T>{re[lane], im[lane]});
             }
         }
     }

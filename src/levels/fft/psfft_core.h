@@ -20,11 +20,18 @@ inline void transform(Source source, Wide wide, T* area, int size, const T* twd,
     Transform<forward, T, Source>(source, area, size, twd).run(sink);
 }
 
+// What the narrowest blocks of the working arrangement need; wider ones need no more.
+template <typename T>
+inline bool isOnBlockBoundary(const T* p)
+{
+    return addressOf(p) % blockBytes == 0;
+}
+
 // Natural order to natural order. The destination serves as work area where it can.
 template <bool forward, typename T>
 inline void readingCore(const T* src, T* dst, int size, const T* twd, const Tarn32s* rev, T* work)
 {
-    T* const area = src != dst && isOnBoundary(dst) ? dst : work;
+    T* const area = src != dst && isOnBlockBoundary(dst) ? dst : work;
     transform<forward>(ReadPairs<T>{{rev, size}, src}, WideReadPairs<T>{{{}, rev, size}, src}, area, size, twd,
                        WritePairs<T>{dst});
 }
@@ -41,7 +48,7 @@ inline void readingSplitCore(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm,
 template <bool forward, typename T>
 inline void inPlaceCore(T* data, int size, const T* twd, T* work, int interleave)
 {
-    T* const area = isOnBoundary(data) ? data : work;
+    T* const area = isOnBlockBoundary(data) ? data : work;
     const SequentialPairs<T> source{{}, data};
     const WideSequentialPairs<T> wide{{{}, size}, data};
     if (interleave == 1) {

@@ -114,7 +114,7 @@ private:
 
     void stageInWork(int at, int count, int L) const
     {
-        stageOf<forward, W>(work, at, count, L, stageTwiddles(twd, shortest, L), WriteBlocks<T>{work});
+        stageOf<forward, W>(work, at, count, L, stageTwiddles(twd, shortest, L), WriteWork<T>{work});
     }
 
     // Transforms of 4 or 8 points, or the first stage as well, in the stretch of `count` elements at `first` of every

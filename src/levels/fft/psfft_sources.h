@@ -250,7 +250,18 @@ struct WriteParts {
     }
 };
 
-// In the working arrangement.
+// To be read by the next stage, and to be left for the caller.
+template <typename T>
+struct WriteWork {
+    T* work;
+
+    template <typename X>
+    TARN_INLINE void put(std::ptrdiff_t at, Complex<X> x) const
+    {
+        storeWork(work + at, x);
+    }
+};
+
 template <typename T>
 struct WriteBlocks {
     T* dst;
@@ -258,8 +269,7 @@ struct WriteBlocks {
     template <typename X>
     TARN_INLINE void put(std::ptrdiff_t at, Complex<X> x) const
     {
-        store(dst + at, x.re);
-        store(dst + at + X::size, x.im);
+        storeBlocks(dst + at, x);
     }
 };
 

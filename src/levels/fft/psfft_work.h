@@ -1,7 +1,8 @@
 // The working arrangement of the radix-4 core: blocks of complex elements, the real parts in one register's width and
-// the imaginary parts in the next. A butterfly is then arithmetic on whole registers, with no shuffle in it. Blocks are
-// as wide as the level's vectors where a transform is long enough to fill them; so are the blocks of factors in the
-// tables of such levels.
+// the imaginary parts in the next. A butterfly is then arithmetic on whole registers, with no shuffle in it. What is
+// left in this arrangement for a caller has blocks of blockLanes<T> elements at every level. Between the passes blocks
+// are as wide as the level's vectors where a transform is long enough to fill them, and so are the blocks of factors in
+// tables.
 #pragma once
 
 #include "frame/simd_transpose.h"
@@ -30,6 +31,31 @@ TARN_INLINE void storeWork(T* p, Complex<Pack<T, W>> x)
     storeAligned(p + W, x.im);
 }
 
+// Blocks of more elements from those of blockLanes<T>, and as those, at any address.
+template <int W, typename T>
+TARN_INLINE Complex<Pack<T, W>> loadBlocks(const T* p)
+{
+    if constexpr (W == blockLanes<T>) {
+        return {loadPack<W>(p), loadPack<W>(p + W)};
+    } else {
+        const auto both = reinterpretPack<Tarn64fc>(loadPack<2 * W>(p));
+        return {reinterpretPack<T>(evenElements(both)), reinterpretPack<T>(oddElements(both))};
+    }
+}
+template <typename T, int W>
+TARN_INLINE void storeBlocks(T* p, Complex<Pack<T, W>> x)
+{
+    if constexpr (W == blockLanes<T>) {
+        store(p, x.re);
+        store(p + W, x.im);
+    } else {
+        const auto re = reinterpretPack<Tarn64fc>(x.re);
+        const auto im = reinterpretPack<Tarn64fc>(x.im);
+        store(p, reinterpretPack<T>(zipLow(re, im)));
+        store(p + W, reinterpretPack<T>(zipHigh(re, im)));
+    }
+}
+
 // The lengths of the stages: the first pass has finished transforms of 4 or, in odd orders, 8 points.
 constexpr bool isOddOrder(int size) { return (static_cast<unsigned>(size) & 0xAAAAAAAAu) != 0; }
 constexpr int firstStage(int size) { return isOddOrder(size) ? 32 : 16; }
@@ -40,14 +66,6 @@ constexpr int arrangedLanes(std::ptrdiff_t size)
 {
     // Two stages at least: the one that the first pass does when it weaves, and the last.
     return hasWideBlocks<T> && size >= 4 * firstStage(static_cast<int>(size)) ? workLanes<T> : blockLanes<T>;
-}
-
-// Where the real part of element i lies in blocks as wide as the level's.
-template <typename T>
-TARN_INLINE std::ptrdiff_t placeInWork(std::ptrdiff_t i)
-{
-    const std::ptrdiff_t within = i & (workLanes<T> - 1);
-    return 2 * (i - within) + within;
 }
 
 // The factors W(k), W(2k) and W(3k) of one stage, k below L / 4, stand in blocks of so many k: of each power the real
