@@ -70,7 +70,7 @@ struct WideReadPairs : WideReading<T> {
         const std::ptrdiff_t quarter = this->size / 2;
         repeat<4 * quads>([&](auto i) __attribute__((always_inline)) {
             const T* const p = src + this->table[at / 4 + i];
-            const auto element = [p, quarter](int k) __attribute__((always_inline))
+            const auto element = [=](int k) __attribute__((always_inline))
             {
                 const T* const from = p + reversedOfFour[k] * quarter;
                 return deinterleaveInLanes(loadPack<W>(from), loadPack<W>(from + W));
@@ -98,11 +98,12 @@ struct WideReadParts : WideReading<T> {
     {
         const std::ptrdiff_t quarter = this->size / 4;
         repeat<4 * quads>([&](auto i) __attribute__((always_inline)) {
-            const std::ptrdiff_t first = this->table[at / 4 + i] / 2;
-            const auto element = [this, first, quarter](int k) __attribute__((always_inline))
+            const T* const re = srcRe + this->table[at / 4 + i] / 2;
+            const T* const im = srcIm + this->table[at / 4 + i] / 2;
+            const auto element = [=](int k) __attribute__((always_inline))
             {
-                const std::ptrdiff_t from = first + reversedOfFour[k] * quarter;
-                return Complex<Pack<T, W>>{loadPack<W>(srcRe + from), loadPack<W>(srcIm + from)};
+                const std::ptrdiff_t from = reversedOfFour[k] * quarter;
+                return Complex<Pack<T, W>>{loadPack<W>(re + from), loadPack<W>(im + from)};
             };
             const auto result = rowsOfQuads<forward, T, W>({element(0), element(1), element(2), element(3)});
             repeat<4>([&](auto m) __attribute__((always_inline)) { x[m][i / quads][i % quads] = result[m]; });
@@ -179,11 +180,12 @@ struct WideSequentialParts : WideSequential<T> {
     template <bool forward, int quads>
     TARN_INLINE void read(int at, Units<T, 1, quads>& x) const
     {
-        const auto quad = [this, at](int i) __attribute__((always_inline))
+        const T* const re = srcRe + at;
+        const T* const im = srcIm + at;
+        const auto quad = [=](int i) __attribute__((always_inline))
         {
-            const std::ptrdiff_t from = at + 4 * i;
-            return Complex<Pack<T, W>>{loadGroups<W, 4>(srcRe + from, 16 * quads),
-                                       loadGroups<W, 4>(srcIm + from, 16 * quads)};
+            return Complex<Pack<T, W>>{loadGroups<W, 4>(re + 4 * i, 16 * quads),
+                                       loadGroups<W, 4>(im + 4 * i, 16 * quads)};
         };
         this->template readUnits<forward, quads>(quad, x);
     }
