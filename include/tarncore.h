@@ -13,6 +13,20 @@ extern "C" {
 #endif
 
 /** @defgroup types Element types
+    What the arrays of the library hold: integers of 8 to 64 bits, IEEE floats, and pairs of either as complex numbers.
+
+    @code{.c}
+    Tarn16sc z[2] = {{3, -4}, {5, 12}};
+    const Tarn16s* parts = (const Tarn16s*)z; // the same four numbers in a row
+    printf("%d %d %d\n", (int)sizeof z, parts[1], parts[2]); // 8 -4 5
+    @endcode
+
+    __Accuracy:__ integers saturate and round as each function tells; floats are IEEE 754 singles and doubles.
+
+    __Cost:__ a vector holds 16 elements of 8 bits where it holds two of 64: the shortest type that does is the fastest.
+
+    __Guide:__ [How names are formed](docs/naming.md).
+
     The tag in a function's name tells the element type of its arrays: tarnsAdd_16s works on Tarn16s. Arrays need be
     aligned to nothing.
     @{ */
@@ -67,6 +81,19 @@ typedef struct {
 /** @defgroup core Status texts, version and special values
     What every caller may want, whatever it computes: the text of a status, the build that runs, the patterns of NaN and
     the infinities, and the hint between speed and accuracy.
+
+    @code{.c}
+    const Tarn32f x[4] = {0};
+    Tarn32f total;
+    const TarnStatus status = tarnsSum_32f(x, 0, &total, tarnAlgHintNone);
+    printf("%d %s\n", status, tarnGetStatusString(status)); // -6 Wrong value of data size
+    @endcode
+
+    __Accuracy:__ nothing is computed here.
+
+    __Cost:__ a text is found in a table; the version is the address of a constant.
+
+    __Guide:__ [The order of checks](docs/checks.md), which tells what a status promises.
     @{ */
 
 /** Choice between a fast and an accurate algorithm, where a function offers one. An integer, since every value is
@@ -121,8 +148,23 @@ TARN_API const TarnLibraryVersion* tarnsGetLibVersion(void);
 /** @} */
 
 /** @defgroup cpu Processor identification
-    A service for callers: the library's kernels are settled when it is built, and no result depends on what these
-    functions answer. Nothing is cached, each call executes the instruction afresh.
+    Tells what the processor can do, and reads its clock: a service for callers who choose among builds of their own.
+    The library's kernels are settled when it is built, and no result depends on what these functions answer. Nothing is
+    cached, each call executes the instruction afresh.
+
+    @code{.c}
+    const unsigned long long before = tarnGetCpuClocks();
+    TarnCpuIdent ident = {0};
+    tarn_get_cpu_ident(&ident);
+    printf("%d %d\n", ident.hasSse2, tarnGetCpuClocks() > before); // 1 1
+    @endcode
+
+    __Accuracy:__ clocks are those of the time-stamp counter, which runs at a rate of its own and is not serialised.
+
+    __Cost:__ some hundred cycles a call with CPUID, and thousands under a hypervisor, which has to be asked; some tens
+    of cycles for the clocks.
+
+    __Guide:__ [The same bits everywhere](docs/reproducibility.md) tells which level of the library a program gets.
     @{ */
 
 /** Processor types, the results of tarnGetCpuType(). */
@@ -191,8 +233,8 @@ TARN_API unsigned int tarn_max_cpuid_input(void);
     @return 1 if it is "AuthenticCPU", else 0 */
 TARN_API int tarn_is_AuthenticCPU(void);
 
-/** Test one feature of CPUID leaf 1: the time-stamp counter, MMX, SSE, SSE2, hyper-threading (the flag and more than
-   one logical processor), SSE3.
+/** Tests one feature of CPUID leaf 1: the time-stamp counter, MMX, SSE, SSE2, hyper-threading (the flag and more than
+    one logical processor), SSE3.
 
     @return 1 if the processor has it, else 0 */
 ///@{
@@ -211,10 +253,26 @@ TARN_API void tarn_get_cpu_ident(TarnCpuIdent* pIdent);
 /** @} */
 
 /** @defgroup fpcontrol Floating-point control
-    The x87 control and status words and MXCSR of the calling thread.
+    Reads and sets the x87 control and status words and MXCSR of the calling thread: rounding, precision, and which
+    exceptions are masked. Filters that decay into denormal numbers, say, run much faster with these flushed to zero.
+
+    @code{.c}
+    const unsigned int before = ps_set_ssx(0x8040, 0x8040); // flush to zero, denormals are zeros
+    Tarn32f tiny[1] = {1e-30F};
+    tarnsMulC_32f_I(1e-10F, tiny, 1);
+    tarn_set_cw_ssx(before);
+    printf("%g\n", tiny[0]); // 0
+    @endcode
+
+    __Accuracy:__ functions of vectors obey the caller's rounding mode where they say so, and give it back unchanged.
+
+    __Cost:__ a write of either control word takes some tens of cycles; the functions that look first save it where it
+    would change nothing.
+
+    __Guide:__ [Recursive filters](docs/iir.md), section Silence, and [conversions](docs/conversions.md) for rounding.
     @{ */
 
-/** Flush-to-zero is a setting that this library does not offer: results would depend on it. Nothing is changed.
+/** Refuses flush-to-zero, a setting that this library does not offer: results would depend on it. Nothing is changed.
 
     @param value  any value, not looked at
     @param pUMask any value, not looked at
@@ -224,7 +282,8 @@ TARN_API TarnStatus tarnSetFlushToZero(int value, void* pUMask);
 TARN_API TarnStatus tarnCoreSetFlushToZero(int value, void* pUMask);
 ///@}
 
-/** Denormals-are-zero is a setting that this library does not offer: results would depend on it. Nothing is changed.
+/** Refuses denormals-are-zero, a setting that this library does not offer: results would depend on it. Nothing is
+    changed.
 
     @param value any value, not looked at
     @return always tarnStsCpuNotSupportedErr */
@@ -251,7 +310,7 @@ enum {
     TARN_FP_MASK_DENORMAL = 0x80000    /**< denormal operand */
 };
 
-/** Map between words of the x87 unit and the symbolic word. The reserved precision field 1 and the 64-bit one, 3, both
+/** Maps between words of the x87 unit and the symbolic word. The reserved precision field 1 and the 64-bit one, 3, both
     give neither precision bit; the opposite direction makes 3 of that. Bits without a counterpart are dropped.
 
     @param word x87 control word for bit2symbol(), symbolic word for symbol2bit(), x87 status word for sw_bit2symbol()
@@ -270,7 +329,7 @@ TARN_API unsigned int sw_bit2symbol(unsigned int word);
     @return the symbolic word after the change */
 TARN_API unsigned int tarn_control87(unsigned int value, unsigned int mask);
 
-/** Give the x87 status word in symbolic form. tarn_clear87() clears the exception flags afterwards.
+/** Gives the x87 status word in symbolic form. tarn_clear87() clears the exception flags afterwards.
 
     @return symbolic word of the state before clearing */
 ///@{
@@ -278,8 +337,8 @@ TARN_API unsigned int tarn_status87(void);
 TARN_API unsigned int tarn_clear87(void);
 ///@}
 
-/** Set bits of the x87 control word (ps_set_cw_fpu) or of MXCSR (ps_set_ssx): the register becomes
-    (old and not mask) or (value and mask). A set bit that MXCSR does not have is a fault of the processor.
+/** Sets bits of the x87 control word (ps_set_cw_fpu) or of MXCSR (ps_set_ssx): the register becomes (old and not mask)
+    or (value and mask). A set bit that MXCSR does not have is a fault of the processor.
 
     @param value new bits, in the register's own layout
     @param mask  bits to replace, in the same layout
@@ -289,7 +348,7 @@ TARN_API unsigned int ps_set_cw_fpu(unsigned int value, unsigned int mask);
 TARN_API unsigned int ps_set_ssx(unsigned int value, unsigned int mask);
 ///@}
 
-/** Read the x87 control word, the x87 status word (without waiting for pending exceptions) and MXCSR.
+/** Reads the x87 control word, the x87 status word (without waiting for pending exceptions) and MXCSR.
 
     @return the register */
 ///@{
@@ -309,7 +368,7 @@ TARN_API unsigned int ps_clear_fpu(void);
 TARN_API unsigned int tarn_clear_ssx(void);
 
 /** Sets rounding and precision of the x87 unit, without the cost of a write when they are in place: if (control word
-   and mask) differs from value, the word becomes (old and not mask) or (value and mask).
+    and mask) differs from value, the word becomes (old and not mask) or (value and mask).
 
     @param value bits in the control word's layout
     @param mask  which bits, 0xF00 for both fields
@@ -322,7 +381,7 @@ TARN_API unsigned int tarn_set_rcpc_fpu(unsigned int value, unsigned int mask);
     @return MXCSR before the change */
 TARN_API unsigned int tarn_set_rc_ssx(unsigned int value);
 
-/** Load the x87 control word or MXCSR as given.
+/** Loads the x87 control word or MXCSR as given.
 
     @param value the register's new contents; a set bit that MXCSR does not have is a fault of the processor */
 ///@{

@@ -37,6 +37,7 @@
 #include "tarns/multiply.h"
 #include "tarns/norms.h"
 #include "tarns/polar.h"
+#include "tarns/random.h"
 #include "tarns/roots.h"
 #include "tarns/sampling.h"
 #include "tarns/sort.h"

@@ -85,7 +85,8 @@ def _function(declaration, doc, group, header):
             for name in names.split(","):
                 documented[name] = " ".join(meaning.split())
     front = " ".join(front.split())
-    brief = re.split(r"(?<=[.:])\s", front, maxsplit=1)[0]
+    brief = re.split(r"(?<=[.:])(?:\s|$)", front, maxsplit=1)[0]
+    brief = brief.removesuffix(":").removesuffix(".") + "." if brief else ""
     return Function(match["name"], match["result"].strip(), _arguments(match["arguments"], documented), brief, doc,
                     group, header, declaration)
 

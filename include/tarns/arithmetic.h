@@ -9,10 +9,26 @@ extern "C" {
 #endif
 
 /** @defgroup add Addition
-    Sums of two vectors, and of a vector and a constant.
+    Adds two vectors, or a constant to a vector: mixing, offsets, sums of bytes that need more bits.
+
+    @code{.c}
+    const Tarn16s a[4] = {30000, 1, -7, 5}, b[4] = {30000, 2, 4, -2};
+    Tarn16s mix[4];
+    tarnsAdd_16s_Sfs(a, b, mix, 4, 1); // half the sum
+    printf("%d %d %d %d\n", mix[0], mix[1], mix[2], mix[3]); // 30000 2 -2 2
+    tarnsAddC_16s_I(10, mix, 4);
+    printf("%d %d\n", mix[0], mix[1]); // 30010 12
+    @endcode
+
+    __Accuracy:__ integers are exact until their one rounding; floats are one IEEE addition each.
+
+    __Cost:__ in cache one store of a vector a cycle: a plain loop's time for floats, a tenth to a fifth of it for
+    scaled integers.
+
+    __Guide:__ [The scale rule](docs/scale-rule.md), and [working on vectors](docs/vectors.md).
 
     Scaled forms (`Sfs`) answer with the exact sum times 2^-scaleFactor, rounded to the nearest integer, ties to the
-   even one, saturated at the bounds of the element type. A positive factor shrinks, a negative one grows; no value is
+    even one, saturated at the bounds of the element type. A positive factor shrinks, a negative one grows; no value is
     illegal. Integer forms without a scale saturate. Saturation is silent. Float forms are one IEEE addition an element
     in the current rounding mode: NaN, infinities and the sign of zero are as the processor gives them.
     @{ */
@@ -55,7 +71,7 @@ TARN_API TarnStatus tarnsAdd_32sc_ISfs(const Tarn32sc* pSrc, Tarn32sc* pSrcDst, 
 ///@}
 
 /** Adds two vectors without a scale: pDst[i] = pSrc1[i] + pSrc2[i]. `16u`, `16s` and `32u` saturate; `8u16u` and
-   `16s32f` cannot overflow and are exact.
+    `16s32f` cannot overflow and are exact.
 
     @param pSrc1 first operand, `len` elements
     @param pSrc2 second operand, `len` elements
@@ -124,7 +140,7 @@ TARN_API TarnStatus tarnsAddC_32sc_ISfs(Tarn32sc val, Tarn32sc* pSrcDst, int len
 ///@}
 
 /** Adds a constant to a vector of floats: pDst[i] = pSrc[i] + val. In the real forms a `val` of 0 of either sign, or
-   NaN, copies the vector: the NaN does not spread, and a -0 stays what it is. The complex forms always add.
+    NaN, copies the vector: the NaN does not spread, and a -0 stays what it is. The complex forms always add.
 
     @param pSrc vector, `len` elements
     @param val  constant
@@ -139,7 +155,7 @@ TARN_API TarnStatus tarnsAddC_64fc(const Tarn64fc* pSrc, Tarn64fc val, Tarn64fc*
 ///@}
 
 /** Adds a constant to a vector in place: pSrcDst[i] = pSrcDst[i] + val. `16s` saturates. In the real float forms a
-   `val` of 0 of either sign, or NaN, leaves the vector as it is; the complex forms always add.
+    `val` of 0 of either sign, or NaN, leaves the vector as it is; the complex forms always add.
 
     @param val     constant
     @param pSrcDst vector and destination, `len` elements

@@ -10,8 +10,23 @@ extern "C" {
 
 /** @defgroup companding A-law and mu-law
     The 8-bit codes of telephony as ITU-T Recommendation G.711 defines them, from and to linear samples and from one law
-    to the other. A byte is a sign, a segment of three bits and four bits within it; the steps double from segment to
+    to the other.
+
+    @code{.c}
+    const Tarn16s samples[3] = {0, 1000, -30000};
+    Tarn8u codes[3];
+    Tarn16s back[3];
+    tarnsLinToALaw_16s8u(samples, codes, 3);
+    tarnsALawToLin_8u16s(codes, back, 3);
+    printf("%02X: %d %d %d\n", codes[0], back[0], back[1], back[2]); // D5: 8 1008 -30208
+    @endcode
+
+    __Accuracy:__ a byte is a sign, a segment of three bits and four bits within it; the steps double from segment to
     segment, so that the noise of coding stays 35 to 40 dB below the signal over some 40 dB of levels.
+
+    __Cost:__ 0.5 to 1.3 ns a sample: 0.13 to 0.33 of a coder by bits, 0.56 to 0.99 of a decoder by a table.
+
+    __Guide:__ [Coding](docs/coding.md).
 
     16-bit samples have their full range: what the Recommendation calls 13 bits (A-law) and 14 bits (mu-law) are their
     upper bits. Floats are taken as those samples divided by 32768: full scale is +-1.
@@ -23,9 +38,9 @@ extern "C" {
     Source and destination of one element size may be the same array; other overlap is not defined.
     @{ */
 
-/** Linear values of codes: pDst[i] = value of pSrc[i], the middle of its interval. A-law spans -32256 to 32256 and has
-    no zero (its smallest values are +-8), mu-law -32124 to 32124. As floats the values are divided by 32768, exactly;
-    they lie within -1 and 1, and a zero is +0.
+/** Decodes to linear samples: pDst[i] = value of pSrc[i], the middle of its interval. A-law spans -32256 to 32256 and
+    has no zero (its smallest values are +-8), mu-law -32124 to 32124. As floats the values are divided by 32768,
+    exactly; they lie within -1 and 1, and a zero is +0.
 
     @param pSrc codes, `len` elements
     @param pDst linear samples, `len` elements
@@ -38,7 +53,7 @@ TARN_API TarnStatus tarnsMuLawToLin_8u16s(const Tarn8u* pSrc, Tarn16s* pDst, int
 TARN_API TarnStatus tarnsMuLawToLin_8u32f(const Tarn8u* pSrc, Tarn32f* pDst, int len);
 ///@}
 
-/** Codes of linear samples: pDst[i] = code of the interval that pSrc[i] lies in.
+/** Encodes linear samples: pDst[i] = code of the interval that pSrc[i] lies in.
 
     Negative samples are taken as their one's complement, -s - 1: -1 has the magnitude of 0, and -32768 that of 32767.
     So the interval of each negative code is the mirror image of the positive one but for its ends, and some samples at
@@ -61,8 +76,8 @@ TARN_API TarnStatus tarnsLinToMuLaw_16s8u(const Tarn16s* pSrc, Tarn8u* pDst, int
 TARN_API TarnStatus tarnsLinToMuLaw_32f8u(const Tarn32f* pSrc, Tarn8u* pDst, int len);
 ///@}
 
-/** Codes of one law as those of the other, by the tables of the Recommendation. That is not the same as decoding and
-    coding again, and going there and back changes some bytes.
+/** Converts codes of one law to those of the other, by the tables of the Recommendation. That is not the same as
+    decoding and coding again, and going there and back changes some bytes.
 
     @param pSrc codes, `len` elements
     @param pDst codes of the other law, `len` elements; may be `pSrc`

@@ -9,7 +9,21 @@ extern "C" {
 #endif
 
 /** @defgroup convert Conversion
-    A vector of one element type as a vector of another.
+    Makes a vector of one element type of a vector of another: samples as they come from files and devices become floats
+    to compute with, and go back rounded and saturated.
+
+    @code{.c}
+    const Tarn32f x[4] = {0.5F, 1.5F, -3.25F, 40000};
+    Tarn16s samples[4];
+    tarnsConvert_32f16s_Sfs(x, samples, 4, tarnRndNear, 0);
+    printf("%d %d %d %d\n", samples[0], samples[1], samples[2], samples[3]); // 0 2 -3 32767
+    @endcode
+
+    __Accuracy:__ to wider types exact; to narrower ones rounded once, by `rndMode` or to nearest, and saturated.
+
+    __Cost:__ 0.03 to 0.4 of a plain loop for all that rounds to integers, about a loop's time for what only widens.
+
+    __Guide:__ [Conversions and rounding](docs/conversions.md).
 
     The type of the source comes first in a name, that of the destination last. `24u` and `24s` elements are three
     consecutive bytes, low byte first, at any address; their arrays are passed as pointers to bytes, element i starting
@@ -21,7 +35,7 @@ extern "C" {
     @{ */
 
 /** Rounding of floats to integers and to half precision, the values of `rndMode`. Conversions that have no such
-   argument and are not exact use the current rounding mode of the caller, unless they say otherwise. */
+    argument and are not exact use the current rounding mode of the caller, unless they say otherwise. */
 enum {
     tarnRndZero = 0, /**< towards zero */
     tarnRndNear = 1  /**< to nearest, ties to even */
@@ -86,7 +100,7 @@ TARN_API TarnStatus tarnsConvert_32s64f_Sfs(const Tarn32s* pSrc, Tarn64f* pDst, 
 TARN_API TarnStatus tarnsConvert_32s16s(const Tarn32s* pSrc, Tarn16s* pDst, int len);
 
 /** Narrows scaled integers: pDst[i] = pSrc[i] * 2^-scaleFactor, rounded to the nearest integer, ties to the even one,
-   and saturated at -32768 and 32767 (`16s`), -8388608 and 8388607 (`24s`), 0 and 16777215 (`24u`).
+    and saturated at -32768 and 32767 (`16s`), -8388608 and 8388607 (`24s`), 0 and 16777215 (`24u`).
 
     @param pSrc        source, `len` elements
     @param pDst        destination, `len` elements
@@ -105,7 +119,7 @@ TARN_API TarnStatus tarnsConvert_32u24u_Sfs(const Tarn32u* pSrc, Tarn8u* pDst, i
 
     The caller's rounding mode does not matter, and the control word of the floating-point unit, its flags included, is
     the same afterwards. Where the caller takes denormals for zeros, `rndMode` 0 does so as well, and rounding to
-   nearest does unless the caller's rounding mode is another one.
+    nearest does unless the caller's rounding mode is another one.
 
     @param pSrc        source, `len` elements
     @param pDst        destination, `len` elements
@@ -146,7 +160,7 @@ TARN_API TarnStatus tarnsConvert_32f24u_Sfs(const Tarn32f* pSrc, Tarn8u* pDst, i
 TARN_API TarnStatus tarnsConvert_64f32f(const Tarn64f* pSrc, Tarn32f* pDst, int len);
 
 /** Converts to half precision: pDst[i] = pSrc[i], rounded as IEEE 754 has it for either mode, denormal results
-   included.
+    included.
 
     Rounding to nearest makes an infinity of what is 65520 or more; truncation makes 65504, the largest half, of all
     finite values above. Infinities and the sign of zero stay. A NaN becomes a quiet NaN with its sign and the top ten
@@ -172,8 +186,8 @@ TARN_API TarnStatus tarnsConvert_32f16f(const Tarn32f* pSrc, Tarn16s* pDst, int 
 TARN_API TarnStatus tarnsConvert_16f32f(const Tarn16s* pSrc, Tarn32f* pDst, int len);
 
 /** Converts halves to scaled integers: pDst[i] = pSrc[i] * 2^-scaleFactor, rounded, saturated at -32768 and 32767. A
-   NaN becomes -32768, an infinity the bound of its sign. The caller's rounding mode does not matter, and the control
-   word is the same afterwards.
+    NaN becomes -32768, an infinity the bound of its sign. The caller's rounding mode does not matter, and the control
+    word is the same afterwards.
 
     @param pSrc        source, the bits of `len` halves
     @param pDst        destination, `len` elements

@@ -9,8 +9,23 @@ extern "C" {
 #endif
 
 /** @defgroup convolution Convolution
-    All that two finite vectors give when one slides along the other, and building blocks for code that splits long
-    cyclic convolutions into short ones. A filter that lives on from call to call is a FIR filter; see fir.h.
+    All that two finite vectors give when one slides along the other: the sound of a room, the product of two
+    polynomials; and building blocks for code that splits long cyclic convolutions into short ones. A filter that lives
+    on from call to call is a [FIR filter](@ref fir).
+
+    @code{.c}
+    const Tarn32f a[3] = {1, 2, 3}, b[2] = {1, -1};
+    Tarn32f c[4];
+    tarnsConv_32f(a, 3, b, 2, c);
+    printf("%g %g %g %g\n", c[0], c[1], c[2], c[3]); // 1 1 1 -3
+    @endcode
+
+    __Accuracy:__ direct sums round each addition of their precision, in runs of 256; transforms err by some 1e-7
+    (single) of the largest outputs. 16-bit results are those of single precision, scaled and rounded.
+
+    __Cost:__ directly 0.2 to 0.3 of a plain loop; by transforms 0.014 of it for 16,384 by 1024 elements.
+
+    __Guide:__ [Convolution and correlation](docs/convolution.md).
     @{ */
 
 /** Convolves two vectors: pDst[k] = sum of pSrc1[i] pSrc2[k-i] over all i where both are there, for k from 0 to
@@ -41,7 +56,7 @@ extern "C" {
     @param pDst        destination, src1Len + src2Len - 1 elements; must not overlap the vectors
     @param scaleFactor the result is scaled by 2^-scaleFactor, any integer
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for a length below 1, or if 32 bits do
-   not hold the length of the destination; tarnStsFftOrderErr for lengths that need a transform of more than 2^30
+    not hold the length of the destination; tarnStsFftOrderErr for lengths that need a transform of more than 2^30
             points; tarnStsNoMemErr if there is not enough memory */
 ///@{
 TARN_API TarnStatus tarnsConv_32f(const Tarn32f* pSrc1, int src1Len, const Tarn32f* pSrc2, int src2Len, Tarn32f* pDst);

@@ -9,7 +9,22 @@ extern "C" {
 #endif
 
 /** @defgroup correlation Correlation
-    How alike a vector and a delayed one are, for a range of delays. Vectors are zero where they have no elements.
+    How alike a vector and a delayed one are, for a range of delays: echoes, pitch, arrival times. Vectors are zero
+    where they have no elements.
+
+    @code{.c}
+    const Tarn32f sent[3] = {1, -1, 2}, heard[6] = {0, 0, 1, -1, 2, 0};
+    Tarn32f alike[4];
+    tarnsCrossCorr_32f(sent, 3, heard, 6, alike, 4, 0); // lags 0 to 3
+    printf("%g %g %g %g\n", alike[0], alike[1], alike[2], alike[3]); // 2 -3 6 -3
+    @endcode
+
+    __Accuracy:__ direct sums round each addition of their precision, in runs of 256; transforms agree up to rounding.
+
+    __Cost:__ directly 0.1 to 0.45 of a plain loop, one lag alone 1.2; all lags of 4096 by 4096 elements by a transform
+    0.013.
+
+    __Guide:__ [Convolution and correlation](docs/convolution.md).
 
     Few lags are summed directly: in the order of the elements, in runs of 256, so that a lag's result does not depend
     on the others of the call. Complex sums are built of four sums of real products, and the products of real parts and
@@ -23,7 +38,7 @@ extern "C" {
     @{ */
 
 /** Correlates a vector with itself: pDst[n] = sum of conj(pSrc[i]) pSrc[i+n] over i from 0 to srcLen - 1 - n, for n
-   from 0 to dstLen - 1. Lags from `srcLen` on are 0.
+    from 0 to dstLen - 1. Lags from `srcLen` on are 0.
 
     With m the smaller of the lengths a transform of at least 2 srcLen points is taken from m = 856 on (16s, 32f, 64f),
     from 152 on (32fc), from 368 on (64fc).

@@ -9,11 +9,30 @@ extern "C" {
 #endif
 
 /** @defgroup cplx Complex vectors and their parts
+    Conjugates complex vectors, takes them apart and puts them together.
+
+    @code{.c}
+    const Tarn32f re[2] = {1, 2};
+    Tarn32fc z[2];
+    Tarn32f im[2];
+    tarnsRealToCplx_32f(re, NULL, z, 2); // no imaginary parts: zeros
+    z[1].im = 5;
+    tarnsConj_32fc_I(z, 2);
+    tarnsImag_32fc(z, im, 2);
+    printf("%g %g\n", z[1].re, im[1]); // 2 -5
+    @endcode
+
+    __Accuracy:__ exact.
+
+    __Cost:__ taking apart and putting together take 1.6 to 1.8 of the time of `memcpy` for the same bytes, in cache.
+
+    __Guide:__ [Working on vectors](docs/vectors.md).
+
     No value is computed here but the negative imaginary part of a conjugate; all bits of floats are kept, those of NaN
     too.
     @{ */
 
-/** Conjugates: pDst[i] = (re, -im) of pSrc[i]. The negative of 16 bits saturates, so that -32768 becomes 32767; of a
+/** Conjugates a vector: pDst[i] = (re, -im) of pSrc[i]. The negative of 16 bits saturates, so that -32768 becomes 32767; of a
     float the sign bit changes, that of a zero or a NaN too. In opposite order: tarnsConjFlip_32fc and its kin.
 
     @param pSrc    source, `len` elements
@@ -30,7 +49,7 @@ TARN_API TarnStatus tarnsConj_32fc_I(Tarn32fc* pSrcDst, int len);
 TARN_API TarnStatus tarnsConj_64fc_I(Tarn64fc* pSrcDst, int len);
 ///@}
 
-/** Real parts: pDstRe[i] = re of pSrc[i].
+/** Takes the real parts: pDstRe[i] = re of pSrc[i].
 
     @param pSrc   source, `len` complex elements
     @param pDstRe destination, `len` reals; must not overlap `pSrc`
@@ -42,7 +61,7 @@ TARN_API TarnStatus tarnsReal_32fc(const Tarn32fc* pSrc, Tarn32f* pDstRe, int le
 TARN_API TarnStatus tarnsReal_64fc(const Tarn64fc* pSrc, Tarn64f* pDstRe, int len);
 ///@}
 
-/** Imaginary parts: pDstIm[i] = im of pSrc[i].
+/** Takes the imaginary parts: pDstIm[i] = im of pSrc[i].
 
     @param pSrc   source, `len` complex elements
     @param pDstIm destination, `len` reals; must not overlap `pSrc`

@@ -9,6 +9,26 @@ extern "C" {
 #endif
 
 /** @defgroup dct Cosine transforms
+    Cosine transforms of any length: compact spectra of real signals, coding, cepstra, smoothing.
+
+    @code{.c}
+    Tarn32f x[4] = {1, 1, 1, 1}, y[4];
+    TarnsDCTFwdSpec_32f* spec;
+    if (tarnsDCTFwdInitAlloc_32f(&spec, 4, tarnAlgHintNone) == tarnStsNoErr) {
+        tarnsDCTFwd_32f(x, y, spec, NULL);
+        printf("%.4f %.4f\n", y[0], y[1]); // 2.0000 0.0000
+        tarnsDCTFwdFree_32f(spec);
+    }
+    @endcode
+
+    __Accuracy:__ some units of the last place of the largest result, but for powers of two by the fast way in single
+    precision: 25 of them at 1024 points and 350 at 262,144; tarnAlgHintAccurate has 2 at any length.
+
+    __Cost:__ 0.2 to 0.35 of FFTW's time in single precision, 0.3 to 0.6 in double; 100 points, by direct sums, 0.7 and
+    1.3.
+
+    __Guide:__ [Cosine transforms](docs/cosine-transforms.md).
+
     The orthonormal transform of type II and its inverse, of any length N:
 
     - forward: y[k] = c(k) * sum over n of x[n] cos(pi (2 n + 1) k / (2 N))
@@ -40,12 +60,12 @@ typedef struct TarnsDCTFwdSpec_64f TarnsDCTFwdSpec_64f;
 typedef struct TarnsDCTInvSpec_64f TarnsDCTInvSpec_64f;
 ///@}
 
-/** Create a specification object: the tables of one length and direction.
+/** Creates a specification object: the tables of one length and direction.
 
     @param ppSpec where to store the address of the object; keeps its value on failure
     @param length number of points, at least 1
     @param hint   tarnAlgHintAccurate has powers of two above 512 points transformed without growing errors, in `32f`
-   and `64f`; any other value, and any value for integers, the fast way
+    and `64f`; any other value, and any value for integers, the fast way
     @return tarnStsNoErr; tarnStsNullPtrErr for a null `ppSpec`; tarnStsSizeErr for `length` below 1; tarnStsNoMemErr if
             there is no memory, or if a table would have 2^31 bytes or more */
 ///@{
@@ -85,7 +105,7 @@ TARN_API TarnStatus tarnsDCTFwdGetBufSize_64f(const TarnsDCTFwdSpec_64f* pSpec, 
 TARN_API TarnStatus tarnsDCTInvGetBufSize_64f(const TarnsDCTInvSpec_64f* pSpec, int* pSize);
 ///@}
 
-/** Forward and inverse transform. A NaN or an infinity anywhere in the source may make any result a NaN.
+/** Transforms forward or back. A NaN or an infinity anywhere in the source may make any result a NaN.
 
     @param pSrc    samples, or coefficients for the inverse, as many as the object has points
     @param pDst    coefficients, or samples for the inverse; may be the source
@@ -105,10 +125,10 @@ TARN_API TarnStatus tarnsDCTInv_64f(const Tarn64f* pSrc, Tarn64f* pDst, const Ta
                                     Tarn8u* pBuffer);
 ///@}
 
-/** Forward and inverse transform of 16-bit integers, times 2^-scaleFactor. It is computed in single precision, with an
-    error far below one half up to some thousand points, and rounded to the nearest integer, ties to the even one;
-    results saturate. Of one point the sample itself is scaled. The coefficients of full-scale samples need up to
-    log2(N) / 2 bits more than the samples.
+/** Transforms 16-bit integers forward or back, times 2^-scaleFactor. It is computed in single precision, with an error
+    far below one half up to some thousand points, and rounded to the nearest integer, ties to the even one; results
+    saturate. Of one point the sample itself is scaled. The coefficients of full-scale samples need up to log2(N) / 2
+    bits more than the samples.
 
     @param pSrc        samples, or coefficients for the inverse, as many as the object has points
     @param pDst        coefficients, or samples for the inverse; may be the source

@@ -9,6 +9,28 @@ extern "C" {
 #endif
 
 /** @defgroup dft Fourier transforms of any length
+    Fourier transforms of any number of points: a period of a hum, a frame of a standard, a length that small factors
+    make.
+
+    @code{.c}
+    const Tarn32f x[6] = {1, -1, 1, -1, 1, -1};
+    Tarn32fc X[4];
+    TarnsDFTSpec_R_32f* spec;
+    if (tarnsDFTInitAlloc_R_32f(&spec, 6, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone) == tarnStsNoErr) {
+        tarnsDFTFwd_RToCCS_32f(x, &X[0].re, spec, NULL);
+        printf("%.4f %.4f\n", X[0].re, X[3].re); // 0.0000 6.0000
+        tarnsDFTFree_R_32f(spec);
+    }
+    @endcode
+
+    __Accuracy:__ the root mean square of the error, relative to that of the result, is about 1e-7 (single) or 2e-16
+    (double precision) by factors, twice to three times as much by convolution.
+
+    __Cost:__ small factors cost about what powers of two do; a prime above 150 four times as much. Beside FFTW primes
+    take 0.4 to 0.9 of its time in single precision, 0.6 to 1.3 in double.
+
+    __Guide:__ [Fourier transforms of any length](docs/dft.md).
+
     The transforms of tarns/fft.h for every length N from 1 on: the same definition, flags, order of results, packed
     spectra and work buffers, with the length in place of its logarithm.
 
@@ -16,7 +38,7 @@ extern "C" {
     - inverse: x[n] = s * sum over k of X[k] exp(+2 pi i n k / N)
 
     The scales s are chosen at creation, see the TARN_FFT_... flags. The method is chosen there too, by the arithmetic
-   of N:
+    of N:
 
     - up to 4: a transform written out;
     - a power of two: the transform of tarns/fft.h, with its results to the bit;
@@ -44,7 +66,7 @@ typedef struct TarnsDFTSpec_C_64f TarnsDFTSpec_C_64f;
 typedef struct TarnsDFTSpec_R_64f TarnsDFTSpec_R_64f;
 ///@}
 
-/** Create a specification object: the tables of one length. The time is that of some tens of transforms at most.
+/** Creates a specification object: the tables of one length. The time is that of some tens of transforms at most.
 
     @param ppSpec where to store the address of the object; keeps its value on failure
     @param length number of points N, 1 and more. The limit is memory, of which a table can have 2^31 - 1 bytes.
@@ -90,7 +112,7 @@ TARN_API TarnStatus tarnsDFTGetBufSize_C_64f(const TarnsDFTSpec_C_64f* pSpec, in
 TARN_API TarnStatus tarnsDFTGetBufSize_R_64f(const TarnsDFTSpec_R_64f* pSpec, int* pSize);
 ///@}
 
-/** Forward and inverse transforms of interleaved complex data.
+/** Transforms interleaved complex data.
 
     @param pSrc    N elements at any address
     @param pDst    N results; may be `pSrc`, which otherwise is left as it is
@@ -110,7 +132,7 @@ TARN_API TarnStatus tarnsDFTInv_CToC_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, 
                                           Tarn8u* pBuffer);
 ///@}
 
-/** Forward and inverse transforms of complex data whose real and imaginary parts are arrays of their own.
+/** Transforms complex data whose real and imaginary parts are arrays of their own.
 
     @param pSrcRe  N real parts at any address
     @param pSrcIm  N imaginary parts at any address
@@ -130,8 +152,8 @@ TARN_API TarnStatus tarnsDFTInv_CToC_64f(const Tarn64f* pSrcRe, const Tarn64f* p
                                          const TarnsDFTSpec_C_64f* pSpec, Tarn8u* pBuffer);
 ///@}
 
-/** Forward transforms of a real signal to one of the packed spectra, of which R and I are the real and imaginary parts
-    of X[k]. For an even N, with H = N / 2:
+/** Transforms a real signal to one of the packed spectra, of which R and I are the real and imaginary parts of X[k].
+    For an even N, with H = N / 2:
 
     - Perm: R0, R(H), R1, I1, R2, I2, ..., R(H-1), I(H-1)
     - Pack: R0, R1, I1, R2, I2, ..., R(H-1), I(H-1), R(H)
@@ -163,8 +185,8 @@ TARN_API TarnStatus tarnsDFTFwd_RToCCS_64f(const Tarn64f* pSrc, Tarn64f* pDst, c
                                            Tarn8u* pBuffer);
 ///@}
 
-/** Inverse transforms of a packed spectrum to the real signal. What a CCS spectrum holds in place of its zeros is not
-    looked at. Without scaling the result is N times the signal whose forward transform the spectrum is.
+/** Transforms a packed spectrum back to the real signal. What a CCS spectrum holds in place of its zeros is not looked
+    at. Without scaling the result is N times the signal whose forward transform the spectrum is.
 
     @param pSrc    spectrum at any address, with as many reals as its format has (1 is read for N = 1)
     @param pDst    N reals; may be `pSrc`, which otherwise is left as it is

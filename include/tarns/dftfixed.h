@@ -10,6 +10,25 @@ extern "C" {
 #endif
 
 /** @defgroup dftfixed Fourier transforms of any length of 16-bit samples
+    Fourier transforms of any number of 16-bit samples, with a scale factor.
+
+    @code{.c}
+    const Tarn16s x[6] = {600, -600, 600, -600, 600, -600};
+    Tarn16sc X[4];
+    TarnsDFTSpec_R_16s* spec;
+    if (tarnsDFTInitAlloc_R_16s(&spec, 6, TARN_FFT_DIV_FWD_BY_N, tarnAlgHintNone) == tarnStsNoErr) {
+        tarnsDFTFwd_RToCCS_16s_Sfs(x, &X[0].re, spec, 0, NULL);
+        printf("%d %d\n", X[0].re, X[3].re); // 0 600
+        tarnsDFTFree_R_16s(spec);
+    }
+    @endcode
+
+    __Accuracy:__ results are the exact ones, rounded, but for those next to a half.
+
+    __Cost:__ the transform of floats of the same length, and two conversions.
+
+    __Guide:__ [Fourier transforms of any length](docs/dft.md), and [of 16-bit samples](docs/fft.md).
+
     The transforms of any length of 16-bit samples, with a scale factor: what the [transforms of floats](@ref dft)
     compute, times 2^-scaleFactor, rounded to nearest, ties to even, and saturated to 16 bits. Objects, flags and packed
     spectra are those of floats.
@@ -30,7 +49,7 @@ typedef struct TarnsDFTSpec_C_16s TarnsDFTSpec_C_16s;
 typedef struct TarnsDFTSpec_R_16s TarnsDFTSpec_R_16s;
 ///@}
 
-/** Create a specification object for transforms of 16-bit samples.
+/** Creates a specification object for transforms of 16-bit samples.
 
     @param ppSpec where to store the address of the object; keeps its value on failure
     @param length number of points N, 1 and more. The limit is memory, of which a table can have 2^31 - 1 bytes.
@@ -67,7 +86,7 @@ TARN_API TarnStatus tarnsDFTGetBufSize_C_16s(const TarnsDFTSpec_C_16s* pSpec, in
 TARN_API TarnStatus tarnsDFTGetBufSize_R_16s(const TarnsDFTSpec_R_16s* pSpec, int* pSize);
 ///@}
 
-/** Forward and inverse transforms of interleaved complex samples.
+/** Transforms interleaved complex samples.
 
     @param pSrc        N elements at any address
     @param pDst        N results; may be `pSrc`, which otherwise is left as it is
@@ -83,7 +102,7 @@ TARN_API TarnStatus tarnsDFTInv_CToC_16sc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pD
                                               int scaleFactor, Tarn8u* pBuffer);
 ///@}
 
-/** Forward and inverse transforms of complex samples whose real and imaginary parts are arrays of their own.
+/** Transforms complex samples whose real and imaginary parts are arrays of their own.
 
     @param pSrcRe      N real parts at any address
     @param pSrcIm      N imaginary parts at any address
@@ -102,11 +121,11 @@ TARN_API TarnStatus tarnsDFTInv_CToC_16s_Sfs(const Tarn16s* pSrcRe, const Tarn16
                                              Tarn8u* pBuffer);
 ///@}
 
-/** Forward transforms of real samples to a packed spectrum: see the transforms of floats for the three formats.
+/** Transforms real samples to a packed spectrum: see the transforms of floats for the three formats.
 
     @param pSrc        N samples at any address
     @param pDst        N samples; in CCS N + 2 of an even length and N + 1 of an odd one. May be `pSrc`, which otherwise
-   is left as it is.
+    is left as it is.
     @param pSpec       object of length N
     @param scaleFactor any integer: results are multiplied by 2^-scaleFactor
     @param pBuffer     as many bytes as tarnsDFTGetBufSize tells, at any address; or null, and the call allocates them
@@ -120,8 +139,7 @@ TARN_API TarnStatus tarnsDFTFwd_RToCCS_16s_Sfs(const Tarn16s* pSrc, Tarn16s* pDs
                                                int scaleFactor, Tarn8u* pBuffer);
 ///@}
 
-/** Inverse transforms of a packed spectrum to real samples. What a CCS spectrum holds in place of its zeros is not
-    looked at.
+/** Transforms a packed spectrum back to real samples. What a CCS spectrum holds in place of its zeros is not looked at.
 
     @param pSrc        spectrum at any address, with as many samples as its format has (1 is read for N = 1)
     @param pDst        N samples; may be `pSrc`, which otherwise is left as it is

@@ -9,6 +9,26 @@ extern "C" {
 #endif
 
 /** @defgroup dftoutord Fourier transforms out of order
+    Transforms for spectra that nobody looks at in order: to multiply two of them and transform back.
+
+    @code{.c}
+    Tarn64fc x[600] = {{1, 0}}, X[600]; // an impulse: all bins are 1
+    TarnsDFTOutOrdSpec_C_64fc* spec;
+    if (tarnsDFTOutOrdInitAlloc_C_64fc(&spec, 600, TARN_FFT_DIV_INV_BY_N, tarnAlgHintNone) == tarnStsNoErr) {
+        tarnsDFTOutOrdFwd_CToC_64fc(x, X, spec, NULL);
+        tarnsMul_64fc_I(X, X, 600); // bin by bin, in whatever order
+        tarnsDFTOutOrdInv_CToC_64fc(X, x, spec, NULL);
+        printf("%.4f %.4f\n", x[0].re, x[1].re); // 1.0000 0.0000
+        tarnsDFTOutOrdFree_C_64fc(spec);
+    }
+    @endcode
+
+    __Accuracy:__ that of the [transforms in order](@ref dft).
+
+    __Cost:__ that of the transforms in order, less one pass of reordering in each direction.
+
+    __Guide:__ [Fourier transforms of any length](docs/dft.md).
+
     Transforms of complex data as those of tarns/dft.h, for spectra that nobody looks at but element by element: to
     filter by them, multiply two of them and transform back. The forward transform of a long length with small prime
     factors leaves its results in the order in which its levels produce them, every result once, and the inverse takes
@@ -27,7 +47,7 @@ typedef struct TarnsDFTOutOrdSpec_C_32fc TarnsDFTOutOrdSpec_C_32fc;
 typedef struct TarnsDFTOutOrdSpec_C_64fc TarnsDFTOutOrdSpec_C_64fc;
 ///@}
 
-/** Create a specification object: the tables of one length.
+/** Creates a specification object: the tables of one length.
 
     @param ppSpec where to store the address of the object; keeps its value on failure
     @param length number of points N, 1 and more. The limit is memory, of which a table can have 2^31 - 1 bytes.
@@ -61,8 +81,8 @@ TARN_API TarnStatus tarnsDFTOutOrdGetBufSize_C_32fc(const TarnsDFTOutOrdSpec_C_3
 TARN_API TarnStatus tarnsDFTOutOrdGetBufSize_C_64fc(const TarnsDFTOutOrdSpec_C_64fc* pSpec, int* pSize);
 ///@}
 
-/** Forward transform, X[k] = s * sum over n of x[n] exp(-2 pi i n k / N): pDst holds every X[k] once, in the order of
-    the length. With a null buffer each call allocates its work memory. A NaN or an infinity may reach every result.
+/** Transforms forward, to X[k] = s * sum over n of x[n] exp(-2 pi i n k / N): pDst holds every X[k] once, in the order
+    of the length. With a null buffer each call allocates its work memory. A NaN or an infinity may reach every result.
 
     @param pSrc    N points
     @param pDst    N results; may be pSrc
@@ -77,7 +97,7 @@ TARN_API TarnStatus tarnsDFTOutOrdFwd_CToC_64fc(const Tarn64fc* pSrc, Tarn64fc* 
                                                 const TarnsDFTOutOrdSpec_C_64fc* pSpec, Tarn8u* pBuffer);
 ///@}
 
-/** Inverse transform of a spectrum in the order of the length, x[n] = s * sum over k of X[k] exp(+2 pi i n k / N), in
+/** Transforms a spectrum in the order of the length back, to x[n] = s * sum over k of X[k] exp(+2 pi i n k / N), in
     natural order. Arguments and statuses are those of the forward one.
 
     @param pSrc    N values in the order in which tarnsDFTOutOrdFwd leaves them

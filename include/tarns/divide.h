@@ -9,8 +9,22 @@ extern "C" {
 #endif
 
 /** @defgroup divide Division
-    Quotients of two vectors, of a vector by a constant, and of a constant by a vector. Mind the order: of two vectors
-    the first is the divisor.
+    Divides vectors by each other, by a constant, or a constant by a vector. Mind the order: of two vectors the first is
+    the divisor.
+
+    @code{.c}
+    const Tarn32f divisors[3] = {2, 0, 4}, dividends[3] = {1, -1, 3};
+    Tarn32f quotients[3];
+    const TarnStatus status = tarnsDiv_32f(divisors, dividends, quotients, 3);
+    printf("%g %g %g, %d\n", quotients[0], quotients[1], quotients[2], status == tarnStsDivByZero); // 0.5 -inf 0.75, 1
+    @endcode
+
+    __Accuracy:__ `64f` is the nearest quotient; `32f` is within 4 units of the last place in arrays of 32 and more, and
+    the nearest in shorter ones; integers round to nearest, bytes by a reciprocal of six decimals.
+
+    __Cost:__ that of a loop of divisions for `64f`; 0.3 of a plain loop for `16s` and `8u`, 0.7 for `32s`.
+
+    __Guide:__ [Quotients, roots, magnitudes and phases](docs/division-and-roots.md).
 
     A zero element of a divisor vector never stops a call. Its quotient has a value that is told here, all other
     elements are computed as usual, and the status is the warning `tarnStsDivByZero`. The sign of a zero divisor does
@@ -130,7 +144,7 @@ TARN_API TarnStatus tarnsDivC_16sc_ISfs(Tarn16sc val, Tarn16sc* pSrcDst, int len
     makes zeros of NaN too.
 
     The constant is looked at before anything else: a zero of either sign or a NaN gives tarnStsDivByZeroErr even where
-   a pointer is null or the length is wrong.
+    a pointer is null or the length is wrong.
 
     @param pSrc    dividend, `len` elements
     @param val     divisor
@@ -147,7 +161,7 @@ TARN_API TarnStatus tarnsDivC_64f_I(Tarn64f val, Tarn64f* pSrcDst, int len);
 ///@}
 
 /** Divides a complex vector by a constant: pDst[i] = pSrc[i] * conjugate(val) * (1 / |val|^2), in double precision,
-   with the last factor taken once.
+    with the last factor taken once.
 
     @param pSrc    dividend, `len` elements
     @param val     divisor
@@ -164,8 +178,8 @@ TARN_API TarnStatus tarnsDivC_64fc_I(Tarn64fc val, Tarn64fc* pSrcDst, int len);
 ///@}
 
 /** Divides a constant by each element: pDst[i] = val / pSrc[i]. `16u` divides in single precision, rounds to the
-   nearest integer, ties to the even one, and saturates. `32f` is a true quotient; a NaN element counts as zero in
-   arrays of fewer than 16 elements, behind the last multiple of eight, and in a group of eight that has a zero.
+    nearest integer, ties to the even one, and saturates. `32f` is a true quotient; a NaN element counts as zero in
+    arrays of fewer than 16 elements, behind the last multiple of eight, and in a group of eight that has a zero.
 
     A zero constant makes zeros, of zero elements too, and without a warning. In `32f` a NaN constant does the same; the
     source is not tested then, and the other checks are made. `16u` makes no checks at all on this way: a length below 1

@@ -9,6 +9,27 @@ extern "C" {
 #endif
 
 /** @defgroup fft Fourier transforms of power-of-two lengths
+    Fourier transforms of N = 2^order points, complex or real: spectra, fast convolution, filter banks.
+
+    @code{.c}
+    const Tarn32f x[8] = {1, 0, -1, 0, 1, 0, -1, 0}; // two periods
+    Tarn32fc X[5];
+    TarnsFFTSpec_R_32f* spec;
+    if (tarnsFFTInitAlloc_R_32f(&spec, 3, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone) == tarnStsNoErr) {
+        tarnsFFTFwd_RToCCS_32f(x, &X[0].re, spec, NULL);
+        printf("%g %g %g\n", X[0].re, X[2].re, X[4].re); // 0 4 0
+        tarnsFFTFree_R_32f(spec);
+    }
+    @endcode
+
+    __Accuracy:__ the root mean square of the error, relative to that of the result, is 6e-8 at order 3, 1.1e-7 at 10
+    and 1.4e-7 at 16 in single precision; in double precision 3e-16 at the largest lengths.
+
+    __Cost:__ 2.5 ns a point at 16,384 points (`32fc`), 5.8 ns at a million. Beside FFTW, which has vectors of 256 or
+    512 bits, real transforms take 0.6 to 1.1 of its time, complex ones 1.2 to 2.5.
+
+    __Guide:__ [Fourier transforms](docs/fft.md), and [packed spectra](docs/packed-formats.md) of real signals.
+
     A specification object is created once for a length N = 2^order, serves any number of transforms in both directions,
     and is freed. Results come in natural order.
 
@@ -41,7 +62,7 @@ typedef struct TarnsFFTSpec_C_64f TarnsFFTSpec_C_64f;
 typedef struct TarnsFFTSpec_R_64f TarnsFFTSpec_R_64f;
 ///@}
 
-/** Create a specification object: tables of twiddle factors and of bit reversal for one length. The time is that of
+/** Creates a specification object: tables of twiddle factors and of bit reversal for one length. The time is that of
     some tens of transforms at most.
 
     @param ppSpec where to store the address of the object; keeps its value on failure
@@ -88,7 +109,7 @@ TARN_API TarnStatus tarnsFFTGetBufSize_C_64f(const TarnsFFTSpec_C_64f* pSpec, in
 TARN_API TarnStatus tarnsFFTGetBufSize_R_64f(const TarnsFFTSpec_R_64f* pSpec, int* pSize);
 ///@}
 
-/** Forward and inverse transforms of interleaved complex data.
+/** Transforms interleaved complex data.
 
     @param pSrc    N elements at any address
     @param pDst    N results; may be `pSrc`, which otherwise is left as it is
@@ -108,7 +129,7 @@ TARN_API TarnStatus tarnsFFTInv_CToC_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, 
                                           Tarn8u* pBuffer);
 ///@}
 
-/** Forward and inverse transforms of complex data whose real and imaginary parts are arrays of their own.
+/** Transforms complex data whose real and imaginary parts are arrays of their own.
 
     @param pSrcRe  N real parts at any address
     @param pSrcIm  N imaginary parts at any address
@@ -128,8 +149,8 @@ TARN_API TarnStatus tarnsFFTInv_CToC_64f(const Tarn64f* pSrcRe, const Tarn64f* p
                                          const TarnsFFTSpec_C_64f* pSpec, Tarn8u* pBuffer);
 ///@}
 
-/** Forward transforms of a real signal to one of the packed spectra, of which R and I are the real and imaginary parts
-    of X[k], k from 0 to N / 2:
+/** Transforms a real signal to one of the packed spectra, of which R and I are the real and imaginary parts of X[k], k
+    from 0 to N / 2:
 
     - Perm: R0, R(N/2), R1, I1, R2, I2, ..., R(N/2-1), I(N/2-1)
     - Pack: R0, R1, I1, R2, I2, ..., R(N/2-1), I(N/2-1), R(N/2)
@@ -155,8 +176,8 @@ TARN_API TarnStatus tarnsFFTFwd_RToCCS_64f(const Tarn64f* pSrc, Tarn64f* pDst, c
                                            Tarn8u* pBuffer);
 ///@}
 
-/** Inverse transforms of a packed spectrum to the real signal. What a CCS spectrum holds in place of its two zeros is
-   not looked at. Without scaling the result is N times the signal whose forward transform the spectrum is.
+/** Transforms a packed spectrum back to the real signal. What a CCS spectrum holds in place of its two zeros is not
+    looked at. Without scaling the result is N times the signal whose forward transform the spectrum is.
 
     @param pSrc    spectrum, N reals, N + 2 in CCS (1 is read for N = 1), at any address
     @param pDst    N reals; may be `pSrc`, which otherwise is left as it is

@@ -10,6 +10,27 @@ extern "C" {
 #endif
 
 /** @defgroup fftfixed Fourier transforms of 16-bit samples
+    Fourier transforms of 2^order 16-bit samples, as sound cards and modems have them, with a scale factor in place of
+    conversions of one's own.
+
+    @code{.c}
+    const Tarn16s x[8] = {1000, 0, -1000, 0, 1000, 0, -1000, 0};
+    Tarn16sc X[5];
+    TarnsFFTSpec_R_16s* spec;
+    if (tarnsFFTInitAlloc_R_16s(&spec, 3, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone) == tarnStsNoErr) {
+        tarnsFFTFwd_RToCCS_16s_Sfs(x, &X[0].re, spec, 2, NULL); // a quarter
+        printf("%d %d %d\n", X[0].re, X[2].re, X[4].re); // 0 1000 0
+        tarnsFFTFree_R_16s(spec);
+    }
+    @endcode
+
+    __Accuracy:__ results are the exact ones, rounded, but for those next to a half: the error before rounding is about
+    1e-7 of the spectrum's root mean square, and 2.0e-5 at order 3 in fixed point.
+
+    __Cost:__ 1.0 to 1.6 of the transform of floats from order 6 on, up to three times as much at order 4.
+
+    __Guide:__ [Fourier transforms](docs/fft.md), section Samples of 16 bits.
+
     The transforms of power-of-two lengths of 16-bit samples, with a scale factor: what the [transforms of floats]
     (@ref fft) compute, times 2^-scaleFactor, rounded and saturated to 16 bits. Objects, flags and packed spectra are
     those of floats.
@@ -36,7 +57,7 @@ typedef struct TarnsFFTSpec_C_16s TarnsFFTSpec_C_16s;
 typedef struct TarnsFFTSpec_R_16s TarnsFFTSpec_R_16s;
 ///@}
 
-/** Create a specification object for transforms of 16-bit samples.
+/** Creates a specification object for transforms of 16-bit samples.
 
     @param ppSpec where to store the address of the object; keeps its value on failure
     @param order  logarithm of the length to base 2, 0 to 30. There is no memory for orders above 27 (complex) or 28
@@ -74,8 +95,7 @@ TARN_API TarnStatus tarnsFFTGetBufSize_C_16s(const TarnsFFTSpec_C_16s* pSpec, in
 TARN_API TarnStatus tarnsFFTGetBufSize_R_16s(const TarnsFFTSpec_R_16s* pSpec, int* pSize);
 ///@}
 
-/** Forward and inverse transforms of interleaved complex samples. At order 0 the element is divided by 2^scaleFactor, a
-    half rounded up.
+/** Transforms interleaved complex samples. At order 0 the element is divided by 2^scaleFactor, a half rounded up.
 
     @param pSrc        N elements at any address
     @param pDst        N results; may be `pSrc`, which otherwise is left as it is
@@ -91,7 +111,7 @@ TARN_API TarnStatus tarnsFFTInv_CToC_16sc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pD
                                               int scaleFactor, Tarn8u* pBuffer);
 ///@}
 
-/** Forward and inverse transforms of complex samples whose real and imaginary parts are arrays of their own.
+/** Transforms complex samples whose real and imaginary parts are arrays of their own.
 
     @param pSrcRe      N real parts at any address
     @param pSrcIm      N imaginary parts at any address
@@ -110,7 +130,7 @@ TARN_API TarnStatus tarnsFFTInv_CToC_16s_Sfs(const Tarn16s* pSrcRe, const Tarn16
                                              Tarn8u* pBuffer);
 ///@}
 
-/** Forward transforms of real samples to a packed spectrum: see the transforms of floats for the three formats.
+/** Transforms real samples to a packed spectrum: see the transforms of floats for the three formats.
 
     @param pSrc        N samples at any address
     @param pDst        N samples, N + 2 in CCS (2 for N = 1); may be `pSrc`, which otherwise is left as it is
@@ -127,8 +147,8 @@ TARN_API TarnStatus tarnsFFTFwd_RToCCS_16s_Sfs(const Tarn16s* pSrc, Tarn16s* pDs
                                                int scaleFactor, Tarn8u* pBuffer);
 ///@}
 
-/** Inverse transforms of a packed spectrum to real samples. What a CCS spectrum holds in place of its two zeros is not
-    looked at.
+/** Transforms a packed spectrum back to real samples. What a CCS spectrum holds in place of its two zeros is not looked
+    at.
 
     @param pSrc        spectrum, N samples, N + 2 in CCS (1 is read for N = 1), at any address
     @param pDst        N samples; may be `pSrc`, which otherwise is left as it is

@@ -9,6 +9,27 @@ extern "C" {
 #endif
 
 /** @defgroup fir FIR filtering
+    Filters a signal by the taps in a [state](@ref firstate), block by block or sample by sample.
+
+    @code{.c}
+    const Tarn32f taps[2] = {0.5F, 0.5F}, x[4] = {1, 3, 5, 7};
+    Tarn32f y[4];
+    TarnsFIRState_32f* state;
+    if (tarnsFIRInitAlloc_32f(&state, taps, 2, NULL) == tarnStsNoErr) {
+        tarnsFIR_32f(x, y, 3, state);
+        tarnsFIROne_32f(x[3], &y[3], state); // goes on where the block ended
+        printf("%g %g %g %g\n", y[0], y[1], y[2], y[3]); // 0.5 2 4 6
+        tarnsFIRFree_32f(state);
+    }
+    @endcode
+
+    __Accuracy:__ that of sums in the type of the taps; integer results are rounded once.
+
+    __Cost:__ directly 0.2 to 0.3 of a plain loop; by transforms 0.04 of it for 128 taps and 0.005 for 1024. Two threads
+    take 0.55 to 0.7 of one's time where a call is long enough.
+
+    __Guide:__ [FIR filters](docs/fir.md).
+
     y[n] = sum of h[k] x[n-k] over k from 0 to tapsLen - 1, where the samples before the first one of a call come from
     the state's delay line. A call leaves the last samples there, so that a signal can be cut into calls of any lengths,
     single samples included.
@@ -21,21 +42,21 @@ extern "C" {
     their block.
 
     Real filters of more than 1600 samples a call, complex ones of more than 800, are shared out to threads on both
-   roads if the call is worth it, which it is from about a quarter of a millisecond on one thread. There are as many
-   threads as OpenMP's settings allow (`OMP_NUM_THREADS`, `omp_set_num_threads`), one in a forked child of a process
-   that has threads. Outputs are the same on any number of them, and the caller's rounding mode holds in all. Filters
-   with integer taps run on the calling thread.
+    roads if the call is worth it, which it is from about a quarter of a millisecond on one thread. There are as many
+    threads as OpenMP's settings allow (`OMP_NUM_THREADS`, `omp_set_num_threads`), one in a forked child of a process
+    that has threads. Outputs are the same on any number of them, and the caller's rounding mode holds in all. Filters
+    with integer taps run on the calling thread.
 
     Results of integer type (`Sfs`) are those of the filter times 2^-scaleFactor. Blocks round them to the nearest
     integer, ties to even, whatever the rounding mode, and saturate; a NaN becomes the lowest integer. Single samples
     are rounded in the current mode by a conversion to 32 bits: 16-bit results saturate, but what is 2^31 or more
-   becomes the lowest integer in either type. Filters with integer taps add products modulo 2^32 and shift the sum by s
-   = tapsFactor - scaleFactor, left without saturation, or right with rounding to nearest, ties to even; then they
+    becomes the lowest integer in either type. Filters with integer taps add products modulo 2^32 and shift the sum by s
+    = tapsFactor - scaleFactor, left without saturation, or right with rounding to nearest, ties to even; then they
     saturate.
 
     With a multi-rate state (firmr.h) an iteration consumes `downFactor` samples and produces `upFactor` outputs. Each
-   is the sum of its products in their order, oldest sample first. Those of four outputs are added together, and where
-   one window serves all four it is multiplied by zeros in place of what is none of an output's; so a NaN may reach the
+    is the sum of its products in their order, oldest sample first. Those of four outputs are added together, and where
+    one window serves all four it is multiplied by zeros in place of what is none of an output's; so a NaN may reach the
     neighbours of the outputs that it is a sample of. Above 1600 iterations (complex filters: 800) a call is shared out
     as above. Results of integer type are rounded in the current mode and saturate, a NaN becomes the lowest integer;
     but the last outputs of a call have halves rounded away from zero. These are the last outputs that make no whole
@@ -47,7 +68,7 @@ extern "C" {
 /** Filters a block.
 
     @param pSrc        samples, `numIters` elements (of a multi-rate filter numIters downFactor); must not overlap
-   `pDst`
+    `pDst`
     @param pDst        destination, `numIters` elements (of a multi-rate filter numIters upFactor)
     @param numIters    number of samples, or of iterations, at least 1
     @param pState      state of the filter
@@ -102,8 +123,8 @@ TARN_API TarnStatus tarnsFIR32sc_16sc32fc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pD
     @param scaleFactor the result is scaled by 2^-scaleFactor, any integer
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `numIters` below 1;
             tarnStsContextMatchErr for a state of another kind; tarnStsNoMemErr if there is no memory for the copy, or
-   it would be larger than 2^31 - 1 bytes; the status of a transform that fails, in which case the parts before it are
-   written */
+    it would be larger than 2^31 - 1 bytes; the status of a transform that fails, in which case the parts before it are
+    written */
 ///@{
 TARN_API TarnStatus tarnsFIR_32f_I(Tarn32f* pSrcDst, int numIters, TarnsFIRState_32f* pState);
 TARN_API TarnStatus tarnsFIR_32fc_I(Tarn32fc* pSrcDst, int numIters, TarnsFIRState_32fc* pState);

@@ -9,6 +9,25 @@ extern "C" {
 #endif
 
 /** @defgroup firmr Multi-rate FIR filters
+    Builds states that change the rate of a signal by upFactor / downFactor: resampling, decimation, interpolation.
+
+    @code{.c}
+    const Tarn32f taps[2] = {1, 1}, x[4] = {1, 2, 3, 4};
+    Tarn32f y[8];
+    TarnsFIRState_32f* state;
+    if (tarnsFIRMRInitAlloc_32f(&state, taps, 2, 2, 0, 1, 0, NULL) == tarnStsNoErr) {
+        tarnsFIR_32f(x, y, 4, state); // 4 samples in, 8 out
+        printf("%g %g %g %g\n", y[0], y[1], y[2], y[3]); // 1 1 2 2
+        tarnsFIRFree_32f(state);
+    }
+    @endcode
+
+    __Accuracy:__ that of sums in the type of the taps.
+
+    __Cost:__ 0.3 to 0.43 of a polyphase loop, 0.04 of liquid-dsp's.
+
+    __Guide:__ [FIR filters](docs/fir.md), section Change of rate.
+
     A multi-rate filter changes the rate of a signal by upFactor / downFactor. It computes what one gets by inserting
     upFactor - 1 zeros between samples, filtering with the taps, and keeping every downFactor-th result: input n stands
     at time n upFactor + upPhase of the fast clock, output m at time m downFactor + downPhase, and

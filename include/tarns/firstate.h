@@ -9,6 +9,29 @@ extern "C" {
 #endif
 
 /** @defgroup firstate FIR filter states
+    Makes, changes and frees the states that @ref fir filters with: taps, delay line and what long filters need.
+
+    @code{.c}
+    const Tarn32f taps[3] = {1, 2, 3}, other[3] = {1, 0, 0};
+    const Tarn32f x[2] = {1, 1};
+    Tarn32f y[2], past[3];
+    TarnsFIRState_32f* state;
+    if (tarnsFIRInitAlloc_32f(&state, taps, 3, NULL) == tarnStsNoErr) {
+        tarnsFIR_32f(x, y, 2, state);
+        tarnsFIRSetTaps_32f(other, state); // in mid-stream
+        tarnsFIRGetDlyLine_32f(state, past);
+        printf("%g %g, %g %g %g\n", y[0], y[1], past[0], past[1], past[2]); // 1 3, 1 1 0
+        tarnsFIRFree_32f(state);
+    }
+    @endcode
+
+    __Accuracy:__ taps are kept as they are; those of `32s_16s` and its kin keep 16 bits.
+
+    __Cost:__ a state by transforms takes some transforms of its length to make or to give new taps; others a copy of
+    the taps.
+
+    __Guide:__ [FIR filters](docs/fir.md).
+
     A filter of `tapsLen` taps is kept in one state: the taps in the layouts that the kernels want, a delay line with
     the last `tapsLen` samples, and, for long filters, the spectrum of the taps and the buffers of filtering by
     transforms (overlap-save). Nothing about the taps is computed in a filter call.

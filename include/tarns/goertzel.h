@@ -9,6 +9,22 @@ extern "C" {
 #endif
 
 /** @defgroup goertzel Single bins
+    Finds how strong one frequency is, or two, without a whole spectrum: dialling tones, pilots, hum.
+
+    @code{.c}
+    const Tarn32f x[8] = {1, 0, -1, 0, 1, 0, -1, 0};
+    Tarn32fc bin;
+    tarnsGoertz_32f(x, 8, &bin, 0.25F); // a quarter of the sampling rate
+    printf("%.4f\n", bin.re); // 4.0000
+    @endcode
+
+    __Accuracy:__ double precision throughout: errors of some 2^-53 `len` / sin(2 pi rFreq) for samples of magnitude 1.
+
+    __Cost:__ 3.4 ns a sample, three operations that wait for each other, and 0.1 microseconds a call; two bins take as
+    long as one.
+
+    __Guide:__ [Analytic signals and single bins](docs/analytic-signals.md).
+
     Goertzel's recurrence: a resonator without loss at the angular step w = 2 pi rFreq takes the samples,
 
         t = 2 cos(w) u - v + pSrc[n],  v = u,  u = t     from u = v = 0,
@@ -28,7 +44,7 @@ extern "C" {
     Every result is written after the last sample is read. NaN and infinities spread as the arithmetic spreads them.
     @{ */
 
-/** One bin of a vector of floats, rounded to the type of the result once.
+/** Computes one bin of a vector of floats, rounded to the type of the result once.
 
     @param pSrc  vector, `len` elements; a real one has imaginary parts of 0
     @param len   number of elements, at least 1
@@ -42,9 +58,9 @@ TARN_API TarnStatus tarnsGoertz_32fc(const Tarn32fc* pSrc, int len, Tarn32fc* pV
 TARN_API TarnStatus tarnsGoertz_64fc(const Tarn64fc* pSrc, int len, Tarn64fc* pVal, Tarn64f rFreq);
 ///@}
 
-/** One bin of a vector of 16-bit integers, times 2^-scaleFactor. The bin is rounded to single precision, scaled, and
-    rounded to the nearest integer, halves away from zero (unlike the scale rule of other families), and saturates at
-    the bounds of the type. A full-scale sine at the bin's frequency gives 16384 `len` before it is scaled.
+/** Computes one bin of a vector of 16-bit integers, times 2^-scaleFactor. The bin is rounded to single precision,
+    scaled, and rounded to the nearest integer, halves away from zero (unlike the scale rule of other families), and
+    saturates at the bounds of the type. A full-scale sine at the bin's frequency gives 16384 `len` before it is scaled.
 
     @param pSrc        vector, `len` elements; a real one has imaginary parts of 0
     @param len         number of elements, at least 1
@@ -58,9 +74,9 @@ TARN_API TarnStatus tarnsGoertz_16s_Sfs(const Tarn16s* pSrc, int len, Tarn16sc* 
 TARN_API TarnStatus tarnsGoertz_16sc_Sfs(const Tarn16sc* pSrc, int len, Tarn16sc* pVal, Tarn32f rFreq, int scaleFactor);
 ///@}
 
-/** Two bins of a vector of complex floats in one pass, which takes hardly longer than one. Each is what the function of
-    one bin gives, but for `32fc`, which rounds the states of the recurrences to single precision before it forms the
-    bins of them.
+/** Computes two bins of a vector of complex floats in one pass, which takes hardly longer than one. Each is what the
+    function of one bin gives, but for `32fc`, which rounds the states of the recurrences to single precision before it
+    forms the bins of them.
 
     @param pSrc  vector, `len` elements
     @param len   number of elements, at least 1
@@ -73,7 +89,8 @@ TARN_API TarnStatus tarnsGoertzTwo_32fc(const Tarn32fc* pSrc, int len, Tarn32fc*
 TARN_API TarnStatus tarnsGoertzTwo_64fc(const Tarn64fc* pSrc, int len, Tarn64fc* pVal, const Tarn64f* rFreq);
 ///@}
 
-/** Two bins of a vector of complex 16-bit integers in one pass, scaled and rounded as tarnsGoertz_16sc_Sfs() does it.
+/** Computes two bins of a vector of complex 16-bit integers in one pass, scaled and rounded as tarnsGoertz_16sc_Sfs()
+    does it.
 
     @param pSrc        vector, `len` elements
     @param len         number of elements, at least 1

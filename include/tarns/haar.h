@@ -9,6 +9,25 @@ extern "C" {
 #endif
 
 /** @defgroup haar Haar wavelet
+    One level of the simplest wavelet: pairs of neighbours become a mean and a difference, and come back.
+
+    @code{.c}
+    const Tarn32f x[4] = {1, 3, 6, 2};
+    Tarn32f low[2], high[2], y[4];
+    tarnsWTHaarFwd_32f(x, 4, low, high);
+    tarnsWTHaarInv_32f(low, high, y, 4);
+    printf("%g %g, %g %g\n", low[0], low[1], high[0], high[1]); // 2 4, 1 -2
+    printf("%g %g %g %g\n", y[0], y[1], y[2], y[3]); // 1 3 6 2
+    @endcode
+
+    __Accuracy:__ floats come back within two units of the last place of the larger one of a pair; integers off by one
+    in a quarter of all samples, or exactly by a scale factor of -1 and then 1.
+
+    __Cost:__ forward 2.5 to 8 times a copy, back 1.4 to 5.7 times: 0.14 to 0.55 of a plain loop for integers, that of a
+    loop for floats.
+
+    __Guide:__ [The Haar wavelet](docs/haar.md).
+
     Pairs of neighbours become a low value, their mean, and a high value, half their difference; the inverse takes sum
     and difference of the two. With a = pSrc[2k] and b = pSrc[2k + 1]:
 
@@ -28,7 +47,7 @@ extern "C" {
     Further levels are further calls on the low channel.
     @{ */
 
-/** One level forward: pDstLow[k] = (a + b) / 2, pDstHigh[k] = (b - a) / 2.
+/** Computes one level forward: pDstLow[k] = (a + b) / 2, pDstHigh[k] = (b - a) / 2.
 
     Integers are rounded to nearest, ties to even; nothing overflows on the way, and a high value of 127.5 or 32767.5 is
     the highest value of the type. The same holds for `32s` and `64s`, with one rule more: where (b >> 1) - (a >> 1) is
@@ -54,9 +73,9 @@ TARN_API TarnStatus tarnsWTHaarFwd_32f(const Tarn32f* pSrc, int len, Tarn32f* pD
 TARN_API TarnStatus tarnsWTHaarFwd_64f(const Tarn64f* pSrc, int len, Tarn64f* pDstLow, Tarn64f* pDstHigh);
 ///@}
 
-/** One level back: pDst[2k] = l - h, pDst[2k + 1] = l + h, with l = pSrcLow[k] and h = pSrcHigh[k]; of an odd length
-    the last element is the last one of the low channel. Integers saturate at the bounds of their type; floats are one
-    operation each in the current rounding mode, and NaN and infinities follow it.
+/** Computes one level back: pDst[2k] = l - h, pDst[2k + 1] = l + h, with l = pSrcLow[k] and h = pSrcHigh[k]; of an odd
+    length the last element is the last one of the low channel. Integers saturate at the bounds of their type; floats
+    are one operation each in the current rounding mode, and NaN and infinities follow it.
 
     @param pSrcLow  low channel, (`len` + 1) / 2 elements
     @param pSrcHigh high channel, `len` / 2 elements
@@ -72,7 +91,7 @@ TARN_API TarnStatus tarnsWTHaarInv_32f(const Tarn32f* pSrcLow, const Tarn32f* pS
 TARN_API TarnStatus tarnsWTHaarInv_64f(const Tarn64f* pSrcLow, const Tarn64f* pSrcHigh, Tarn64f* pDst, int len);
 ///@}
 
-/** One level forward with a scale: pDstLow[k] = (a + b) * 2^-(scaleFactor + 1), pDstHigh[k] = (b - a) *
+/** Computes one level forward with a scale: pDstLow[k] = (a + b) * 2^-(scaleFactor + 1), pDstHigh[k] = (b - a) *
     2^-(scaleFactor + 1), rounded to nearest, ties to even, and saturated. The halving of the transform is one step of
     the scale: it is at a factor of -1 that sum and difference come out as they are. They do so without loss where they
     fit, and tarnsWTHaarInv at a factor of 1 then gives back every sample.
@@ -98,9 +117,9 @@ TARN_API TarnStatus tarnsWTHaarFwd_64s_Sfs(const Tarn64s* pSrc, int len, Tarn64s
                                            int scaleFactor);
 ///@}
 
-/** One level back with a scale: pDst[2k] = (l - h) * 2^-scaleFactor, pDst[2k + 1] = (l + h) * 2^-scaleFactor, rounded
-    to nearest, ties to even, and saturated; of an odd length the last element is the last low value scaled alike. Here
-    the factor means what it means elsewhere: see [the scale rule](docs/scale-rule.md).
+/** Computes one level back with a scale: pDst[2k] = (l - h) * 2^-scaleFactor, pDst[2k + 1] = (l + h) * 2^-scaleFactor,
+    rounded to nearest, ties to even, and saturated; of an odd length the last element is the last low value scaled
+    alike. Here the factor means what it means elsewhere: see [the scale rule](docs/scale-rule.md).
 
     One case differs: `16s` at a factor of 1 computes the second value as h plus the first one, before that is
     saturated. Where l + h is odd this may round the other way.

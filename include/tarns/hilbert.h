@@ -9,6 +9,28 @@ extern "C" {
 #endif
 
 /** @defgroup hilbert Analytic signals
+    Makes the analytic signal of a real one: its envelope and its instantaneous frequency.
+
+    @code{.c}
+    const Tarn32f x[8] = {1, 0, -1, 0, 1, 0, -1, 0};
+    Tarn32fc z[8];
+    Tarn32f envelope[8];
+    TarnsHilbertSpec_32f32fc* spec;
+    if (tarnsHilbertInitAlloc_32f32fc(&spec, 8, tarnAlgHintNone) == tarnStsNoErr) {
+        tarnsHilbert_32f32fc(x, z, spec);
+        tarnsMagnitude_32fc(z, envelope, 8);
+        printf("%.4f %.4f %.4f\n", z[1].im, envelope[0], envelope[1]); // 1.0000 1.0000 1.0000
+        tarnsHilbertFree_32f32fc(spec);
+    }
+    @endcode
+
+    __Accuracy:__ that of two Fourier transforms, some 1e-7 of the signal; where end and beginning do not meet the
+    method itself disturbs both.
+
+    __Cost:__ 1.6 to 2.2 times a complex transform of the length.
+
+    __Guide:__ [Analytic signals and single bins](docs/analytic-signals.md).
+
     A real signal of N samples becomes a complex one whose real part is the signal and whose imaginary part is its
     Hilbert transform: every frequency between 0 and half the sampling rate turned back by a quarter of a cycle. The
     magnitude of the result is the signal's envelope, the step of its phase from sample to sample its instantaneous
@@ -31,7 +53,7 @@ typedef struct TarnsHilbertSpec_16s32fc TarnsHilbertSpec_16s32fc;
 typedef struct TarnsHilbertSpec_16s16sc TarnsHilbertSpec_16s16sc;
 ///@}
 
-/** Create a specification object: the Fourier transforms of one length.
+/** Creates a specification object: the Fourier transforms of one length.
 
     If those cannot be made, the object stays in `*ppSpec` with what it has got. It serves no transform, but can be
     freed.
@@ -60,7 +82,7 @@ TARN_API TarnStatus tarnsHilbertFree_16s32fc(TarnsHilbertSpec_16s32fc* pSpec);
 TARN_API TarnStatus tarnsHilbertFree_16s16sc(TarnsHilbertSpec_16s16sc* pSpec);
 ///@}
 
-/** The analytic signal in single precision. A NaN or an infinity anywhere may make every result a NaN.
+/** Makes the analytic signal in single precision. A NaN or an infinity anywhere may make every result a NaN.
 
     @param pSrc  samples, as many as the object was made for
     @param pDst  as many complex results
@@ -72,9 +94,9 @@ TARN_API TarnStatus tarnsHilbert_32f32fc(const Tarn32f* pSrc, Tarn32fc* pDst, co
 TARN_API TarnStatus tarnsHilbert_16s32fc(const Tarn16s* pSrc, Tarn32fc* pDst, const TarnsHilbertSpec_16s32fc* pSpec);
 ///@}
 
-/** The analytic signal of 16-bit integers as such, times 2^-scaleFactor. It is computed in single precision and rounded
-    to the nearest integer, ties to the even one; results saturate. Of one and of two samples the scaled values are
-    truncated towards zero instead.
+/** Makes the analytic signal of 16-bit integers as such, times 2^-scaleFactor. It is computed in single precision and
+    rounded to the nearest integer, ties to the even one; results saturate. Of one and of two samples the scaled values
+    are truncated towards zero instead.
 
     @param pSrc        samples, as many as the object was made for
     @param pDst        as many complex results

@@ -10,6 +10,28 @@ extern "C" {
 #endif
 
 /** @defgroup iir IIR filters
+    Filters a signal recursively, by the taps in a [state](@ref iirstate) or by taps of the caller's.
+
+    @code{.c}
+    const Tarn32f taps[4] = {1, 0, 1, -0.5F}, x[4] = {1, 0, 0, 0}; // y[n] = x[n] + y[n-1] / 2
+    Tarn32f y[4];
+    TarnsIIRState_32f* state;
+    if (tarnsIIRInitAlloc_32f(&state, taps, 1, NULL) == tarnStsNoErr) {
+        tarnsIIR_32f(x, y, 4, state);
+        printf("%g %g %g %g\n", y[0], y[1], y[2], y[3]); // 1 0.5 0.25 0.125
+        tarnsIIRFree_32f(state);
+    }
+    @endcode
+
+    __Accuracy:__ depends on the poles. Butterworth low-passes at a tenth of the rate err by 2e-8 (order 2) to 2e-6
+    (order 6) of the input in single precision; sections with poles within 0.01 of the unit circle and near frequency 0
+    want `64f` taps.
+
+    __Cost:__ 1.5 ns a sample for a biquad and 4.4 ns for four in single precision, 2.0 and 6.2 ns in double: 0.2 to
+    0.75 of a plain loop.
+
+    __Guide:__ [Recursive filters](docs/iir.md).
+
     Recursive filters, by blocks of any length and by single samples; a signal may be cut into calls as it comes.
 
     Long blocks are computed four outputs at a time, by tables that look so far ahead; short ones, the first samples of

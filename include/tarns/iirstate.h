@@ -9,6 +9,27 @@ extern "C" {
 #endif
 
 /** @defgroup iirstate IIR filter states
+    Makes, changes and frees the states that @ref iir filters with: one section of any order, or a cascade of biquads.
+
+    @code{.c}
+    const Tarn64f sections[12] = {0.2, 0.4, 0.2, 1, -0.4, 0.2, 1, 0, 0, 1, -0.5, 0}; // b0 b1 b2 a0 a1 a2, twice
+    Tarn64f x[1000] = {1}, gain;
+    TarnsIIRState_64f* state;
+    if (tarnsIIRInitAlloc_BiQuad_64f(&state, sections, 2, NULL) == tarnStsNoErr) {
+        tarnsIIR_64f_I(x, 1000, state); // the impulse response
+        tarnsSum_64f(x, 1000, &gain); // that at frequency 0
+        printf("%.4f\n", gain); // 2.0000
+        tarnsIIRFree_64f(state);
+    }
+    @endcode
+
+    __Accuracy:__ coefficients of one high order hold its poles far less precisely than those of sections do: from order
+    five on take biquads.
+
+    __Cost:__ setting taps takes as long as filtering some hundred samples.
+
+    __Guide:__ [Recursive filters](docs/iir.md).
+
     A recursive filter is kept in one state. It is either one section of some order N,
 
         a0 y[n] = sum of b[k] x[n-k], k = 0..N, - sum of a[k] y[n-k], k = 1..N,
@@ -205,7 +226,7 @@ TARN_API TarnStatus tarnsIIRGetStateSize64fc_BiQuad_16sc(int numBq, int* pBuffer
     @param pBuffer    memory of the size that `GetStateSize` tells, at any address
     @return tarnStsNoErr; tarnStsNullPtrErr for a null `ppState`, `pTaps` or `pBuffer`; tarnStsIIROrderErr for `order`
             below 0; tarnStsNoMemErr for an order that `GetStateSize` has no size for, or, with integer taps, if there
-   is no memory to convert them in; tarnStsDivByZeroErr for a0 of 0 or NaN */
+    is no memory to convert them in; tarnStsDivByZeroErr for a0 of 0 or NaN */
 ///@{
 TARN_API TarnStatus tarnsIIRInit_32f(TarnsIIRState_32f** ppState, const Tarn32f* pTaps, int order,
                                      const Tarn32f* pDlyLine, Tarn8u* pBuffer);

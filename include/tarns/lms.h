@@ -10,6 +10,30 @@ extern "C" {
 #endif
 
 /** @defgroup lms Adaptive filtering of blocks
+    Filters that learn their taps, block by block: echo and noise cancellation, equalization, identification.
+
+    @code{.c}
+    Tarn32f x[4000], d[4000], y[4000], taps[3];
+    unsigned int seed = 1;
+    TarnsFIRLMSState_32f* state;
+    tarnsRandUniform_Direct_32f(x, 4000, -1, 1, &seed);
+    tarnsMulC_32f(x, 0.5F, d, 4000); // what is to be learnt: half of the newest sample
+    if (tarnsFIRLMSInitAlloc_32f(&state, NULL, 3, NULL, 0) == tarnStsNoErr) {
+        tarnsFIRLMS_32f(x, d, y, 4000, 0.05F, state);
+        tarnsFIRLMSGetTaps_32f(state, taps);
+        printf("%.3f %d\n", taps[0], taps[1] < 0.001F && taps[1] > -0.001F); // 0.500 1
+        tarnsFIRLMSFree_32f(state);
+    }
+    @endcode
+
+    __Accuracy:__ single precision; what the reference has that is not of the samples leaves an error that grows with
+    the step size.
+
+    __Cost:__ some 30 cycles a sample and two more for four taps: 0.88 of a plain loop for 8 taps, 0.3 for 80, 0.18 for
+    512.
+
+    __Guide:__ [Adaptive filters](docs/adaptive-filters.md).
+
     A filter whose taps h follow what it is to give: with the newest sample x[n] and the reference d[n] that its output
     y[n] should be,
 
@@ -124,6 +148,22 @@ TARN_API TarnStatus tarnsFIRLMS32f_16s(const Tarn16s* pSrc, const Tarn16s* pRef,
 /** @} */
 
 /** @defgroup lmsdirect Adaptive filtering without a state
+    Filters that learn, a sample a call, for a caller who has the taps and the delay line himself.
+
+    @code{.c}
+    Tarn32f taps[2] = {0}, line[4] = {0}, y;
+    int index = 0, n;
+    for (n = 0; n < 200; ++n) // x = 1, -1, 1, ... and the reference is twice that
+        tarnsFIRLMSOne_Direct_32f(n % 2 ? -1.0F : 1.0F, n % 2 ? -2.0F : 2.0F, &y, taps, 2, 0.1F, line, &index);
+    printf("%.3f\n", y); // -2.000
+    @endcode
+
+    __Accuracy:__ single precision, or Q15 with steps that the energy in the window normalises.
+
+    __Cost:__ 0.64 to 0.93 of a loop over a block; in Q15 0.1 of one.
+
+    __Guide:__ [Adaptive filters](docs/adaptive-filters.md).
+
     The same filter, a sample a call, for a caller who has the taps and the delay line himself. Taps stand in the order
     of the delay window: the first one meets the oldest sample. The delay line is a doubled ring of 2 tapsLen elements:
     a sample goes to places `*pDlyLineIndex` and tapsLen further, then the index goes on, from tapsLen - 1 to 0, and the
@@ -182,6 +222,30 @@ TARN_API TarnStatus tarnsFIRLMSOne_DirectQ15_16s(Tarn16s src, Tarn16s refVal, Ta
 /** @} */
 
 /** @defgroup lmsrates Adaptive filtering in fixed point
+    Filters of integer samples that learn, with every step a call of its own: for errors that are known late, or not for
+    every sample, as in modems.
+
+    @code{.c}
+    const Tarn32s none[1] = {0};
+    Tarn32s y = 0;
+    int n;
+    TarnsFIRLMSMRState32s_16s* state;
+    if (tarnsFIRLMSMRInitAlloc32s_16s(&state, none, 1, NULL, 0, 1, 0, 200000) == tarnStsNoErr) {
+        for (n = 0; n < 100; ++n) {
+            tarnsFIRLMSMROneVal32s_16s(10000, &y, state);
+            tarnsFIRLMSMRUpdateTaps32s_16s(5000 - (y >> 15), state); // half of the sample is wanted
+        }
+        printf("%d\n", y >> 15); // 5000
+        tarnsFIRLMSMRFree32s_16s(state);
+    }
+    @endcode
+
+    __Accuracy:__ integers modulo 2^32; an error times the step size below 2^14 changes nothing.
+
+    __Cost:__ 0.8 to 1.06 of a loop over a whole block.
+
+    __Guide:__ [Adaptive filters](docs/adaptive-filters.md).
+
     A filter of integer samples whose steps are calls of their own, so that they may go at different rates: a sample is
     put in (`PutVal`), an output is computed (`One`), the taps are changed by an error that the caller has found
     (`UpdateTaps`). An echo canceller in a modem puts in every sample and computes an output for each symbol, say.

@@ -9,6 +9,23 @@ extern "C" {
 #endif
 
 /** @defgroup magnitude Magnitudes and power spectra
+    How large complex elements are: magnitudes, and power spectra, which are their squares.
+
+    @code{.c}
+    const Tarn32fc bins[2] = {{3, 4}, {0, -2}};
+    Tarn32f size[2], power[2];
+    tarnsMagnitude_32fc(bins, size, 2);
+    tarnsPowerSpectr_32fc(bins, power, 2);
+    printf("%.5f %.5f %g %g\n", size[0], size[1], power[0], power[1]); // 5.00000 2.00000 25 4
+    @endcode
+
+    __Accuracy:__ `tarnsMagnitude_32fc` is within 4 units of the last place, other floats are the nearest root of the
+    rounded sum. Squares overflow beyond some 1e19 in single precision.
+
+    __Cost:__ 0.3 to 0.6 of a plain loop for `32fc`, 0.5 for `64fc`; power spectra a plain loop's time.
+
+    __Guide:__ [Quotients, roots, magnitudes and phases](docs/division-and-roots.md).
+
     Most functions exist in two shapes: of one complex array, and of the same numbers as two real arrays.
 
     Scaled forms (`Sfs`) multiply by 2^-scaleFactor, round to the nearest integer, ties to the even one, and saturate.
@@ -16,7 +33,7 @@ extern "C" {
     precision: they overflow where the square of a part does, and vanish where it does.
     @{ */
 
-/** Magnitudes: pDst[i] = sqrt(re^2 + im^2) * 2^-scaleFactor.
+/** Computes magnitudes: pDst[i] = sqrt(re^2 + im^2) * 2^-scaleFactor.
 
     `16s_Sfs` and `16sc_Sfs` take the root of the exact sum of squares in single precision, `32sc_Sfs` of a sum in
     double precision. At a factor of 16 words give 1 where the sum exceeds 2^30.
@@ -45,8 +62,8 @@ TARN_API TarnStatus tarnsMagnitude_64f(const Tarn64f* pSrcRe, const Tarn64f* pSr
 TARN_API TarnStatus tarnsMagnitude_64fc(const Tarn64fc* pSrc, Tarn64f* pDst, int len);
 ///@}
 
-/** Power spectra: pDst[i] = (re^2 + im^2) * 2^-scaleFactor. The sum is exact before it is scaled; `16s32f` and
-   `16sc32f` round it once to a float. Float forms round each square and the sum, in the current rounding mode.
+/** Computes power spectra: pDst[i] = (re^2 + im^2) * 2^-scaleFactor. The sum is exact before it is scaled; `16s32f` and
+    `16sc32f` round it once to a float. Float forms round each square and the sum, in the current rounding mode.
 
     @param pSrcRe      real parts, `len` elements
     @param pSrcIm      imaginary parts, `len` elements
@@ -67,8 +84,8 @@ TARN_API TarnStatus tarnsPowerSpectr_64f(const Tarn64f* pSrcRe, const Tarn64f* p
 TARN_API TarnStatus tarnsPowerSpectr_64fc(const Tarn64fc* pSrc, Tarn64f* pDst, int len);
 ///@}
 
-/** Squared magnitudes of 32-bit elements by way of floats: pDst[i] = (re^2 + im^2) * 2^-scaleFactor, converted in the
-    current rounding mode.
+/** Computes squared magnitudes of 32-bit elements by way of floats: pDst[i] = (re^2 + im^2) * 2^-scaleFactor, converted
+    in the current rounding mode.
 
     Four elements at a time have their parts converted to single precision, squared and added there. What is left over
     of the last group of four, and arrays of fewer than four, form the sum exactly and round it to single precision

@@ -9,6 +9,21 @@ extern "C" {
 #endif
 
 /** @defgroup median Median filters
+    Takes clicks and dropouts out and leaves edges where they are.
+
+    @code{.c}
+    const Tarn32f x[8] = {1, 1, 9, 1, 1, 5, 5, 5};
+    Tarn32f y[8];
+    tarnsFilterMedian_32f(x, y, 8, 3);
+    printf("%g %g %g %g %g %g\n", y[1], y[2], y[3], y[4], y[5], y[6]); // 1 1 1 1 5 5
+    @endcode
+
+    __Accuracy:__ exact: results are elements of the array.
+
+    __Cost:__ masks of 3 to 9 take 0.003 to 0.05 of a loop of `std::nth_element`, larger ones 0.02 to 0.1.
+
+    __Guide:__ [Median filters](docs/median-filters.md).
+
     The running median of an array: with m the size of the mask, and h = (m - 1) / 2,
 
         y[n] = the median of x[n - h], ..., x[n + h]     for 1 <= n <= len - 2,
@@ -27,7 +42,7 @@ extern "C" {
     count the NaN as +infinity. No other result is touched by it.
     @{ */
 
-/** Median filter.
+/** Filters by the running median.
 
     `32s` elements have one particularity. A mask of 11 or more elements may be even there: it is used as it is, the
     window is x[n - maskSize/2], ..., x[n + maskSize/2 - 1], the upper one of the two elements in its middle is the

@@ -9,19 +9,34 @@ extern "C" {
 #endif
 
 /** @defgroup multiply Multiplication
-    Products of two vectors, of a vector and a constant, and products added to a third vector.
+    Multiplies two vectors, a vector by a constant, or adds the product of two vectors to a third one: gains, windows of
+    one's own, spectra, weighted sums.
+
+    @code{.c}
+    const Tarn16s sound[3] = {20000, -20000, 7};
+    Tarn16s quieter[3];
+    tarnsMulC_16s_Sfs(sound, 181, quieter, 3, 8); // times 181 / 256, some -3 dB
+    printf("%d %d %d\n", quieter[0], quieter[1], quieter[2]); // 14141 -14141 5
+    @endcode
+
+    __Accuracy:__ integers are exact until their one rounding, but for `32s` vectors, see below; floats are one IEEE
+    product each, complex ones four products and two sums.
+
+    __Cost:__ a plain loop's time for floats, and 0.05 to 0.4 of it for scaled integers.
+
+    __Guide:__ [The scale rule](docs/scale-rule.md), and [working on vectors](docs/vectors.md).
 
     Scaled forms (`Sfs`) answer with the exact product times 2^-scaleFactor, rounded to the nearest integer, ties to the
-   even one, saturated at the bounds of the destination's type. A positive factor shrinks, a negative one grows; no
-   value is illegal. Integer forms without a scale saturate. Saturation is silent.
+    even one, saturated at the bounds of the destination's type. A positive factor shrinks, a negative one grows; no
+    value is illegal. Integer forms without a scale saturate. Saturation is silent.
 
     Products of two 32-bit vectors (`32s`) go by way of doubles: the product of the first operand, the factor
     2^-scaleFactor and the second one, each rounded to 53 bits, is what is rounded to an integer. Above 2^53 that can
-   differ from the exact product by which a constant multiplies (`tarnsMulC_32s_Sfs`) and complex elements are formed.
+    differ from the exact product by which a constant multiplies (`tarnsMulC_32s_Sfs`) and complex elements are formed.
 
     The product of complex elements a and b is (a.re b.re - a.im b.im, a.re b.im + a.im b.re). In integers both parts
-   are exact before they are scaled; in floating point each of the six operations rounds, in the current rounding mode.
-   NaN, infinities and the sign of zero are as the processor gives them, but for the constants that are told below.
+    are exact before they are scaled; in floating point each of the six operations rounds, in the current rounding mode.
+    NaN, infinities and the sign of zero are as the processor gives them, but for the constants that are told below.
     @{ */
 
 /** Multiplies two vectors: pDst[i] = pSrc1[i] * pSrc2[i] * 2^-scaleFactor. The destination has the type of the second
@@ -30,7 +45,7 @@ extern "C" {
     @param pSrc1       first factor, `len` elements
     @param pSrc2       second factor, `len` elements
     @param pDst        destination, `len` elements; may be a source of its type itself, and must not overlap one
-   otherwise
+    otherwise
     @param len         number of elements, at least 1
     @param scaleFactor the result is scaled by 2^-scaleFactor, any integer
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1 */
@@ -69,7 +84,7 @@ TARN_API TarnStatus tarnsMul_32sc_ISfs(const Tarn32sc* pSrc, Tarn32sc* pSrcDst, 
 ///@}
 
 /** Multiplies two vectors without a scale: pDst[i] = pSrc1[i] * pSrc2[i]. `16s` saturates; `8u16u` is exact; `16s32f`
-   rounds the exact product to a float in the current rounding mode.
+    rounds the exact product to a float in the current rounding mode.
 
     @param pSrc1 first factor, `len` elements
     @param pSrc2 second factor, `len` elements
@@ -117,7 +132,7 @@ TARN_API TarnStatus tarnsMulC_32sc_Sfs(const Tarn32sc* pSrc, Tarn32sc val, Tarn3
 ///@}
 
 /** Multiplies a vector by a constant in place: pSrcDst[i] = pSrcDst[i] * val * 2^-scaleFactor, the product being exact
-   for every type.
+    for every type.
 
     @param val         constant
     @param pSrcDst     vector and destination, `len` elements
@@ -133,8 +148,8 @@ TARN_API TarnStatus tarnsMulC_32sc_ISfs(Tarn32sc val, Tarn32sc* pSrcDst, int len
 ///@}
 
 /** Multiplies a vector of floats by a constant: pDst[i] = pSrc[i] * val. In the real forms a `val` of 1 or NaN copies
-   the vector, so that the NaN does not spread, and a `val` of 0 of either sign gives +0 everywhere, for infinities and
-   NaN too. The complex forms always multiply.
+    the vector, so that the NaN does not spread, and a `val` of 0 of either sign gives +0 everywhere, for infinities and
+    NaN too. The complex forms always multiply.
 
     @param pSrc vector, `len` elements
     @param val  constant
@@ -149,8 +164,8 @@ TARN_API TarnStatus tarnsMulC_64fc(const Tarn64fc* pSrc, Tarn64fc val, Tarn64fc*
 ///@}
 
 /** Multiplies a vector by a constant in place: pSrcDst[i] = pSrcDst[i] * val. `16s` saturates. In the real float forms
-   a `val` of 1 or NaN leaves the vector as it is, and a `val` of 0 of either sign gives +0 everywhere; the complex
-   forms always multiply.
+    a `val` of 1 or NaN leaves the vector as it is, and a `val` of 0 of either sign gives +0 everywhere; the complex
+    forms always multiply.
 
     @param val     constant
     @param pSrcDst vector and destination, `len` elements
@@ -165,9 +180,9 @@ TARN_API TarnStatus tarnsMulC_64fc_I(Tarn64fc val, Tarn64fc* pSrcDst, int len);
 ///@}
 
 /** Multiplies a vector of floats by a constant and rounds to integers: pDst[i] = pSrc[i] * (val * 2^-scaleFactor),
-   where the constant is scaled first. Both products round to single precision, the one of the constant in the current
-   rounding mode. The result is rounded to the nearest integer, ties to the even one, whatever the current rounding
-   mode, and saturates; NaN gives -32768.
+    where the constant is scaled first. Both products round to single precision, the one of the constant in the current
+    rounding mode. The result is rounded to the nearest integer, ties to the even one, whatever the current rounding
+    mode, and saturates; NaN gives -32768.
 
     @param pSrc        vector, `len` elements
     @param val         constant
@@ -179,7 +194,7 @@ TARN_API TarnStatus tarnsMulC_32f16s_Sfs(const Tarn32f* pSrc, Tarn32f val, Tarn1
 
 /** Multiplies a vector of floats by a constant and rounds to integers for products that are known to be low:
     pDst[i] = pSrc[i] * val, rounded in the current rounding mode. It saturates for products that fit 32 bits; beyond
-   them, and for NaN, the result is -32768 whatever the sign.
+    them, and for NaN, the result is -32768 whatever the sign.
 
     @param pSrc vector, `len` elements
     @param val  constant
@@ -191,7 +206,7 @@ TARN_API TarnStatus tarnsMulC_Low_32f16s(const Tarn32f* pSrc, Tarn32f val, Tarn1
 /** Adds the product of two vectors to a third one: pSrcDst[i] = (pSrc1[i] * pSrc2[i] + pSrcDst[i]) * 2^-scaleFactor.
    The sum is exact in `16s` and `16s32s`; in `32s` the product, the sum and the scaled sum are doubles, each rounded to
     53 bits. A factor above 30 (`16s`, `16s32s`) or 62 (`32s`), from which on the product alone cannot count, gives
-   zeros whatever the old values.
+    zeros whatever the old values.
 
     @param pSrc1       first factor, `len` elements
     @param pSrc2       second factor, `len` elements
@@ -210,7 +225,7 @@ TARN_API TarnStatus tarnsAddProduct_32s_Sfs(const Tarn32s* pSrc1, const Tarn32s*
 ///@}
 
 /** Adds the product of two vectors of floats to a third one: pSrcDst[i] = pSrc1[i] * pSrc2[i] + pSrcDst[i]. The product
-   is rounded before it is added.
+    is rounded before it is added.
 
     @param pSrc1   first factor, `len` elements
     @param pSrc2   second factor, `len` elements

@@ -9,11 +9,27 @@ extern "C" {
 #endif
 
 /** @defgroup sampling Normalization, joining, sampling
+    Takes an offset and a scale away, joins channels into frames, leaves samples out and puts zeros between them.
+
+    @code{.c}
+    const Tarn32f x[6] = {0, 1, 2, 3, 4, 5};
+    Tarn32f every[2];
+    int phase = 1, count;
+    tarnsSampleDown_32f(x, 6, every, &count, 3, &phase); // every third, from the second on
+    printf("%d: %g %g\n", count, every[0], every[1]); // 2: 1 4
+    @endcode
+
+    __Accuracy:__ samples are moved, not filtered: what lies above half of the new rate folds back. To change a rate
+    properly take @ref firmr. `tarnsNormalize` multiplies by the rounded reciprocal.
+
+    __Cost:__ 0.13 to 0.5 of a plain loop; normalization 0.9 in floats, 0.2 in integers.
+
+    __Guide:__ [Working on vectors](docs/vectors.md).
     @{ */
 
 /** Takes an offset away and divides: pDst[i] = (pSrc[i] - vSub) / vDiv. Complex elements have a complex offset and a
-   real divisor. The division is one multiplication by 1 / vDiv, so that results may differ from those of a division in
-   the last place; each operation is rounded in the current rounding mode, and NaN and infinities follow it.
+    real divisor. The division is one multiplication by 1 / vDiv, so that results may differ from those of a division in
+    the last place; each operation is rounded in the current rounding mode, and NaN and infinities follow it.
 
     @param pSrc source, `len` elements
     @param pDst destination, `len` elements; may be `pSrc` itself, and must not overlap it otherwise
@@ -21,7 +37,7 @@ extern "C" {
     @param vSub offset
     @param vDiv divisor, of a magnitude of at least 1.1754943508222875e-38, the smallest normal single
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1; tarnStsDivByZeroErr
-   for a smaller divisor or NaN */
+    for a smaller divisor or NaN */
 ///@{
 TARN_API TarnStatus tarnsNormalize_32f(const Tarn32f* pSrc, Tarn32f* pDst, int len, Tarn32f vSub, Tarn32f vDiv);
 TARN_API TarnStatus tarnsNormalize_64f(const Tarn64f* pSrc, Tarn64f* pDst, int len, Tarn64f vSub, Tarn64f vDiv);
@@ -29,9 +45,9 @@ TARN_API TarnStatus tarnsNormalize_32fc(const Tarn32fc* pSrc, Tarn32fc* pDst, in
 TARN_API TarnStatus tarnsNormalize_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len, Tarn64fc vSub, Tarn64f vDiv);
 ///@}
 
-/** The same on integers: pDst[i] = (pSrc[i] - vSub) / vDiv * 2^-scaleFactor, for each part if complex. The difference
-   is exact and is multiplied by the double 2^-scaleFactor / vDiv; the product is rounded to nearest, ties to even,
-   whatever the current rounding mode is, and saturated at the bounds of `16s`.
+/** Takes an offset away from integers and divides: pDst[i] = (pSrc[i] - vSub) / vDiv * 2^-scaleFactor, for each part if
+    complex. The difference is exact and is multiplied by the double 2^-scaleFactor / vDiv; the product is rounded to
+    nearest, ties to even, whatever the current rounding mode is, and saturated at the bounds of `16s`.
 
     @param pSrc        source, `len` elements
     @param pDst        destination, `len` elements; may be `pSrc` itself, and must not overlap it otherwise
@@ -40,7 +56,7 @@ TARN_API TarnStatus tarnsNormalize_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, in
     @param vDiv        divisor, not 0
     @param scaleFactor the result is scaled by 2^-scaleFactor, any integer
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1; tarnStsDivByZeroErr
-   for a `vDiv` of 0 */
+    for a `vDiv` of 0 */
 ///@{
 TARN_API TarnStatus tarnsNormalize_16s_Sfs(const Tarn16s* pSrc, Tarn16s* pDst, int len, Tarn16s vSub, int vDiv,
                                            int scaleFactor);
@@ -60,7 +76,7 @@ TARN_API TarnStatus tarnsNormalize_16sc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pDst
 TARN_API TarnStatus tarnsJoin_32f16s_D2L(const Tarn32f** pSrc, int nChannels, int chanLen, Tarn16s* pDst);
 
 /** Leaves samples out: pDst[i] = pSrc[phase + i * factor], for every such index below `srcLen`. Elements keep their
-   bits.
+    bits.
 
     @param pSrc    source, `srcLen` elements
     @param srcLen  number of elements of the source, at least 1
@@ -69,7 +85,7 @@ TARN_API TarnStatus tarnsJoin_32f16s_D2L(const Tarn32f** pSrc, int nChannels, in
     @param pDstLen gets the number of elements taken, which is 0 for a phase of `srcLen` or more
     @param factor  distance of the elements taken, at least 1
     @param pPhase  index of the first element taken, from 0 to `factor` - 1. It becomes the phase at which the next
-   block of the same signal goes on.
+    block of the same signal goes on.
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `srcLen` below 1;
             tarnStsSampleFactorErr for `factor` below 1; tarnStsSamplePhaseErr for a phase out of range */
 ///@{

@@ -9,6 +9,29 @@ extern "C" {
 #endif
 
 /** @defgroup spectra Packed spectra
+    Products and conjugates of the packed spectra that transforms of real signals give: filtering, correlation, and all
+    bins of a spectrum one by one.
+
+    @code{.c}
+    Tarn32f x[8] = {1, 2, 3}, h[8] = {1, -1}, X[8], H[8];
+    TarnsFFTSpec_R_32f* spec;
+    if (tarnsFFTInitAlloc_R_32f(&spec, 3, TARN_FFT_DIV_INV_BY_N, tarnAlgHintNone) == tarnStsNoErr) {
+        tarnsFFTFwd_RToPerm_32f(x, X, spec, NULL);
+        tarnsFFTFwd_RToPerm_32f(h, H, spec, NULL);
+        tarnsMulPerm_32f_I(H, X, 8);
+        tarnsFFTInv_PermToR_32f(X, x, spec, NULL); // x convolved with h
+        printf("%.2f %.2f %.2f %.2f\n", x[0], x[1], x[2], x[3]); // 1.00 1.00 1.00 -3.00
+        tarnsFFTFree_R_32f(spec);
+    }
+    @endcode
+
+    __Accuracy:__ conjugates are exact; products are those of complex floats. 16-bit products scale in a way of their
+    own, by shifts without rounding.
+
+    __Cost:__ products 0.85 to 1.0 of a plain loop, 0.25 for 16 bits; conjugates 0.2 to 0.4, those of `64fc` 0.9.
+
+    __Guide:__ [Packed spectra](docs/packed-formats.md).
+
     The spectrum of a real signal of N samples has about N/2 independent bins, since X[N - k] is the conjugate of X[k].
     They are kept in one of three layouts. With R and I for the parts of a bin:
 
@@ -98,7 +121,7 @@ TARN_API TarnStatus tarnsMulPackConj_64f_I(const Tarn64f* pSrc, Tarn64f* pSrcDst
 /** Expands a spectrum in Perm layout to all its bins: pDst[k] = X[k] and pDst[len - k] = the conjugate of X[k]. The
     imaginary parts of pDst[0] and, for even `len`, of pDst[len/2] are 0. Values are moved, not computed: NaNs keep
    their payload, and in the conjugates the sign of the imaginary part is flipped, that of a zero or NaN included. In 16
-   bits the negative of -32768 is 32767.
+    bits the negative of -32768 is 32767.
 
     @param pSrc    packed spectrum, `len` reals; may begin where `pDst` begins, must not overlap it otherwise
     @param pDst    all bins, `len` complex elements

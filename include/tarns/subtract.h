@@ -9,14 +9,27 @@ extern "C" {
 #endif
 
 /** @defgroup subtract Subtraction
-    Differences of two vectors, and of a vector and a constant. Mind the order: of two vectors the first is taken from
-   the second.
+    Subtracts vectors, a constant from a vector, or a vector from a constant. Mind the order: of two vectors the first
+    is taken from the second.
+
+    @code{.c}
+    const Tarn32f estimate[3] = {1, 2, 3}, recorded[3] = {1.5F, 1.5F, 3};
+    Tarn32f cleaned[3];
+    tarnsSub_32f(estimate, recorded, cleaned, 3); // recorded - estimate
+    printf("%g %g %g\n", cleaned[0], cleaned[1], cleaned[2]); // 0.5 -0.5 0
+    @endcode
+
+    __Accuracy:__ integers are exact until their one rounding; floats are one IEEE subtraction each.
+
+    __Cost:__ that of an addition: a plain loop's time for floats, a tenth to a fifth of it for scaled integers.
+
+    __Guide:__ [The scale rule](docs/scale-rule.md), and [working on vectors](docs/vectors.md).
 
     Scaled forms (`Sfs`) answer with the exact difference times 2^-scaleFactor, rounded to the nearest integer, ties to
-   the even one, saturated at the bounds of the element type; so a negative difference of bytes is 0. A positive factor
+    the even one, saturated at the bounds of the element type; so a negative difference of bytes is 0. A positive factor
     shrinks, a negative one grows; no value is illegal. Integer forms without a scale saturate. Saturation is silent.
-   Float forms are one IEEE subtraction an element in the current rounding mode: NaN, infinities and the sign of zero
-   are as the processor gives them.
+    Float forms are one IEEE subtraction an element in the current rounding mode: NaN, infinities and the sign of zero
+    are as the processor gives them.
     @{ */
 
 /** Subtracts the first vector from the second: pDst[i] = (pSrc2[i] - pSrc1[i]) * 2^-scaleFactor.
@@ -44,7 +57,7 @@ TARN_API TarnStatus tarnsSub_32sc_Sfs(const Tarn32sc* pSrc1, const Tarn32sc* pSr
 
     @param pSrc        what is subtracted, `len` elements
     @param pSrcDst     what it is subtracted from, and destination, `len` elements; must not overlap `pSrc` unless it is
-   the same array
+    the same array
     @param len         number of elements, at least 1
     @param scaleFactor the result is scaled by 2^-scaleFactor, any integer
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1 (for the complex
@@ -58,7 +71,7 @@ TARN_API TarnStatus tarnsSub_32sc_ISfs(const Tarn32sc* pSrc, Tarn32sc* pSrcDst, 
 ///@}
 
 /** Subtracts the first vector from the second without a scale: pDst[i] = pSrc2[i] - pSrc1[i]. `16s` saturates; `16s32f`
-   is exact.
+    is exact.
 
     @param pSrc1 what is subtracted, `len` elements
     @param pSrc2 what it is subtracted from, `len` elements
@@ -80,7 +93,7 @@ TARN_API TarnStatus tarnsSub_64fc(const Tarn64fc* pSrc1, const Tarn64fc* pSrc2, 
 
     @param pSrc    what is subtracted, `len` elements
     @param pSrcDst what it is subtracted from, and destination, `len` elements; must not overlap `pSrc` unless it is the
-   same array
+    same array
     @param len     number of elements, at least 1
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1 (for the complex
             forms the length is tested before the pointers, and also when twice `len` leaves 32 bits) */
@@ -109,7 +122,7 @@ TARN_API TarnStatus tarnsSubC_32sc_Sfs(const Tarn32sc* pSrc, Tarn32sc val, Tarn3
 ///@}
 
 /** Subtracts a constant from a vector in place: pSrcDst[i] = (pSrcDst[i] - val) * 2^-scaleFactor, for complex forms
-   part by part.
+    part by part.
 
     @param val         constant
     @param pSrcDst     vector and destination, `len` elements
@@ -126,7 +139,7 @@ TARN_API TarnStatus tarnsSubC_32sc_ISfs(Tarn32sc val, Tarn32sc* pSrcDst, int len
 
 /** Subtracts a constant from a vector of floats: pDst[i] = pSrc[i] - val. In the real forms a `val` of 0 of either
     sign, or NaN, copies the vector: the NaN does not spread, and a zero keeps its sign. The complex forms always
-   subtract.
+    subtract.
 
     @param pSrc vector, `len` elements
     @param val  constant
@@ -141,7 +154,7 @@ TARN_API TarnStatus tarnsSubC_64fc(const Tarn64fc* pSrc, Tarn64fc val, Tarn64fc*
 ///@}
 
 /** Subtracts a constant from a vector in place: pSrcDst[i] = pSrcDst[i] - val. `16s` saturates. In the real float forms
-   a `val` of 0 of either sign, or NaN, leaves the vector as it is; the complex forms always subtract.
+    a `val` of 0 of either sign, or NaN, leaves the vector as it is; the complex forms always subtract.
 
     @param val     constant
     @param pSrcDst vector and destination, `len` elements
@@ -172,7 +185,7 @@ TARN_API TarnStatus tarnsSubCRev_32sc_Sfs(const Tarn32sc* pSrc, Tarn32sc val, Ta
 ///@}
 
 /** Subtracts a vector from a constant in place: pSrcDst[i] = (val - pSrcDst[i]) * 2^-scaleFactor, for complex forms
-   part by part.
+    part by part.
 
     @param val         constant
     @param pSrcDst     vector and destination, `len` elements

@@ -16,6 +16,21 @@ enum {
 };
 
 /** @defgroup threshold Thresholds
+    Limits elements, replaces those beyond a level, or inverts without dividing by what is too small: clipping, gates,
+    floors under logarithms.
+
+    @code{.c}
+    Tarn32f x[4] = {-2, 0.25F, 0.75F, 3};
+    tarnsThreshold_LTValGTVal_32f_I(x, 4, -1, -1, 1, 1); // to -1 .. 1
+    printf("%g %g %g %g\n", x[0], x[1], x[2], x[3]); // -1 0.25 0.75 1
+    @endcode
+
+    __Accuracy:__ elements that pass keep their bits, and comparisons are exact.
+
+    __Cost:__ 0.5 to 1.07 of a plain loop; complex elements some 0.85.
+
+    __Guide:__ [Working on vectors](docs/vectors.md).
+
     Real elements are compared with a level by value, complex ones by magnitude. Magnitudes are compared by their
     squares, re^2 + im^2 against level^2: exactly for `16sc`, in double precision for `32fc` and `64fc`, where no square
     overflows or vanishes. Elements that pass keep their bits.
@@ -27,7 +42,7 @@ enum {
     @{ */
 
 /** Limits elements on the side that `relOp` tells, as tarnsThreshold_LT_32f() or tarnsThreshold_GT_32f() and their like
-   do.
+    do.
 
     @param pSrc  source, `len` elements
     @param pDst  destination, `len` elements; may be `pSrc` itself, and must not overlap it otherwise
@@ -46,7 +61,7 @@ TARN_API TarnStatus tarnsThreshold_64f(const Tarn64f* pSrc, Tarn64f* pDst, int l
 TARN_API TarnStatus tarnsThreshold_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len, Tarn64f level, int relOp);
 ///@}
 
-/** The same in place.
+/** Limits elements on the side that `relOp` tells, in place.
 
     @param pSrcDst array of `len` elements
     @param len   number of elements, at least 1
@@ -66,7 +81,7 @@ TARN_API TarnStatus tarnsThreshold_64fc_I(Tarn64fc* pSrcDst, int len, Tarn64f le
 
 /** Limits elements below the level. Real ones: pDst[i] = pSrc[i] > level ? pSrc[i] : level, so that a NaN becomes the
     level, as does a zero equal to it. Complex ones with a magnitude below the level are scaled to it; those with a NaN
-   part pass. For complex elements a level of 0 leaves everything as it is.
+    part pass. For complex elements a level of 0 leaves everything as it is.
 
     @param pSrc  source, `len` elements
     @param pDst  destination, `len` elements; may be `pSrc` itself, and must not overlap it otherwise
@@ -85,7 +100,7 @@ TARN_API TarnStatus tarnsThreshold_LT_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst,
 TARN_API TarnStatus tarnsThreshold_LT_32s(const Tarn32s* pSrc, Tarn32s* pDst, int len, Tarn32s level);
 ///@}
 
-/** The same in place.
+/** Limits elements below the level, in place.
 
     @param pSrcDst array of `len` elements
     @param len   number of elements, at least 1
@@ -105,7 +120,7 @@ TARN_API TarnStatus tarnsThreshold_LT_32s_I(Tarn32s* pSrcDst, int len, Tarn32s l
 
 /** Limits elements above the level. Real ones: pDst[i] = pSrc[i] < level ? pSrc[i] : level, so that a NaN becomes the
     level, as does a zero equal to it. Complex ones with a magnitude above the level are scaled to it; those with a NaN
-   part pass. For complex elements a level of 0 makes every element +0.
+    part pass. For complex elements a level of 0 makes every element +0.
 
     @param pSrc  source, `len` elements
     @param pDst  destination, `len` elements; may be `pSrc` itself, and must not overlap it otherwise
@@ -123,7 +138,7 @@ TARN_API TarnStatus tarnsThreshold_GT_64f(const Tarn64f* pSrc, Tarn64f* pDst, in
 TARN_API TarnStatus tarnsThreshold_GT_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len, Tarn64f level);
 ///@}
 
-/** The same in place.
+/** Limits elements above the level, in place.
 
     @param pSrcDst array of `len` elements
     @param len   number of elements, at least 1
@@ -163,7 +178,7 @@ TARN_API TarnStatus tarnsThreshold_LTVal_64fc(const Tarn64fc* pSrc, Tarn64fc* pD
                                               Tarn64fc value);
 ///@}
 
-/** The same in place.
+/** Replaces elements below the level, in place.
 
     @param pSrcDst array of `len` elements
     @param len   number of elements, at least 1
@@ -204,7 +219,7 @@ TARN_API TarnStatus tarnsThreshold_GTVal_64fc(const Tarn64fc* pSrc, Tarn64fc* pD
                                               Tarn64fc value);
 ///@}
 
-/** The same in place.
+/** Replaces elements above the level, in place.
 
     @param pSrcDst array of `len` elements
     @param len   number of elements, at least 1
@@ -233,7 +248,7 @@ TARN_API TarnStatus tarnsThreshold_GTVal_64fc_I(Tarn64fc* pSrcDst, int len, Tarn
     @param levelGT elements above it are replaced; at least `levelLT`
     @param valueGT what they are replaced by
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1; tarnStsThresholdErr
-   for a `levelLT` above `levelGT` */
+    for a `levelLT` above `levelGT` */
 ///@{
 TARN_API TarnStatus tarnsThreshold_LTValGTVal_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len, Tarn16s levelLT,
                                                   Tarn16s valueLT, Tarn16s levelGT, Tarn16s valueGT);
@@ -243,7 +258,7 @@ TARN_API TarnStatus tarnsThreshold_LTValGTVal_64f(const Tarn64f* pSrc, Tarn64f* 
                                                   Tarn64f valueLT, Tarn64f levelGT, Tarn64f valueGT);
 ///@}
 
-/** The same in place.
+/** Replaces elements outside a band, in place.
 
     @param pSrcDst array of `len` elements
     @param len     number of elements, at least 1
@@ -252,7 +267,7 @@ TARN_API TarnStatus tarnsThreshold_LTValGTVal_64f(const Tarn64f* pSrc, Tarn64f* 
     @param levelGT elements above it are replaced; at least `levelLT`
     @param valueGT what they are replaced by
     @return tarnStsNoErr; tarnStsNullPtrErr for a null pointer; tarnStsSizeErr for `len` below 1; tarnStsThresholdErr
-   for a `levelLT` above `levelGT` */
+    for a `levelLT` above `levelGT` */
 ///@{
 TARN_API TarnStatus tarnsThreshold_LTValGTVal_16s_I(Tarn16s* pSrcDst, int len, Tarn16s levelLT, Tarn16s valueLT,
                                                     Tarn16s levelGT, Tarn16s valueGT);
@@ -268,8 +283,8 @@ TARN_API TarnStatus tarnsThreshold_LTValGTVal_64f_I(Tarn64f* pSrcDst, int len, T
 
     The inverse of `32f` is the processor's approximate reciprocal after one Newton step, r (2 - x r): good to some 23
     bits, but not correctly rounded, and 0 where it would be denormal. Zeros, infinities and denormals are divided into
-   1 instead. `64f` is a division. Complex elements are inverted in double precision: the conjugate over the square of
-   the magnitude.
+    1 instead. `64f` is a division. Complex elements are inverted in double precision: the conjugate over the square of
+    the magnitude.
 
     With a level of 0 a zero gives infinity, of its own sign if it is real, in both parts if it is complex; the status
     tells. The floating-point control and status word is left as it was found, its exception flags included.
@@ -288,7 +303,7 @@ TARN_API TarnStatus tarnsThreshold_LTInv_64f(const Tarn64f* pSrc, Tarn64f* pDst,
 TARN_API TarnStatus tarnsThreshold_LTInv_64fc(const Tarn64fc* pSrc, Tarn64fc* pDst, int len, Tarn64f level);
 ///@}
 
-/** The same in place.
+/** Inverts elements, those below the level as if they had its magnitude, in place.
 
     @param pSrcDst array of `len` elements
     @param len   number of elements, at least 1

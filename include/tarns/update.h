@@ -9,6 +9,19 @@ extern "C" {
 #endif
 
 /** @defgroup update Running averages, pre-emphasis
+    Running averages of levels and powers, and the pre-emphasis of speech coders.
+
+    @code{.c}
+    Tarn32f x[4] = {1, 1, 1, -1};
+    tarnsPreemphasize_32f(x, 4, 0.5F); // x[n] - 0.5 x[n-1]
+    printf("%g %g %g %g\n", x[0], x[1], x[2], x[3]); // 1 0.5 0.5 -1.5
+    @endcode
+
+    __Accuracy:__ averages are computed in double precision, or in single where the hint asks for speed, and saturate.
+
+    __Cost:__ 0.13 to 0.5 of a plain loop; pre-emphasis 0.2 (16 bits) and 0.3 (floats).
+
+    __Guide:__ [Coding](docs/coding.md).
     @{ */
 
 /** Updates a first-order average with a block of samples. With y from `*pSrcDst`, for each sample in order
@@ -51,9 +64,9 @@ TARN_API TarnStatus tarnsUpdatePower_16s32s_I(const Tarn16s* pSrc, int len, Tarn
                                               Tarn16s alpha, TarnHintAlgorithm hint);
 ///@}
 
-/** Pre-emphasis, which raises the high frequencies of speech: y[n] = x[n] - val * x[n - 1], in place, x[-1] being 0.
-    No history is kept: a signal that comes in blocks needs its last sample taken along by the caller, and two calls on
-    two halves differ from one call in the first sample of the second half.
+/** Pre-emphasizes a signal, which raises the high frequencies of speech: y[n] = x[n] - val * x[n - 1], in place, x[-1]
+    being 0. No history is kept: a signal that comes in blocks needs its last sample taken along by the caller, and two
+    calls on two halves differ from one call in the first sample of the second half.
 
     Product and difference are in single precision and in the current rounding mode. Samples of `16s` are converted to
     `Tarn32f` and back by the processor's conversion in the same mode, normally to nearest with ties to even, and

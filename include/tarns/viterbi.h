@@ -9,8 +9,25 @@ extern "C" {
 #endif
 
 /** @defgroup viterbi Viterbi decoding
-    The inner steps of a decoder for trellis codes of 16, 32 or 64 states whose symbols are two consecutive points of a
-    square constellation. For one trellis step call
+    Decodes the trellis codes of fast modems: the inner steps of a decoder for codes of 16, 32 or 64 states whose
+    symbols are two consecutive points of a square constellation.
+
+    @code{.c}
+    Tarn16u metrics[16] = {5, 3, 9}, least; // new metrics of the states
+    Tarn16u from[16];
+    Tarn8u best;
+    tarnsSet_16s(100, (Tarn16s*)metrics + 3, 13);
+    tarnsUpdatePathMetricsDV_16u(metrics, &least, &best, from, 16);
+    printf("%d at state %d, then %d %d %d\n", least, best, from[0], from[1], from[2]); // 3 at state 1, then 2 0 6
+    @endcode
+
+    __Accuracy:__ integers; metrics have 16 bits, and stay within them if the smallest is taken away in each step.
+
+    __Cost:__ 270, 450 and 1480 ns a symbol for 16, 32 and 64 states: 0.63, 0.36 and 0.26 of plain loops.
+
+    __Guide:__ [Coding](docs/coding.md), section Viterbi decoding, which puts a decoder together.
+
+    For one trellis step call
 
     1. tarnsGetVarPointDV_16sc() for each of the two received points: the nearest point of every 2-D subset,
     2. tarnsBuildSymblTableDV4D_16sc(): the errors of the 4-D subsets, which the branches of the trellis carry,
@@ -35,7 +52,7 @@ extern "C" {
     kept from call to call.
     @{ */
 
-/** The nearest point of every 2-D subset to a received point, and its squared error.
+/** Finds the nearest point of every 2-D subset to a received point, and its squared error.
 
     With dx = (re & 255) ^ 128 and dy = (im & 255) ^ 128 the base point is (re - dx, im - dy), the point of the grid
     below and left of the received one; near the lower bound of 16 bits it wraps. It stands in column
@@ -71,9 +88,9 @@ extern "C" {
 TARN_API TarnStatus tarnsGetVarPointDV_16sc(const Tarn16sc* pSrc, Tarn16sc* pBasePoint, Tarn32u* pSubsetError,
                                             const Tarn8u* pSubsetMap, int numStates);
 
-/** The errors of the 4-D subsets. Each joins two pairs of 2-D subsets (for 32 states four), a pair's error is the sum
-    of the two errors, and the smaller wins; on a tie the pair that stands first. Sums wrap at 16 bits and are compared
-    as signed.
+/** Computes the errors of the 4-D subsets. Each joins two pairs of 2-D subsets (for 32 states four), a pair's error is
+    the sum of the two errors, and the smaller wins; on a tie the pair that stands first. Sums wrap at 16 bits and are
+    compared as signed.
 
     For entry i of the table and k = i ^ bitInversion, a = k >> 2, b = (k + a) & 3 they are
 
@@ -97,11 +114,11 @@ TARN_API TarnStatus tarnsGetVarPointDV_16sc(const Tarn16sc* pSrc, Tarn16sc* pBas
 TARN_API TarnStatus tarnsBuildSymblTableDV4D_16sc(const Tarn32u* pSubsetError, Tarn32u* pBranchTable, int numStates,
                                                   int bitInversion);
 
-/** One step of the trellis: add, compare, select. State s has branches to pNextState[s branches + j], which carry entry
-    (s & 1) + 2 j of the branch table: even states the even entries, odd states the odd ones. For all states, and all
-    branches of a state, in ascending order: where pPathMetric[s] plus the branch's error (taken as signed) is below
-    pNewMetric of the next state t, it is stored there, modulo 2^16, and pSurvivor[offset + t] gets s and the branch's
-    code. So of equal metrics the one of the lowest state stays, and of its lowest branch.
+/** Takes one step through the trellis: add, compare, select. State s has branches to pNextState[s branches + j], which
+    carry entry (s & 1) + 2 j of the branch table: even states the even entries, odd states the odd ones. For all
+    states, and all branches of a state, in ascending order: where pPathMetric[s] plus the branch's error (taken as
+    signed) is below pNewMetric of the next state t, it is stored there, modulo 2^16, and pSurvivor[offset + t] gets s
+    and the branch's code. So of equal metrics the one of the lowest state stays, and of its lowest branch.
 
     A state that no branch improves keeps its new metric and its survivor.
 

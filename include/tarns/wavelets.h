@@ -9,6 +9,26 @@ extern "C" {
 #endif
 
 /** @defgroup wavelets Wavelet filter banks
+    Splits a stream into bands of half the rate by filters of any wavelet, and joins them: denoising, coding, analysis
+    by scale.
+
+    @code{.c}
+    const Tarn32f low[2] = {0.5F, 0.5F}, high[2] = {0.5F, -0.5F}, x[4] = {1, 3, 6, 2};
+    Tarn32f means[2], differences[2];
+    TarnsWTFwdState_32f* state;
+    if (tarnsWTFwdInitAlloc_32f(&state, low, 2, -1, high, 2, -1) == tarnStsNoErr) {
+        tarnsWTFwd_32f(x, means, differences, 2, state);
+        printf("%g %g, %g %g\n", means[0], means[1], differences[0], differences[1]); // 2 4, 1 -2
+        tarnsWTFwdFree_32f(state);
+    }
+    @endcode
+
+    __Accuracy:__ sums of single precision; blocks of the filter's length begin with sums in double.
+
+    __Cost:__ 8 taps 0.67 ns an output forward and 0.78 ns back: 0.2 to 0.4 of a loop for any number of taps.
+
+    __Guide:__ [Wavelet filter banks](docs/wavelets.md).
+
     One level of a wavelet transform of a stream. A forward bank splits a signal into a low and a high channel of half
     its rate:
 

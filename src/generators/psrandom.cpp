@@ -1,5 +1,5 @@
 // Front ends of the random generators, and their objects.
-#include "tarns/generators.h"
+#include "tarns/random.h"
 
 #include "frame/checks.h"
 #include "frame/object.h"

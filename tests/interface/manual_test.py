@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Looks at the built manual as a reader would: no dead link, pictures that are there, functions found by their ideas.
+"""Looks at the built manual as a reader would: no dead link, pictures that are there, topics that begin
+with their purpose, functions found by their ideas.
 
     manual_test.py HTML_DIRECTORY [CHROMIUM]
 
@@ -56,6 +57,10 @@ def problems(directory):
             if picture.endswith((".png", ".svg")) and not (begin.startswith(b"\x89PNG") or b"<svg" in begin or
                                                           b"<?xml" in begin):
                 yield f"{name}: {picture} is no picture"
+    for topic in sorted(directory.glob("group__*.html")):
+        text = topic.read_text()
+        if not 0 <= text.find("Purpose</h2>") < text.find('class="memberdecls"'):
+            yield f"{topic.name} does not begin with its purpose"
     pictures = sum(len([p for p in page.pictures if not p.startswith(("doxygen", "search/"))]) for page in pages.values())
     if pictures < 20:
         yield f"only {pictures} pictures in the whole manual"

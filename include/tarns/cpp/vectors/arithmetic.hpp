@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Adds two vectors:
+// Adds two vectors.
 inline Warning add(std::span<const std::uint8_t> src1, std::span<const std::uint8_t> src2, std::span<std::uint8_t> dst,
                    int scaleFactor)
 {
@@ -33,7 +33,7 @@ inline Warning add(std::span<const Tarn32sc> src1, std::span<const Tarn32sc> src
     return detail::call(tarnsAdd_32sc_Sfs, src1, src2, dst, detail::length, scaleFactor);
 }
 
-// Adds a vector to another in place:
+// Adds a vector to another in place.
 inline Warning add(std::span<const std::uint8_t> src, std::span<std::uint8_t> srcDst, int scaleFactor)
 {
     return detail::call(tarnsAdd_8u_ISfs, src, srcDst, detail::length, scaleFactor);
@@ -55,7 +55,7 @@ inline Warning add(std::span<const Tarn32sc> src, std::span<Tarn32sc> srcDst, in
     return detail::call(tarnsAdd_32sc_ISfs, src, srcDst, detail::length, scaleFactor);
 }
 
-// Adds two vectors without a scale:
+// Adds two vectors without a scale.
 inline Warning add(std::span<const std::uint8_t> src1, std::span<const std::uint8_t> src2, std::span<std::uint16_t> dst)
 {
     return detail::call(tarnsAdd_8u16u, src1, src2, dst, detail::length);
@@ -97,7 +97,7 @@ inline Warning add(std::span<const std::complex<double>> src1, std::span<const s
     return detail::call(tarnsAdd_64fc, src1, src2, dst, detail::length);
 }
 
-// Adds a vector to another in place without a scale:
+// Adds a vector to another in place without a scale.
 inline Warning add(std::span<const std::int16_t> src, std::span<std::int16_t> srcDst)
 {
     return detail::call(tarnsAdd_16s_I, src, srcDst, detail::length);
@@ -119,7 +119,7 @@ inline Warning add(std::span<const std::complex<double>> src, std::span<std::com
     return detail::call(tarnsAdd_64fc_I, src, srcDst, detail::length);
 }
 
-// Adds a constant to a vector:
+// Adds a constant to a vector.
 inline Warning add(std::span<const std::uint8_t> src, std::uint8_t val, std::span<std::uint8_t> dst, int scaleFactor)
 {
     return detail::call(tarnsAddC_8u_Sfs, src, val, dst, detail::length, scaleFactor);
@@ -141,7 +141,7 @@ inline Warning add(std::span<const Tarn32sc> src, Tarn32sc val, std::span<Tarn32
     return detail::call(tarnsAddC_32sc_Sfs, src, val, dst, detail::length, scaleFactor);
 }
 
-// Adds a constant to a vector in place:
+// Adds a constant to a vector in place.
 inline Warning add(std::uint8_t val, std::span<std::uint8_t> srcDst, int scaleFactor)
 {
     return detail::call(tarnsAddC_8u_ISfs, val, srcDst, detail::length, scaleFactor);
@@ -163,7 +163,7 @@ inline Warning add(Tarn32sc val, std::span<Tarn32sc> srcDst, int scaleFactor)
     return detail::call(tarnsAddC_32sc_ISfs, val, srcDst, detail::length, scaleFactor);
 }
 
-// Adds a constant to a vector of floats:
+// Adds a constant to a vector of floats.
 inline Warning add(std::span<const float> src, float val, std::span<float> dst)
 {
     return detail::call(tarnsAddC_32f, src, val, dst, detail::length);
@@ -183,7 +183,7 @@ inline Warning add(std::span<const std::complex<double>> src, std::complex<doubl
     return detail::call(tarnsAddC_64fc, src, val, dst, detail::length);
 }
 
-// Adds a constant to a vector in place:
+// Adds a constant to a vector in place.
 inline Warning add(std::int16_t val, std::span<std::int16_t> srcDst)
 {
     return detail::call(tarnsAddC_16s_I, val, srcDst, detail::length);

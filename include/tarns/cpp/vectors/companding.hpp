@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Linear values of codes:
+// Decodes to linear samples.
 inline Warning aLawToLin(std::span<const std::uint8_t> src, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsALawToLin_8u16s, src, dst, detail::length);
@@ -24,7 +24,7 @@ inline Warning muLawToLin(std::span<const std::uint8_t> src, std::span<float> ds
     return detail::call(tarnsMuLawToLin_8u32f, src, dst, detail::length);
 }
 
-// Codes of linear samples:
+// Encodes linear samples.
 inline Warning linToALaw(std::span<const std::int16_t> src, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsLinToALaw_16s8u, src, dst, detail::length);
@@ -42,7 +42,7 @@ inline Warning linToMuLaw(std::span<const float> src, std::span<std::uint8_t> ds
     return detail::call(tarnsLinToMuLaw_32f8u, src, dst, detail::length);
 }
 
-// Codes of one law as those of the other, by the tables of the Recommendation.
+// Converts codes of one law to those of the other, by the tables of the Recommendation.
 inline Warning aLawToMuLaw(std::span<const std::uint8_t> src, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsALawToMuLaw_8u, src, dst, detail::length);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Widens integers:
+// Widens integers.
 inline Warning convert(std::span<const std::int8_t> src, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsConvert_8s16s, src, dst, detail::length);
@@ -16,7 +16,7 @@ inline Warning convert(std::span<const std::int16_t> src, std::span<std::int32_t
     return detail::call(tarnsConvert_16s32s, src, dst, detail::length);
 }
 
-// Converts to floating point:
+// Converts to floating point.
 inline Warning convert(std::span<const std::int8_t> src, std::span<float> dst)
 {
     return detail::call(tarnsConvert_8s32f, src, dst, detail::length);
@@ -46,7 +46,7 @@ inline Warning convert(std::span<const float> src, std::span<double> dst)
     return detail::call(tarnsConvert_32f64f, src, dst, detail::length);
 }
 
-// Converts scaled integers to floating point:
+// Converts scaled integers to floating point.
 inline Warning convert(std::span<const std::int16_t> src, std::span<float> dst, int scaleFactor)
 {
     return detail::call(tarnsConvert_16s32f_Sfs, src, dst, detail::length, scaleFactor);
@@ -64,19 +64,19 @@ inline Warning convert(std::span<const std::int32_t> src, std::span<double> dst,
     return detail::call(tarnsConvert_32s64f_Sfs, src, dst, detail::length, scaleFactor);
 }
 
-// Narrows integers:
+// Narrows integers.
 inline Warning convert(std::span<const std::int32_t> src, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsConvert_32s16s, src, dst, detail::length);
 }
 
-// Narrows scaled integers:
+// Narrows scaled integers.
 inline Warning convert(std::span<const std::int32_t> src, std::span<std::int16_t> dst, int scaleFactor)
 {
     return detail::call(tarnsConvert_32s16s_Sfs, src, dst, detail::length, scaleFactor);
 }
 
-// Converts floats to scaled integers:
+// Converts floats to scaled integers.
 inline Warning convert(std::span<const float> src, std::span<std::int8_t> dst, int rndMode, int scaleFactor)
 {
     return detail::call(tarnsConvert_32f8s_Sfs, src, dst, detail::length, rndMode, scaleFactor);
@@ -102,7 +102,7 @@ inline Warning convert(std::span<const double> src, std::span<std::int32_t> dst,
     return detail::call(tarnsConvert_64f32s_Sfs, src, dst, detail::length, rndMode, scaleFactor);
 }
 
-// Converts double to single precision:
+// Converts double to single precision.
 inline Warning convert(std::span<const double> src, std::span<float> dst)
 {
     return detail::call(tarnsConvert_64f32f, src, dst, detail::length);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Conjugates:
+// Conjugates a vector.
 inline Warning conj(std::span<const Tarn16sc> src, std::span<Tarn16sc> dst)
 {
     return detail::call(tarnsConj_16sc, src, dst, detail::length);
@@ -29,7 +29,7 @@ inline Warning conj(std::span<std::complex<double>> srcDst)
     return detail::call(tarnsConj_64fc_I, srcDst, detail::length);
 }
 
-// Real parts:
+// Takes the real parts.
 inline Warning real(std::span<const Tarn16sc> src, std::span<std::int16_t> dstRe)
 {
     return detail::call(tarnsReal_16sc, src, dstRe, detail::length);
@@ -43,7 +43,7 @@ inline Warning real(std::span<const std::complex<double>> src, std::span<double>
     return detail::call(tarnsReal_64fc, src, dstRe, detail::length);
 }
 
-// Imaginary parts:
+// Takes the imaginary parts.
 inline Warning imag(std::span<const Tarn16sc> src, std::span<std::int16_t> dstIm)
 {
     return detail::call(tarnsImag_16sc, src, dstIm, detail::length);
@@ -57,7 +57,7 @@ inline Warning imag(std::span<const std::complex<double>> src, std::span<double>
     return detail::call(tarnsImag_64fc, src, dstIm, detail::length);
 }
 
-// Takes a complex vector apart:
+// Takes a complex vector apart.
 inline Warning cplxToReal(std::span<const Tarn16sc> src, std::span<std::int16_t> dstRe, std::span<std::int16_t> dstIm)
 {
     return detail::call(tarnsCplxToReal_16sc, src, dstRe, dstIm, detail::length);
@@ -71,7 +71,7 @@ inline Warning cplxToReal(std::span<const std::complex<double>> src, std::span<d
     return detail::call(tarnsCplxToReal_64fc, src, dstRe, dstIm, detail::length);
 }
 
-// Puts a complex vector together:
+// Puts a complex vector together.
 inline Warning realToCplx(std::span<const std::int16_t> srcRe, std::span<const std::int16_t> srcIm,
                           std::span<Tarn16sc> dst)
 {

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Copies an array:
+// Copies an array.
 inline Warning copy(std::span<const std::uint8_t> src, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsCopy_8u, src, dst, detail::length);
@@ -36,7 +36,7 @@ inline Warning copy(std::span<const std::complex<double>> src, std::span<std::co
     return detail::call(tarnsCopy_64fc, src, dst, detail::length);
 }
 
-// Copies an array to a place that may overlap it, in either direction:
+// Copies an array to a place that may overlap it, in either direction.
 inline Warning move(std::span<const std::uint8_t> src, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsMove_8u, src, dst, detail::length);
@@ -66,7 +66,7 @@ inline Warning move(std::span<const std::complex<double>> src, std::span<std::co
     return detail::call(tarnsMove_64fc, src, dst, detail::length);
 }
 
-// Writes zero bytes:
+// Writes zero bytes.
 inline Warning zero(std::span<std::uint8_t> dst) { return detail::call(tarnsZero_8u, dst, detail::length); }
 inline Warning zero(std::span<std::int16_t> dst) { return detail::call(tarnsZero_16s, dst, detail::length); }
 inline Warning zero(std::span<Tarn16sc> dst) { return detail::call(tarnsZero_16sc, dst, detail::length); }
@@ -75,7 +75,7 @@ inline Warning zero(std::span<std::complex<float>> dst) { return detail::call(ta
 inline Warning zero(std::span<double> dst) { return detail::call(tarnsZero_64f, dst, detail::length); }
 inline Warning zero(std::span<std::complex<double>> dst) { return detail::call(tarnsZero_64fc, dst, detail::length); }
 
-// Writes one value to every element:
+// Writes one value to every element.
 inline Warning set(std::uint8_t val, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsSet_8u, val, dst, detail::length);
@@ -115,7 +115,7 @@ inline Warning set(std::complex<double> val, std::span<std::complex<double>> dst
     return detail::call(tarnsSet_64fc, val, dst, detail::length);
 }
 
-// Turns an array round:
+// Turns an array round.
 inline Warning flip(std::span<const std::uint8_t> src, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsFlip_8u, src, dst, detail::length);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Divides the second vector by the first:
+// Divides the second vector by the first.
 inline Warning div(std::span<const std::uint8_t> src1, std::span<const std::uint8_t> src2, std::span<std::uint8_t> dst,
                    int scaleFactor)
 {
@@ -78,7 +78,7 @@ inline Warning div(std::span<const std::complex<double>> src, std::span<std::com
     return detail::call(tarnsDiv_64fc_I, src, srcDst, detail::length);
 }
 
-// Divides a vector by a constant:
+// Divides a vector by a constant.
 inline Warning div(std::span<const std::uint8_t> src, std::uint8_t val, std::span<std::uint8_t> dst, int scaleFactor)
 {
     return detail::call(tarnsDivC_8u_Sfs, src, val, dst, detail::length, scaleFactor);
@@ -120,7 +120,7 @@ inline Warning div(double val, std::span<double> srcDst)
     return detail::call(tarnsDivC_64f_I, val, srcDst, detail::length);
 }
 
-// Divides a complex vector by a constant:
+// Divides a complex vector by a constant.
 inline Warning div(std::span<const std::complex<float>> src, std::complex<float> val,
                    std::span<std::complex<float>> dst)
 {
@@ -140,7 +140,7 @@ inline Warning div(std::complex<double> val, std::span<std::complex<double>> src
     return detail::call(tarnsDivC_64fc_I, val, srcDst, detail::length);
 }
 
-// Divides a constant by each element:
+// Divides a constant by each element.
 inline Warning divRev(std::span<const std::uint16_t> src, std::uint16_t val, std::span<std::uint16_t> dst)
 {
     return detail::call(tarnsDivCRev_16u, src, val, dst, detail::length);

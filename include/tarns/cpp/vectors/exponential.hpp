@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Exponential of floats:
+// Takes the exponential of floats.
 inline Warning exp(std::span<const float> src, std::span<float> dst)
 {
     return detail::call(tarnsExp_32f, src, dst, detail::length);
@@ -22,7 +22,7 @@ inline Warning exp(std::span<const float> src, std::span<double> dst)
 inline Warning exp(std::span<float> srcDst) { return detail::call(tarnsExp_32f_I, srcDst, detail::length); }
 inline Warning exp(std::span<double> srcDst) { return detail::call(tarnsExp_64f_I, srcDst, detail::length); }
 
-// Exponential of integers:
+// Takes the exponential of integers.
 inline Warning exp(std::span<const std::int16_t> src, std::span<std::int16_t> dst, int scaleFactor)
 {
     return detail::call(tarnsExp_16s_Sfs, src, dst, detail::length, scaleFactor);
@@ -48,7 +48,7 @@ inline Warning exp(std::span<std::int64_t> srcDst, int scaleFactor)
     return detail::call(tarnsExp_64s_ISfs, srcDst, detail::length, scaleFactor);
 }
 
-// Natural logarithm of floats:
+// Takes the natural logarithm of floats.
 inline Warning ln(std::span<const float> src, std::span<float> dst)
 {
     return detail::call(tarnsLn_32f, src, dst, detail::length);
@@ -64,7 +64,7 @@ inline Warning ln(std::span<const double> src, std::span<float> dst)
 inline Warning ln(std::span<float> srcDst) { return detail::call(tarnsLn_32f_I, srcDst, detail::length); }
 inline Warning ln(std::span<double> srcDst) { return detail::call(tarnsLn_64f_I, srcDst, detail::length); }
 
-// Natural logarithm of integers:
+// Takes the natural logarithm of integers.
 inline Warning ln(std::span<const std::int16_t> src, std::span<std::int16_t> dst, int scaleFactor)
 {
     return detail::call(tarnsLn_16s_Sfs, src, dst, detail::length, scaleFactor);
@@ -86,7 +86,7 @@ inline Warning ln(std::span<std::int32_t> srcDst, int scaleFactor)
     return detail::call(tarnsLn_32s_ISfs, srcDst, detail::length, scaleFactor);
 }
 
-// Decibels of a power:
+// Gives the decibels of a power.
 inline Warning tenLog10(std::span<const std::int32_t> src, std::span<std::int32_t> dst, int scaleFactor)
 {
     return detail::call(tarns10Log10_32s_Sfs, src, dst, detail::length, scaleFactor);
@@ -96,7 +96,7 @@ inline Warning tenLog10(std::span<std::int32_t> srcDst, int scaleFactor)
     return detail::call(tarns10Log10_32s_ISfs, srcDst, detail::length, scaleFactor);
 }
 
-// Arctangent:
+// Takes the arctangent.
 inline Warning arctan(std::span<const float> src, std::span<float> dst)
 {
     return detail::call(tarnsArctan_32f, src, dst, detail::length);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Writes a sinusoid with fixed-point parameters:
+// Writes a sinusoid with fixed-point parameters.
 inline Warning toneQ15Direct(std::span<std::int16_t> dst, std::int16_t magn, std::int16_t rFreqQ15,
                              std::int32_t phaseQ15)
 {
@@ -20,7 +20,7 @@ inline Warning triangleQ15Direct(std::span<std::int16_t> dst, std::int16_t magn,
     return detail::call(tarnsTriangleQ15_Direct_16s, dst, detail::length, magn, rFreqQ15, phaseQ15, asymQ15);
 }
 
-// Writes a straight line:
+// Writes a straight line.
 inline Warning vectorRamp(std::span<std::uint8_t> dst, float offset, float slope)
 {
     return detail::call(tarnsVectorRamp_8u, dst, detail::length, offset, slope);
@@ -54,7 +54,7 @@ inline Warning vectorRamp(std::span<double> dst, float offset, float slope)
     return detail::call(tarnsVectorRamp_64f, dst, detail::length, offset, slope);
 }
 
-// Writes the Jaehne signal:
+// Writes the Jaehne signal.
 inline Warning vectorJaehne(std::span<std::uint8_t> dst, std::uint8_t magn)
 {
     return detail::call(tarnsVectorJaehne_8u, dst, detail::length, magn);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// One bin of a vector of floats, rounded to the type of the result once.
+// Computes one bin of a vector of floats, rounded to the type of the result once.
 inline Outcome<std::complex<float>> goertz(std::span<const float> src, float rFreq)
 {
     return detail::answer<Tarn32fc>(tarnsGoertz_32f, src, detail::length, detail::result<>, rFreq);
@@ -20,7 +20,7 @@ inline Outcome<std::complex<double>> goertz(std::span<const std::complex<double>
     return detail::answer<Tarn64fc>(tarnsGoertz_64fc, src, detail::length, detail::result<>, rFreq);
 }
 
-// One bin of a vector of 16-bit integers, times 2^-scaleFactor.
+// Computes one bin of a vector of 16-bit integers, times 2^-scaleFactor.
 inline Outcome<Tarn16sc> goertz(std::span<const std::int16_t> src, float rFreq, int scaleFactor)
 {
     return detail::answer<Tarn16sc>(tarnsGoertz_16s_Sfs, src, detail::length, detail::result<>, rFreq, scaleFactor);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Bits that both operands have, of two vectors:
+// Keeps the bits that both operands have, of two vectors.
 inline Warning bitAnd(std::span<const std::uint8_t> src1, std::span<const std::uint8_t> src2,
                       std::span<std::uint8_t> dst)
 {
@@ -23,7 +23,7 @@ inline Warning bitAnd(std::span<const std::uint32_t> src1, std::span<const std::
     return detail::call(tarnsAnd_32u, src1, src2, dst, detail::length);
 }
 
-// Bits that both operands have, of two vectors in place:
+// Keeps the bits that both operands have, of two vectors in place.
 inline Warning bitAnd(std::span<const std::uint8_t> src, std::span<std::uint8_t> srcDst)
 {
     return detail::call(tarnsAnd_8u_I, src, srcDst, detail::length);
@@ -37,7 +37,7 @@ inline Warning bitAnd(std::span<const std::uint32_t> src, std::span<std::uint32_
     return detail::call(tarnsAnd_32u_I, src, srcDst, detail::length);
 }
 
-// Bits that both operands have, of a vector and a constant:
+// Keeps the bits that both operands have, of a vector and a constant.
 inline Warning bitAnd(std::span<const std::uint8_t> src, std::uint8_t val, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsAndC_8u, src, val, dst, detail::length);
@@ -51,7 +51,7 @@ inline Warning bitAnd(std::span<const std::uint32_t> src, std::uint32_t val, std
     return detail::call(tarnsAndC_32u, src, val, dst, detail::length);
 }
 
-// Bits that both operands have, of a vector and a constant in place:
+// Keeps the bits that both operands have, of a vector and a constant in place.
 inline Warning bitAnd(std::uint8_t val, std::span<std::uint8_t> srcDst)
 {
     return detail::call(tarnsAndC_8u_I, val, srcDst, detail::length);
@@ -65,7 +65,7 @@ inline Warning bitAnd(std::uint32_t val, std::span<std::uint32_t> srcDst)
     return detail::call(tarnsAndC_32u_I, val, srcDst, detail::length);
 }
 
-// Bits that either operand has, of two vectors:
+// Joins the bits that either operand has, of two vectors.
 inline Warning bitOr(std::span<const std::uint8_t> src1, std::span<const std::uint8_t> src2,
                      std::span<std::uint8_t> dst)
 {
@@ -82,7 +82,7 @@ inline Warning bitOr(std::span<const std::uint32_t> src1, std::span<const std::u
     return detail::call(tarnsOr_32u, src1, src2, dst, detail::length);
 }
 
-// Bits that either operand has, of two vectors in place:
+// Joins the bits that either operand has, of two vectors in place.
 inline Warning bitOr(std::span<const std::uint8_t> src, std::span<std::uint8_t> srcDst)
 {
     return detail::call(tarnsOr_8u_I, src, srcDst, detail::length);
@@ -96,7 +96,7 @@ inline Warning bitOr(std::span<const std::uint32_t> src, std::span<std::uint32_t
     return detail::call(tarnsOr_32u_I, src, srcDst, detail::length);
 }
 
-// Bits that either operand has, of a vector and a constant:
+// Joins the bits that either operand has, of a vector and a constant.
 inline Warning bitOr(std::span<const std::uint8_t> src, std::uint8_t val, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsOrC_8u, src, val, dst, detail::length);
@@ -110,7 +110,7 @@ inline Warning bitOr(std::span<const std::uint32_t> src, std::uint32_t val, std:
     return detail::call(tarnsOrC_32u, src, val, dst, detail::length);
 }
 
-// Bits that either operand has, of a vector and a constant in place:
+// Joins the bits that either operand has, of a vector and a constant in place.
 inline Warning bitOr(std::uint8_t val, std::span<std::uint8_t> srcDst)
 {
     return detail::call(tarnsOrC_8u_I, val, srcDst, detail::length);
@@ -124,7 +124,7 @@ inline Warning bitOr(std::uint32_t val, std::span<std::uint32_t> srcDst)
     return detail::call(tarnsOrC_32u_I, val, srcDst, detail::length);
 }
 
-// Bits in which the operands differ, of two vectors:
+// Finds the bits in which the operands differ, of two vectors.
 inline Warning bitXor(std::span<const std::uint8_t> src1, std::span<const std::uint8_t> src2,
                       std::span<std::uint8_t> dst)
 {
@@ -141,7 +141,7 @@ inline Warning bitXor(std::span<const std::uint32_t> src1, std::span<const std::
     return detail::call(tarnsXor_32u, src1, src2, dst, detail::length);
 }
 
-// Bits in which the operands differ, of two vectors in place:
+// Finds the bits in which the operands differ, of two vectors in place.
 inline Warning bitXor(std::span<const std::uint8_t> src, std::span<std::uint8_t> srcDst)
 {
     return detail::call(tarnsXor_8u_I, src, srcDst, detail::length);
@@ -155,7 +155,7 @@ inline Warning bitXor(std::span<const std::uint32_t> src, std::span<std::uint32_
     return detail::call(tarnsXor_32u_I, src, srcDst, detail::length);
 }
 
-// Bits in which the operands differ, of a vector and a constant:
+// Finds the bits in which the operands differ, of a vector and a constant.
 inline Warning bitXor(std::span<const std::uint8_t> src, std::uint8_t val, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsXorC_8u, src, val, dst, detail::length);
@@ -169,7 +169,7 @@ inline Warning bitXor(std::span<const std::uint32_t> src, std::uint32_t val, std
     return detail::call(tarnsXorC_32u, src, val, dst, detail::length);
 }
 
-// Bits in which the operands differ, of a vector and a constant in place:
+// Finds the bits in which the operands differ, of a vector and a constant in place.
 inline Warning bitXor(std::uint8_t val, std::span<std::uint8_t> srcDst)
 {
     return detail::call(tarnsXorC_8u_I, val, srcDst, detail::length);
@@ -183,7 +183,7 @@ inline Warning bitXor(std::uint32_t val, std::span<std::uint32_t> srcDst)
     return detail::call(tarnsXorC_32u_I, val, srcDst, detail::length);
 }
 
-// Every bit the other way:
+// Turns every bit the other way.
 inline Warning bitNot(std::span<const std::uint8_t> src, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsNot_8u, src, dst, detail::length);
@@ -197,12 +197,12 @@ inline Warning bitNot(std::span<const std::uint32_t> src, std::span<std::uint32_
     return detail::call(tarnsNot_32u, src, dst, detail::length);
 }
 
-// Every bit the other way in place:
+// Turns every bit the other way in place.
 inline Warning bitNot(std::span<std::uint8_t> srcDst) { return detail::call(tarnsNot_8u_I, srcDst, detail::length); }
 inline Warning bitNot(std::span<std::uint16_t> srcDst) { return detail::call(tarnsNot_16u_I, srcDst, detail::length); }
 inline Warning bitNot(std::span<std::uint32_t> srcDst) { return detail::call(tarnsNot_32u_I, srcDst, detail::length); }
 
-// Shifts to the left:
+// Shifts to the left.
 inline Warning lShift(std::span<const std::uint8_t> src, int val, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsLShiftC_8u, src, val, dst, detail::length);
@@ -220,7 +220,7 @@ inline Warning lShift(std::span<const std::int32_t> src, int val, std::span<std:
     return detail::call(tarnsLShiftC_32s, src, val, dst, detail::length);
 }
 
-// The same in place.
+// Shifts to the left, in place.
 inline Warning lShift(int val, std::span<std::uint8_t> srcDst)
 {
     return detail::call(tarnsLShiftC_8u_I, val, srcDst, detail::length);
@@ -238,7 +238,7 @@ inline Warning lShift(int val, std::span<std::int32_t> srcDst)
     return detail::call(tarnsLShiftC_32s_I, val, srcDst, detail::length);
 }
 
-// Shifts to the right:
+// Shifts to the right.
 inline Warning rShift(std::span<const std::uint8_t> src, int val, std::span<std::uint8_t> dst)
 {
     return detail::call(tarnsRShiftC_8u, src, val, dst, detail::length);
@@ -256,7 +256,7 @@ inline Warning rShift(std::span<const std::int32_t> src, int val, std::span<std:
     return detail::call(tarnsRShiftC_32s, src, val, dst, detail::length);
 }
 
-// The same in place.
+// Shifts to the right, in place.
 inline Warning rShift(int val, std::span<std::uint8_t> srcDst)
 {
     return detail::call(tarnsRShiftC_8u_I, val, srcDst, detail::length);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Magnitudes:
+// Computes magnitudes.
 inline Warning magnitude(std::span<const std::int16_t> srcRe, std::span<const std::int16_t> srcIm,
                          std::span<std::int16_t> dst, int scaleFactor)
 {
@@ -45,7 +45,7 @@ inline Warning magnitude(std::span<const std::complex<double>> src, std::span<do
     return detail::call(tarnsMagnitude_64fc, src, dst, detail::length);
 }
 
-// Power spectra:
+// Computes power spectra.
 inline Warning powerSpectr(std::span<const std::int16_t> srcRe, std::span<const std::int16_t> srcIm,
                            std::span<std::int16_t> dst, int scaleFactor)
 {
@@ -81,7 +81,7 @@ inline Warning powerSpectr(std::span<const std::complex<double>> src, std::span<
     return detail::call(tarnsPowerSpectr_64fc, src, dst, detail::length);
 }
 
-// Squared magnitudes of 32-bit elements by way of floats:
+// Computes squared magnitudes of 32-bit elements by way of floats.
 inline Warning magSquared(std::span<const Tarn32sc> src, std::span<std::int32_t> dst, int scaleFactor)
 {
     return detail::call(tarnsMagSquared_32sc32s_Sfs, src, dst, detail::length, scaleFactor);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Median filter.
+// Filters by the running median.
 inline Warning filterMedian(std::span<const std::uint8_t> src, std::span<std::uint8_t> dst, int maskSize)
 {
     return detail::call(tarnsFilterMedian_8u, src, dst, detail::length, maskSize);

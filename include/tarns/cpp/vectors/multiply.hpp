@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Multiplies two vectors:
+// Multiplies two vectors.
 inline Warning mul(std::span<const std::uint8_t> src1, std::span<const std::uint8_t> src2, std::span<std::uint8_t> dst,
                    int scaleFactor)
 {
@@ -48,7 +48,7 @@ inline Warning mul(std::span<const Tarn32sc> src1, std::span<const Tarn32sc> src
     return detail::call(tarnsMul_32sc_Sfs, src1, src2, dst, detail::length, scaleFactor);
 }
 
-// Multiplies a vector by another in place:
+// Multiplies a vector by another in place.
 inline Warning mul(std::span<const std::uint8_t> src, std::span<std::uint8_t> srcDst, int scaleFactor)
 {
     return detail::call(tarnsMul_8u_ISfs, src, srcDst, detail::length, scaleFactor);
@@ -74,7 +74,7 @@ inline Warning mul(std::span<const Tarn32sc> src, std::span<Tarn32sc> srcDst, in
     return detail::call(tarnsMul_32sc_ISfs, src, srcDst, detail::length, scaleFactor);
 }
 
-// Multiplies two vectors without a scale:
+// Multiplies two vectors without a scale.
 inline Warning mul(std::span<const std::uint8_t> src1, std::span<const std::uint8_t> src2, std::span<std::uint16_t> dst)
 {
     return detail::call(tarnsMul_8u16u, src1, src2, dst, detail::length);
@@ -106,7 +106,7 @@ inline Warning mul(std::span<const std::complex<double>> src1, std::span<const s
     return detail::call(tarnsMul_64fc, src1, src2, dst, detail::length);
 }
 
-// Multiplies a vector by another in place without a scale:
+// Multiplies a vector by another in place without a scale.
 inline Warning mul(std::span<const std::int16_t> src, std::span<std::int16_t> srcDst)
 {
     return detail::call(tarnsMul_16s_I, src, srcDst, detail::length);
@@ -128,7 +128,7 @@ inline Warning mul(std::span<const std::complex<double>> src, std::span<std::com
     return detail::call(tarnsMul_64fc_I, src, srcDst, detail::length);
 }
 
-// Multiplies a vector by a constant:
+// Multiplies a vector by a constant.
 inline Warning mul(std::span<const std::uint8_t> src, std::uint8_t val, std::span<std::uint8_t> dst, int scaleFactor)
 {
     return detail::call(tarnsMulC_8u_Sfs, src, val, dst, detail::length, scaleFactor);
@@ -150,7 +150,7 @@ inline Warning mul(std::span<const Tarn32sc> src, Tarn32sc val, std::span<Tarn32
     return detail::call(tarnsMulC_32sc_Sfs, src, val, dst, detail::length, scaleFactor);
 }
 
-// Multiplies a vector by a constant in place:
+// Multiplies a vector by a constant in place.
 inline Warning mul(std::uint8_t val, std::span<std::uint8_t> srcDst, int scaleFactor)
 {
     return detail::call(tarnsMulC_8u_ISfs, val, srcDst, detail::length, scaleFactor);
@@ -172,7 +172,7 @@ inline Warning mul(Tarn32sc val, std::span<Tarn32sc> srcDst, int scaleFactor)
     return detail::call(tarnsMulC_32sc_ISfs, val, srcDst, detail::length, scaleFactor);
 }
 
-// Multiplies a vector of floats by a constant:
+// Multiplies a vector of floats by a constant.
 inline Warning mul(std::span<const float> src, float val, std::span<float> dst)
 {
     return detail::call(tarnsMulC_32f, src, val, dst, detail::length);
@@ -192,7 +192,7 @@ inline Warning mul(std::span<const std::complex<double>> src, std::complex<doubl
     return detail::call(tarnsMulC_64fc, src, val, dst, detail::length);
 }
 
-// Multiplies a vector by a constant in place:
+// Multiplies a vector by a constant in place.
 inline Warning mul(std::int16_t val, std::span<std::int16_t> srcDst)
 {
     return detail::call(tarnsMulC_16s_I, val, srcDst, detail::length);
@@ -214,19 +214,19 @@ inline Warning mul(std::complex<double> val, std::span<std::complex<double>> src
     return detail::call(tarnsMulC_64fc_I, val, srcDst, detail::length);
 }
 
-// Multiplies a vector of floats by a constant and rounds to integers:
+// Multiplies a vector of floats by a constant and rounds to integers.
 inline Warning mul(std::span<const float> src, float val, std::span<std::int16_t> dst, int scaleFactor)
 {
     return detail::call(tarnsMulC_32f16s_Sfs, src, val, dst, detail::length, scaleFactor);
 }
 
-// Multiplies a vector of floats by a constant and rounds to integers for products that are known to be low:
+// Multiplies a vector of floats by a constant and rounds to integers for products that are known to be low.
 inline Warning mulCLow(std::span<const float> src, float val, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsMulC_Low_32f16s, src, val, dst, detail::length);
 }
 
-// Adds the product of two vectors to a third one:
+// Adds the product of two vectors to a third one.
 inline Warning addProduct(std::span<const std::int16_t> src1, std::span<const std::int16_t> src2,
                           std::span<std::int16_t> srcDst, int scaleFactor)
 {
@@ -243,7 +243,7 @@ inline Warning addProduct(std::span<const std::int32_t> src1, std::span<const st
     return detail::call(tarnsAddProduct_32s_Sfs, src1, src2, srcDst, detail::length, scaleFactor);
 }
 
-// Adds the product of two vectors of floats to a third one:
+// Adds the product of two vectors of floats to a third one.
 inline Warning addProduct(std::span<const float> src1, std::span<const float> src2, std::span<float> srcDst)
 {
     return detail::call(tarnsAddProduct_32f, src1, src2, srcDst, detail::length);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Maximum norm of a vector:
+// Computes the maximum norm of a vector.
 inline Outcome<float> normInf(std::span<const float> src)
 {
     return detail::answer<Tarn32f>(tarnsNorm_Inf_32f, src, detail::length, detail::result<>);
@@ -32,7 +32,7 @@ inline Outcome<std::int32_t> normInf(std::span<const std::int16_t> src, int scal
     return detail::answer<Tarn32s>(tarnsNorm_Inf_16s32s_Sfs, src, detail::length, detail::result<>, scaleFactor);
 }
 
-// Sum norm of a vector:
+// Computes the sum norm of a vector.
 inline Outcome<float> normL1(std::span<const float> src)
 {
     return detail::answer<Tarn32f>(tarnsNorm_L1_32f, src, detail::length, detail::result<>);
@@ -58,7 +58,7 @@ inline Outcome<std::int32_t> normL1(std::span<const std::int16_t> src, int scale
     return detail::answer<Tarn32s>(tarnsNorm_L1_16s32s_Sfs, src, detail::length, detail::result<>, scaleFactor);
 }
 
-// Euclidean norm of a vector:
+// Computes the Euclidean norm of a vector.
 inline Outcome<float> normL2(std::span<const float> src)
 {
     return detail::answer<Tarn32f>(tarnsNorm_L2_32f, src, detail::length, detail::result<>);
@@ -84,7 +84,7 @@ inline Outcome<std::int32_t> normL2(std::span<const std::int16_t> src, int scale
     return detail::answer<Tarn32s>(tarnsNorm_L2_16s32s_Sfs, src, detail::length, detail::result<>, scaleFactor);
 }
 
-// Maximum norm of a difference:
+// Computes the maximum norm of a difference.
 inline Outcome<float> normDiffInf(std::span<const float> src1, std::span<const float> src2)
 {
     return detail::answer<Tarn32f>(tarnsNormDiff_Inf_32f, src1, src2, detail::length, detail::result<>);
@@ -113,7 +113,7 @@ inline Outcome<std::int32_t> normDiffInf(std::span<const std::int16_t> src1, std
                                    scaleFactor);
 }
 
-// Sum norm of a difference:
+// Computes the sum norm of a difference.
 inline Outcome<float> normDiffL1(std::span<const float> src1, std::span<const float> src2)
 {
     return detail::answer<Tarn32f>(tarnsNormDiff_L1_32f, src1, src2, detail::length, detail::result<>);
@@ -142,7 +142,7 @@ inline Outcome<std::int32_t> normDiffL1(std::span<const std::int16_t> src1, std:
                                    scaleFactor);
 }
 
-// Euclidean norm of a difference:
+// Computes the Euclidean norm of a difference.
 inline Outcome<float> normDiffL2(std::span<const float> src1, std::span<const float> src2)
 {
     return detail::answer<Tarn32f>(tarnsNormDiff_L2_32f, src1, src2, detail::length, detail::result<>);
@@ -171,7 +171,7 @@ inline Outcome<std::int32_t> normDiffL2(std::span<const std::int16_t> src1, std:
                                    scaleFactor);
 }
 
-// Dot products of floats.
+// Computes dot products of floats.
 inline Outcome<float> dotProd(std::span<const float> src1, std::span<const float> src2)
 {
     return detail::answer<Tarn32f>(tarnsDotProd_32f, src1, src2, detail::length, detail::result<>);
@@ -213,7 +213,7 @@ inline Outcome<std::complex<double>> dotProd_32f32fc64fc(std::span<const float> 
     return detail::answer<Tarn64fc>(tarnsDotProd_32f32fc64fc, src1, src2, detail::length, detail::result<>);
 }
 
-// Dot products of 16-bit integers.
+// Computes dot products of 16-bit integers.
 inline Outcome<std::int64_t> dotProd(std::span<const std::int16_t> src1, std::span<const std::int16_t> src2)
 {
     return detail::answer<Tarn64s>(tarnsDotProd_16s64s, src1, src2, detail::length, detail::result<>);
@@ -240,7 +240,7 @@ inline Outcome<std::complex<float>> dotProd_16s16sc32fc(std::span<const std::int
     return detail::answer<Tarn32fc>(tarnsDotProd_16s16sc32fc, src1, src2, detail::length, detail::result<>);
 }
 
-// Scaled dot products of 16-bit integers:
+// Computes scaled dot products of 16-bit integers.
 inline Outcome<std::int16_t> dotProd(std::span<const std::int16_t> src1, std::span<const std::int16_t> src2,
                                      int scaleFactor)
 {
@@ -273,7 +273,7 @@ inline Outcome<Tarn32sc> dotProd_16s16sc32sc(std::span<const std::int16_t> src1,
                                     scaleFactor);
 }
 
-// Scaled dot products of 32-bit integers:
+// Computes scaled dot products of 32-bit integers.
 inline Outcome<std::int32_t> dotProd(std::span<const std::int32_t> src1, std::span<const std::int32_t> src2,
                                      int scaleFactor)
 {

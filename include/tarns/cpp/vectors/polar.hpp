@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Phases:
+// Computes phases.
 inline Warning phase(std::span<const std::int16_t> srcRe, std::span<const std::int16_t> srcIm,
                      std::span<std::int16_t> dst, int scaleFactor)
 {
@@ -45,7 +45,7 @@ inline Warning phase(std::span<const std::complex<double>> src, std::span<double
     return detail::call(tarnsPhase_64fc, src, dst, detail::length);
 }
 
-// From Cartesian coordinates to polar ones:
+// Converts Cartesian coordinates to polar ones.
 inline Warning cartToPolar(std::span<const float> srcRe, std::span<const float> srcIm, std::span<float> dstMagn,
                            std::span<float> dstPhase)
 {
@@ -67,7 +67,7 @@ inline Warning cartToPolar(std::span<const std::complex<double>> src, std::span<
     return detail::call(tarnsCartToPolar_64fc, src, dstMagn, dstPhase, detail::length);
 }
 
-// From polar coordinates to Cartesian ones:
+// Converts polar coordinates to Cartesian ones.
 inline Warning polarToCart(std::span<const float> srcMagn, std::span<const float> srcPhase, std::span<float> dstRe,
                            std::span<float> dstIm)
 {

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Absolute values:
+// Takes absolute values.
 inline Warning abs(std::span<const std::int16_t> src, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsAbs_16s, src, dst, detail::length);
@@ -28,7 +28,7 @@ inline Warning abs(std::span<std::int32_t> srcDst) { return detail::call(tarnsAb
 inline Warning abs(std::span<float> srcDst) { return detail::call(tarnsAbs_32f_I, srcDst, detail::length); }
 inline Warning abs(std::span<double> srcDst) { return detail::call(tarnsAbs_64f_I, srcDst, detail::length); }
 
-// Squares:
+// Squares elements.
 inline Warning sqr(std::span<const std::uint8_t> src, std::span<std::uint8_t> dst, int scaleFactor)
 {
     return detail::call(tarnsSqr_8u_Sfs, src, dst, detail::length, scaleFactor);
@@ -88,7 +88,7 @@ inline Warning sqr(std::span<std::complex<double>> srcDst)
     return detail::call(tarnsSqr_64fc_I, srcDst, detail::length);
 }
 
-// Square roots:
+// Takes square roots.
 inline Warning sqrt(std::span<const std::uint8_t> src, std::span<std::uint8_t> dst, int scaleFactor)
 {
     return detail::call(tarnsSqrt_8u_Sfs, src, dst, detail::length, scaleFactor);
@@ -132,7 +132,7 @@ inline Warning sqrt(std::span<const double> src, std::span<double> dst)
 inline Warning sqrt(std::span<float> srcDst) { return detail::call(tarnsSqrt_32f_I, srcDst, detail::length); }
 inline Warning sqrt(std::span<double> srcDst) { return detail::call(tarnsSqrt_64f_I, srcDst, detail::length); }
 
-// Principal square roots of complex elements:
+// Takes principal square roots of complex elements.
 inline Warning sqrt(std::span<const Tarn16sc> src, std::span<Tarn16sc> dst, int scaleFactor)
 {
     return detail::call(tarnsSqrt_16sc_Sfs, src, dst, detail::length, scaleFactor);
@@ -158,7 +158,7 @@ inline Warning sqrt(std::span<std::complex<double>> srcDst)
     return detail::call(tarnsSqrt_64fc_I, srcDst, detail::length);
 }
 
-// Cube roots:
+// Takes cube roots.
 inline Warning cubrt(std::span<const float> src, std::span<float> dst)
 {
     return detail::call(tarnsCubrt_32f, src, dst, detail::length);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Takes an offset away and divides:
+// Takes an offset away and divides.
 inline Warning normalize(std::span<const float> src, std::span<float> dst, float vSub, float vDiv)
 {
     return detail::call(tarnsNormalize_32f, src, dst, detail::length, vSub, vDiv);
@@ -26,7 +26,7 @@ inline Warning normalize(std::span<const std::complex<double>> src, std::span<st
     return detail::call(tarnsNormalize_64fc, src, dst, detail::length, vSub, vDiv);
 }
 
-// The same on integers:
+// Takes an offset away from integers and divides.
 inline Warning normalize(std::span<const std::int16_t> src, std::span<std::int16_t> dst, std::int16_t vSub, int vDiv,
                          int scaleFactor)
 {

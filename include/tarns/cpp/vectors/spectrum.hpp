@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Multiplies two spectra in Perm layout, which is the circular convolution of their signals:
+// Multiplies two spectra in Perm layout, which is the circular convolution of their signals.
 inline Warning mulPerm(std::span<const float> src1, std::span<const float> src2, std::span<float> dst)
 {
     return detail::call(tarnsMulPerm_32f, src1, src2, dst, detail::length);
@@ -72,7 +72,7 @@ inline Warning mulPackConj(std::span<const double> src, std::span<double> srcDst
     return detail::call(tarnsMulPackConj_64f_I, src, srcDst, detail::length);
 }
 
-// Expands a spectrum in Perm layout to all its bins:
+// Expands a spectrum in Perm layout to all its bins.
 inline Warning conjPerm(std::span<const std::int16_t> src, std::span<Tarn16sc> dst)
 {
     return detail::call(tarnsConjPerm_16sc, src, dst, detail::length);
@@ -135,7 +135,7 @@ inline Warning conjCcs(std::span<std::complex<double>> srcDst)
     return detail::call(tarnsConjCcs_64fc_I, srcDst, detail::length);
 }
 
-// Conjugates an array and turns it round:
+// Conjugates an array and turns it round.
 inline Warning conjFlip(std::span<const Tarn16sc> src, std::span<Tarn16sc> dst)
 {
     return detail::call(tarnsConjFlip_16sc, src, dst, detail::length);

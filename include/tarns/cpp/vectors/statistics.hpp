@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Adds up a vector of floats:
+// Adds up a vector of floats.
 inline Outcome<float> sum(std::span<const float> src, TarnHintAlgorithm hint = tarnAlgHintNone)
 {
     return detail::answer<Tarn32f>(tarnsSum_32f, src, detail::length, detail::result<>, hint);
@@ -25,7 +25,7 @@ inline Outcome<std::complex<double>> sum(std::span<const std::complex<double>> s
     return detail::answer<Tarn64fc>(tarnsSum_64fc, src, detail::length, detail::result<>);
 }
 
-// Adds up a vector of integers:
+// Adds up a vector of integers.
 inline Outcome<std::int16_t> sum(std::span<const std::int16_t> src, int scaleFactor)
 {
     return detail::answer<Tarn16s>(tarnsSum_16s_Sfs, src, detail::length, detail::result<>, scaleFactor);
@@ -47,7 +47,7 @@ inline Outcome<std::int32_t> sum(std::span<const std::int32_t> src, int scaleFac
     return detail::answer<Tarn32s>(tarnsSum_32s_Sfs, src, detail::length, detail::result<>, scaleFactor);
 }
 
-// Arithmetic mean of a vector of floats:
+// Computes the arithmetic mean of a vector of floats.
 inline Outcome<float> mean(std::span<const float> src, TarnHintAlgorithm hint = tarnAlgHintNone)
 {
     return detail::answer<Tarn32f>(tarnsMean_32f, src, detail::length, detail::result<>, hint);
@@ -66,7 +66,7 @@ inline Outcome<std::complex<double>> mean(std::span<const std::complex<double>> 
     return detail::answer<Tarn64fc>(tarnsMean_64fc, src, detail::length, detail::result<>);
 }
 
-// Arithmetic mean of a vector of 16-bit integers:
+// Computes the arithmetic mean of a vector of 16-bit integers.
 inline Outcome<std::int16_t> mean(std::span<const std::int16_t> src, int scaleFactor)
 {
     return detail::answer<Tarn16s>(tarnsMean_16s_Sfs, src, detail::length, detail::result<>, scaleFactor);
@@ -76,7 +76,7 @@ inline Outcome<Tarn16sc> mean(std::span<const Tarn16sc> src, int scaleFactor)
     return detail::answer<Tarn16sc>(tarnsMean_16sc_Sfs, src, detail::length, detail::result<>, scaleFactor);
 }
 
-// Standard deviation of a sample of floats, by the sums s1 of its elements and s2 of their squares:
+// Computes the standard deviation of a sample of floats, by the sums s1 of its elements and s2 of their ...
 inline Outcome<float> stdDev(std::span<const float> src, TarnHintAlgorithm hint = tarnAlgHintNone)
 {
     return detail::answer<Tarn32f>(tarnsStdDev_32f, src, detail::length, detail::result<>, hint);
@@ -86,7 +86,7 @@ inline Outcome<double> stdDev(std::span<const double> src)
     return detail::answer<Tarn64f>(tarnsStdDev_64f, src, detail::length, detail::result<>);
 }
 
-// Standard deviation of a sample of 16-bit integers, by the same formula from exact sums:
+// Computes the standard deviation of a sample of 16-bit integers, by the same formula from exact sums.
 inline Outcome<std::int32_t> stdDev(std::span<const std::int16_t> src, int scaleFactor)
 {
     return detail::answer<Tarn32s>(tarnsStdDev_16s32s_Sfs, src, detail::length, detail::result<>, scaleFactor);
@@ -96,7 +96,7 @@ inline Outcome<std::int16_t> stdDev_16s(std::span<const std::int16_t> src, int s
     return detail::answer<Tarn16s>(tarnsStdDev_16s_Sfs, src, detail::length, detail::result<>, scaleFactor);
 }
 
-// Sum of natural logarithms:
+// Computes the sum of natural logarithms.
 inline Outcome<float> sumLn(std::span<const float> src)
 {
     return detail::answer<Tarn32f>(tarnsSumLn_32f, src, detail::length, detail::result<>);
@@ -114,7 +114,7 @@ inline Outcome<float> sumLn(std::span<const std::int16_t> src)
     return detail::answer<Tarn32f>(tarnsSumLn_16s32f, src, detail::length, detail::result<>);
 }
 
-// Smallest element:
+// Finds the smallest element.
 inline Outcome<std::int16_t> min(std::span<const std::int16_t> src)
 {
     return detail::answer<Tarn16s>(tarnsMin_16s, src, detail::length, detail::result<>);
@@ -128,7 +128,7 @@ inline Outcome<double> min(std::span<const double> src)
     return detail::answer<Tarn64f>(tarnsMin_64f, src, detail::length, detail::result<>);
 }
 
-// Largest element:
+// Finds the largest element.
 inline Outcome<std::int16_t> max(std::span<const std::int16_t> src)
 {
     return detail::answer<Tarn16s>(tarnsMax_16s, src, detail::length, detail::result<>);
@@ -142,7 +142,7 @@ inline Outcome<double> max(std::span<const double> src)
     return detail::answer<Tarn64f>(tarnsMax_64f, src, detail::length, detail::result<>);
 }
 
-// Smallest element and the index of its first occurrence.
+// Finds the smallest element and the index of its first occurrence.
 inline Outcome<std::tuple<std::int16_t, int>> minIndx(std::span<const std::int16_t> src)
 {
     return detail::answer<Tarn16s, int>(tarnsMinIndx_16s, src, detail::length, detail::result<>, detail::result<1>);
@@ -156,7 +156,7 @@ inline Outcome<std::tuple<double, int>> minIndx(std::span<const double> src)
     return detail::answer<Tarn64f, int>(tarnsMinIndx_64f, src, detail::length, detail::result<>, detail::result<1>);
 }
 
-// Largest element and the index of its first occurrence.
+// Finds the largest element and the index of its first occurrence.
 inline Outcome<std::tuple<std::int16_t, int>> maxIndx(std::span<const std::int16_t> src)
 {
     return detail::answer<Tarn16s, int>(tarnsMaxIndx_16s, src, detail::length, detail::result<>, detail::result<1>);
@@ -170,7 +170,7 @@ inline Outcome<std::tuple<double, int>> maxIndx(std::span<const double> src)
     return detail::answer<Tarn64f, int>(tarnsMaxIndx_64f, src, detail::length, detail::result<>, detail::result<1>);
 }
 
-// Smallest and largest element in one pass.
+// Finds the smallest and largest element in one pass.
 inline Outcome<std::tuple<std::uint8_t, std::uint8_t>> minMax(std::span<const std::uint8_t> src)
 {
     return detail::answer<Tarn8u, Tarn8u>(tarnsMinMax_8u, src, detail::length, detail::result<>, detail::result<1>);
@@ -200,7 +200,7 @@ inline Outcome<std::tuple<double, double>> minMax(std::span<const double> src)
     return detail::answer<Tarn64f, Tarn64f>(tarnsMinMax_64f, src, detail::length, detail::result<>, detail::result<1>);
 }
 
-// Smallest and largest element and the indices of their first occurrences.
+// Finds the smallest and largest element and the indices of their first occurrences.
 inline Outcome<std::tuple<std::uint8_t, int, std::uint8_t, int>> minMaxIndx(std::span<const std::uint8_t> src)
 {
     return detail::answer<Tarn8u, int, Tarn8u, int>(tarnsMinMaxIndx_8u, src, detail::length, detail::result<>,
@@ -237,7 +237,7 @@ inline Outcome<std::tuple<double, int, double, int>> minMaxIndx(std::span<const 
                                                       detail::result<1>, detail::result<2>, detail::result<3>);
 }
 
-// Element by element the smaller or the larger of two vectors:
+// Takes element by element the smaller or the larger of two vectors.
 inline Warning minEvery(std::span<const std::int16_t> src, std::span<std::int16_t> srcDst)
 {
     return detail::call(tarnsMinEvery_16s_I, src, srcDst, detail::length);
@@ -263,7 +263,7 @@ inline Warning maxEvery(std::span<const float> src, std::span<float> srcDst)
     return detail::call(tarnsMaxEvery_32f_I, src, srcDst, detail::length);
 }
 
-// Order of a vector.
+// Tells the order of a vector.
 inline Outcome<int> maxOrder(std::span<const std::int16_t> src)
 {
     return detail::answer<int>(tarnsMaxOrder_16s, src, detail::length, detail::result<>);

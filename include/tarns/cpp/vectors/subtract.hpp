@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Subtracts the first vector from the second:
+// Subtracts the first vector from the second.
 inline Warning sub(std::span<const std::uint8_t> src1, std::span<const std::uint8_t> src2, std::span<std::uint8_t> dst,
                    int scaleFactor)
 {
@@ -33,7 +33,7 @@ inline Warning sub(std::span<const Tarn32sc> src1, std::span<const Tarn32sc> src
     return detail::call(tarnsSub_32sc_Sfs, src1, src2, dst, detail::length, scaleFactor);
 }
 
-// Subtracts a vector from another in place:
+// Subtracts a vector from another in place.
 inline Warning sub(std::span<const std::uint8_t> src, std::span<std::uint8_t> srcDst, int scaleFactor)
 {
     return detail::call(tarnsSub_8u_ISfs, src, srcDst, detail::length, scaleFactor);
@@ -55,7 +55,7 @@ inline Warning sub(std::span<const Tarn32sc> src, std::span<Tarn32sc> srcDst, in
     return detail::call(tarnsSub_32sc_ISfs, src, srcDst, detail::length, scaleFactor);
 }
 
-// Subtracts the first vector from the second without a scale:
+// Subtracts the first vector from the second without a scale.
 inline Warning sub(std::span<const std::int16_t> src1, std::span<const std::int16_t> src2, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsSub_16s, src1, src2, dst, detail::length);
@@ -83,7 +83,7 @@ inline Warning sub(std::span<const std::complex<double>> src1, std::span<const s
     return detail::call(tarnsSub_64fc, src1, src2, dst, detail::length);
 }
 
-// Subtracts a vector from another in place without a scale:
+// Subtracts a vector from another in place without a scale.
 inline Warning sub(std::span<const std::int16_t> src, std::span<std::int16_t> srcDst)
 {
     return detail::call(tarnsSub_16s_I, src, srcDst, detail::length);
@@ -105,7 +105,7 @@ inline Warning sub(std::span<const std::complex<double>> src, std::span<std::com
     return detail::call(tarnsSub_64fc_I, src, srcDst, detail::length);
 }
 
-// Subtracts a constant from a vector:
+// Subtracts a constant from a vector.
 inline Warning sub(std::span<const std::uint8_t> src, std::uint8_t val, std::span<std::uint8_t> dst, int scaleFactor)
 {
     return detail::call(tarnsSubC_8u_Sfs, src, val, dst, detail::length, scaleFactor);
@@ -127,7 +127,7 @@ inline Warning sub(std::span<const Tarn32sc> src, Tarn32sc val, std::span<Tarn32
     return detail::call(tarnsSubC_32sc_Sfs, src, val, dst, detail::length, scaleFactor);
 }
 
-// Subtracts a constant from a vector in place:
+// Subtracts a constant from a vector in place.
 inline Warning sub(std::uint8_t val, std::span<std::uint8_t> srcDst, int scaleFactor)
 {
     return detail::call(tarnsSubC_8u_ISfs, val, srcDst, detail::length, scaleFactor);
@@ -149,7 +149,7 @@ inline Warning sub(Tarn32sc val, std::span<Tarn32sc> srcDst, int scaleFactor)
     return detail::call(tarnsSubC_32sc_ISfs, val, srcDst, detail::length, scaleFactor);
 }
 
-// Subtracts a constant from a vector of floats:
+// Subtracts a constant from a vector of floats.
 inline Warning sub(std::span<const float> src, float val, std::span<float> dst)
 {
     return detail::call(tarnsSubC_32f, src, val, dst, detail::length);
@@ -169,7 +169,7 @@ inline Warning sub(std::span<const std::complex<double>> src, std::complex<doubl
     return detail::call(tarnsSubC_64fc, src, val, dst, detail::length);
 }
 
-// Subtracts a constant from a vector in place:
+// Subtracts a constant from a vector in place.
 inline Warning sub(std::int16_t val, std::span<std::int16_t> srcDst)
 {
     return detail::call(tarnsSubC_16s_I, val, srcDst, detail::length);
@@ -191,7 +191,7 @@ inline Warning sub(std::complex<double> val, std::span<std::complex<double>> src
     return detail::call(tarnsSubC_64fc_I, val, srcDst, detail::length);
 }
 
-// Subtracts a vector from a constant:
+// Subtracts a vector from a constant.
 inline Warning subRev(std::span<const std::uint8_t> src, std::uint8_t val, std::span<std::uint8_t> dst, int scaleFactor)
 {
     return detail::call(tarnsSubCRev_8u_Sfs, src, val, dst, detail::length, scaleFactor);
@@ -213,7 +213,7 @@ inline Warning subRev(std::span<const Tarn32sc> src, Tarn32sc val, std::span<Tar
     return detail::call(tarnsSubCRev_32sc_Sfs, src, val, dst, detail::length, scaleFactor);
 }
 
-// Subtracts a vector from a constant in place:
+// Subtracts a vector from a constant in place.
 inline Warning subRev(std::uint8_t val, std::span<std::uint8_t> srcDst, int scaleFactor)
 {
     return detail::call(tarnsSubCRev_8u_ISfs, val, srcDst, detail::length, scaleFactor);
@@ -235,7 +235,7 @@ inline Warning subRev(Tarn32sc val, std::span<Tarn32sc> srcDst, int scaleFactor)
     return detail::call(tarnsSubCRev_32sc_ISfs, val, srcDst, detail::length, scaleFactor);
 }
 
-// Subtracts a vector from a constant in floats:
+// Subtracts a vector from a constant in floats.
 inline Warning subRev(std::span<const float> src, float val, std::span<float> dst)
 {
     return detail::call(tarnsSubCRev_32f, src, val, dst, detail::length);
@@ -255,7 +255,7 @@ inline Warning subRev(std::span<const std::complex<double>> src, std::complex<do
     return detail::call(tarnsSubCRev_64fc, src, val, dst, detail::length);
 }
 
-// Subtracts a vector from a constant in place:
+// Subtracts a vector from a constant in place.
 inline Warning subRev(float val, std::span<float> srcDst)
 {
     return detail::call(tarnsSubCRev_32f_I, val, srcDst, detail::length);

@@ -34,7 +34,7 @@ inline Warning threshold(std::span<const std::complex<double>> src, std::span<st
     return detail::call(tarnsThreshold_64fc, src, dst, detail::length, level, relOp);
 }
 
-// The same in place.
+// Limits elements on the side that `relOp` tells, in place.
 inline Warning threshold(std::span<std::int16_t> srcDst, std::int16_t level, int relOp)
 {
     return detail::call(tarnsThreshold_16s_I, srcDst, detail::length, level, relOp);
@@ -90,7 +90,7 @@ inline Warning thresholdLT(std::span<const std::int32_t> src, std::span<std::int
     return detail::call(tarnsThreshold_LT_32s, src, dst, detail::length, level);
 }
 
-// The same in place.
+// Limits elements below the level, in place.
 inline Warning thresholdLT(std::span<std::int16_t> srcDst, std::int16_t level)
 {
     return detail::call(tarnsThreshold_LT_16s_I, srcDst, detail::length, level);
@@ -146,7 +146,7 @@ inline Warning thresholdGT(std::span<const std::complex<double>> src, std::span<
     return detail::call(tarnsThreshold_GT_64fc, src, dst, detail::length, level);
 }
 
-// The same in place.
+// Limits elements above the level, in place.
 inline Warning thresholdGT(std::span<std::int16_t> srcDst, std::int16_t level)
 {
     return detail::call(tarnsThreshold_GT_16s_I, srcDst, detail::length, level);
@@ -172,7 +172,7 @@ inline Warning thresholdGT(std::span<std::complex<double>> srcDst, double level)
     return detail::call(tarnsThreshold_GT_64fc_I, srcDst, detail::length, level);
 }
 
-// Replaces elements below the level:
+// Replaces elements below the level.
 inline Warning thresholdLTVal(std::span<const std::int16_t> src, std::span<std::int16_t> dst, std::int16_t level,
                               std::int16_t value)
 {
@@ -202,7 +202,7 @@ inline Warning thresholdLTVal(std::span<const std::complex<double>> src, std::sp
     return detail::call(tarnsThreshold_LTVal_64fc, src, dst, detail::length, level, value);
 }
 
-// The same in place.
+// Replaces elements below the level, in place.
 inline Warning thresholdLTVal(std::span<std::int16_t> srcDst, std::int16_t level, std::int16_t value)
 {
     return detail::call(tarnsThreshold_LTVal_16s_I, srcDst, detail::length, level, value);
@@ -228,7 +228,7 @@ inline Warning thresholdLTVal(std::span<std::complex<double>> srcDst, double lev
     return detail::call(tarnsThreshold_LTVal_64fc_I, srcDst, detail::length, level, value);
 }
 
-// Replaces elements above the level:
+// Replaces elements above the level.
 inline Warning thresholdGTVal(std::span<const std::int16_t> src, std::span<std::int16_t> dst, std::int16_t level,
                               std::int16_t value)
 {
@@ -258,7 +258,7 @@ inline Warning thresholdGTVal(std::span<const std::complex<double>> src, std::sp
     return detail::call(tarnsThreshold_GTVal_64fc, src, dst, detail::length, level, value);
 }
 
-// The same in place.
+// Replaces elements above the level, in place.
 inline Warning thresholdGTVal(std::span<std::int16_t> srcDst, std::int16_t level, std::int16_t value)
 {
     return detail::call(tarnsThreshold_GTVal_16s_I, srcDst, detail::length, level, value);
@@ -284,7 +284,7 @@ inline Warning thresholdGTVal(std::span<std::complex<double>> srcDst, double lev
     return detail::call(tarnsThreshold_GTVal_64fc_I, srcDst, detail::length, level, value);
 }
 
-// Replaces elements outside a band:
+// Replaces elements outside a band.
 inline Warning thresholdLTValGTVal(std::span<const std::int16_t> src, std::span<std::int16_t> dst, std::int16_t levelLT,
                                    std::int16_t valueLT, std::int16_t levelGT, std::int16_t valueGT)
 {
@@ -301,7 +301,7 @@ inline Warning thresholdLTValGTVal(std::span<const double> src, std::span<double
     return detail::call(tarnsThreshold_LTValGTVal_64f, src, dst, detail::length, levelLT, valueLT, levelGT, valueGT);
 }
 
-// The same in place.
+// Replaces elements outside a band, in place.
 inline Warning thresholdLTValGTVal(std::span<std::int16_t> srcDst, std::int16_t levelLT, std::int16_t valueLT,
                                    std::int16_t levelGT, std::int16_t valueGT)
 {
@@ -317,7 +317,7 @@ inline Warning thresholdLTValGTVal(std::span<double> srcDst, double levelLT, dou
     return detail::call(tarnsThreshold_LTValGTVal_64f_I, srcDst, detail::length, levelLT, valueLT, levelGT, valueGT);
 }
 
-// Inverts elements, those below the level as if they had its magnitude:
+// Inverts elements, those below the level as if they had its magnitude.
 inline Warning thresholdLTInv(std::span<const float> src, std::span<float> dst, float level)
 {
     return detail::call(tarnsThreshold_LTInv_32f, src, dst, detail::length, level);
@@ -336,7 +336,7 @@ inline Warning thresholdLTInv(std::span<const std::complex<double>> src, std::sp
     return detail::call(tarnsThreshold_LTInv_64fc, src, dst, detail::length, level);
 }
 
-// The same in place.
+// Inverts elements, those below the level as if they had its magnitude, in place.
 inline Warning thresholdLTInv(std::span<float> srcDst, float level)
 {
     return detail::call(tarnsThreshold_LTInv_32f_I, srcDst, detail::length, level);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Pre-emphasis, which raises the high frequencies of speech:
+// Pre-emphasizes a signal, which raises the high frequencies of speech.
 inline Warning preemphasize(std::span<float> srcDst, float val)
 {
     return detail::call(tarnsPreemphasize_32f, srcDst, detail::length, val);

@@ -6,7 +6,7 @@
 
 namespace tarns {
 
-// Triangular window:
+// Multiplies by a triangular window.
 inline Warning winBartlett(std::span<const std::int16_t> src, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsWinBartlett_16s, src, dst, detail::length);
@@ -56,7 +56,7 @@ inline Warning winBartlett(std::span<std::complex<double>> srcDst)
     return detail::call(tarnsWinBartlett_64fc_I, srcDst, detail::length);
 }
 
-// Hann window:
+// Multiplies by a Hann window.
 inline Warning winHann(std::span<const std::int16_t> src, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsWinHann_16s, src, dst, detail::length);
@@ -97,7 +97,7 @@ inline Warning winHann(std::span<std::complex<double>> srcDst)
     return detail::call(tarnsWinHann_64fc_I, srcDst, detail::length);
 }
 
-// Hamming window:
+// Multiplies by a Hamming window.
 inline Warning winHamming(std::span<const std::int16_t> src, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsWinHamming_16s, src, dst, detail::length);
@@ -147,7 +147,7 @@ inline Warning winHamming(std::span<std::complex<double>> srcDst)
     return detail::call(tarnsWinHamming_64fc_I, srcDst, detail::length);
 }
 
-// Generalised Blackman window:
+// Multiplies by a generalised Blackman window.
 inline Warning winBlackman(std::span<const std::int16_t> src, std::span<std::int16_t> dst, float alpha)
 {
     return detail::call(tarnsWinBlackman_16s, src, dst, detail::length, alpha);
@@ -197,7 +197,7 @@ inline Warning winBlackman(std::span<std::complex<double>> srcDst, double alpha)
     return detail::call(tarnsWinBlackman_64fc_I, srcDst, detail::length, alpha);
 }
 
-// Generalised Blackman window with alpha = -0.16, the customary one; see tarnsWinBlackman_32f().
+// Multiplies by a generalised Blackman window with alpha = -0.16, the customary one; see ...
 inline Warning winBlackmanStd(std::span<const std::int16_t> src, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsWinBlackmanStd_16s, src, dst, detail::length);
@@ -247,7 +247,7 @@ inline Warning winBlackmanStd(std::span<std::complex<double>> srcDst)
     return detail::call(tarnsWinBlackmanStd_64fc_I, srcDst, detail::length);
 }
 
-// Generalised Blackman window with alpha = -(0.5 / cos(pi / (len - 1)))^2, for which the side lobes fall ...
+// Multiplies by a generalised Blackman window with alpha = -(0.5 / cos(pi / (len - 1)))^2, for which the side ...
 inline Warning winBlackmanOpt(std::span<const std::int16_t> src, std::span<std::int16_t> dst)
 {
     return detail::call(tarnsWinBlackmanOpt_16s, src, dst, detail::length);
@@ -297,7 +297,7 @@ inline Warning winBlackmanOpt(std::span<std::complex<double>> srcDst)
     return detail::call(tarnsWinBlackmanOpt_64fc_I, srcDst, detail::length);
 }
 
-// Generalised Blackman window with a fixed-point alpha = alphaQ15 2^-15, rounded to single precision; see ...
+// Multiplies by a generalised Blackman window with a fixed-point alpha = alphaQ15 2^-15, rounded to single ...
 inline Warning winBlackmanQ15(std::span<const std::int16_t> src, std::span<std::int16_t> dst, int alphaQ15)
 {
     return detail::call(tarnsWinBlackmanQ15_16s, src, dst, detail::length, alphaQ15);
@@ -315,13 +315,13 @@ inline Warning winBlackmanQ15(std::span<Tarn16sc> srcDst, int alphaQ15)
     return detail::call(tarnsWinBlackmanQ15_16sc_I, srcDst, detail::length, alphaQ15);
 }
 
-// Generalised Blackman window with a fixed-point alpha, scaled:
+// Multiplies by a generalised Blackman window with a fixed-point alpha, scaled.
 inline Warning winBlackmanQ15(std::span<std::int16_t> srcDst, int alphaQ15, int scaleFactor)
 {
     return detail::call(tarnsWinBlackmanQ15_16s_ISfs, srcDst, detail::length, alphaQ15, scaleFactor);
 }
 
-// Kaiser window:
+// Multiplies by a Kaiser window.
 inline Warning winKaiser(std::span<const std::int16_t> src, std::span<std::int16_t> dst, float alpha)
 {
     return detail::call(tarnsWinKaiser_16s, src, dst, detail::length, alpha);
@@ -371,7 +371,7 @@ inline Warning winKaiser(std::span<std::complex<double>> srcDst, float alpha)
     return detail::call(tarnsWinKaiser_64fc_I, srcDst, detail::length, alpha);
 }
 
-// Kaiser window with a fixed-point alpha = alphaQ15 2^-15; see tarnsWinKaiser_32f().
+// Multiplies by a Kaiser window with a fixed-point alpha = alphaQ15 2^-15; see tarnsWinKaiser_32f().
 inline Warning winKaiserQ15(std::span<const std::int16_t> src, std::span<std::int16_t> dst, int alphaQ15)
 {
     return detail::call(tarnsWinKaiserQ15_16s, src, dst, detail::length, alphaQ15);
