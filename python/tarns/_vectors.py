@@ -5,6 +5,7 @@ import numpy as np
 
 from ._arrays import DTYPE_OF, dtype_name, number, pointer, value, vector
 from ._library import check, ffi, lib
+from ._plans import NOT_FOR_PLANS, plan
 from ._table import DOCS, FUNCTIONS
 
 #: What has a default: the scale factor, the hint at speed or accuracy, and rounding to nearest.
@@ -72,6 +73,8 @@ class _Candidate:
             return np.empty(count, dtype) if source is None else source.copy()
         if target.dtype != dtype or target.shape != (count,):
             raise ValueError(f"out is {target.dtype}{target.shape}, and {dtype}{(count,)} is wanted")
+        if not target.flags.writeable:
+            raise ValueError("out is read-only")
         if source is not None and target.flags.c_contiguous and not any(
                 array is not source and np.may_share_memory(array, target)
                 for array in given if isinstance(array, np.ndarray)):
@@ -148,8 +151,28 @@ def _words(kinds):
 
 def _make(name):
     choice = _Choice(name)
+    plans = {}
 
     def function(*positional, out=None, dtype=None, size=None, **named):
+        # What a call of these types came to once is known: the plan for it does without all that follows, or refuses.
+        key = None
+        if size is None and (not named or len(named) == 1 and "scale" in named):
+            try:
+                place = None
+                if out is not None:
+                    place = -1
+                    for index, argument in enumerate(positional):
+                        if argument is out:
+                            place = index
+                    place = (out.dtype, place)
+                key = (tuple([getattr(argument, "dtype", None) for argument in positional]), dtype, not named, place)
+                known = plans[key]
+            except (KeyError, TypeError, AttributeError):  # new, or nothing that a key can be made of
+                pass
+            else:
+                answer = known(*positional, out, named.get("scale"))
+                if answer is not NOT_FOR_PLANS:
+                    return answer
         options = {own: named.pop(own) for own in _OPTIONS if own in named}
         if named:
             positional = _arguments(name, positional, named, choice.names(len(positional), named))
@@ -165,7 +188,10 @@ def _make(name):
         candidate = choice.choose(given, dtypes, in_place, "scale" in options)
         if size is None and not any(isinstance(array, np.ndarray) for array in given):
             raise TypeError(f"{name}() wants size= or out=")
-        return candidate(given, outs, size, options)
+        answer = candidate(given, outs, size, options)
+        if key is not None and key not in plans and all(a is b for a, b in zip(given, positional)):
+            plans[key] = plan(candidate, key, _OPTIONS)
+        return answer
 
     function.__name__ = function.__qualname__ = name
     function.__doc__ = DOCS[name]

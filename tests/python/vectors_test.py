@@ -65,6 +65,43 @@ class Vectors(unittest.TestCase):
         tarns.copy(part[:9], out=part[1:])  # overlapping: as if there were two arrays
         np.testing.assert_array_equal(part, [0, 0, 1, 2, 3, 4, 5, 6, 7, 8])
 
+    def test_plans_know_what_they_cannot_do(self):
+        """The second call of a kind takes a short way: what the first one refused or copied is the same there."""
+        for _ in range(3):
+            np.testing.assert_array_equal(tarns.add(self.x, self.y), self.x + self.y)
+            np.testing.assert_array_equal(tarns.add(self.x[::2], self.y[1::2]), self.x[::2] + self.y[1::2])
+            np.testing.assert_array_equal(tarns.add(self.a, self.b, scale=2), np.rint((self.a.astype(int) + self.b) / 4))
+            np.testing.assert_array_equal(tarns.add(self.x, 0.5), self.x + np.float32(0.5))
+            self.assertEqual(tarns.max_indx(self.x), (self.x.max(), int(self.x.argmax())))
+            self.assertEqual(tarns.convert(self.a, dtype=np.float32).dtype, np.float32)
+            with self.assertRaisesRegex(ValueError, "src2 has 3 elements"):
+                tarns.add(self.x, self.y[:3])
+            with self.assertRaises(TypeError):
+                tarns.add(self.x.reshape(10, 100), self.y.reshape(10, 100))
+            with self.assertRaises(tarns.Error):
+                tarns.add(self.x[:0], self.y[:0])
+            out = np.empty(1000, np.float32)
+            self.assertIs(tarns.sub(self.x, self.y, out=out), out)
+            np.testing.assert_array_equal(out, tarns.sub(self.x, self.y))
+            place = self.y.copy()
+            self.assertIs(tarns.sub(self.x, place, out=place), place)
+            np.testing.assert_array_equal(place, out)
+            part = np.arange(10, dtype=np.float32)
+            tarns.copy(part[:9], out=part[1:])
+            np.testing.assert_array_equal(part, [0, 0, 1, 2, 3, 4, 5, 6, 7, 8])
+            part = np.arange(10, dtype=np.float32)
+            tarns.sub(part[:9], part[1:], out=part[1:])
+            np.testing.assert_array_equal(part[1:], np.ones(9))
+            fixed = np.empty(1000, np.float32)
+            fixed.flags.writeable = False
+            with self.assertRaisesRegex(ValueError, "read-only"):
+                tarns.add(self.x, self.y, out=fixed)
+            with self.assertRaisesRegex(ValueError, "is wanted"):
+                tarns.add(self.x, self.y, out=out[:3])
+            with self.assertWarns(tarns.Warning) as caught:
+                tarns.div(np.zeros(1000, np.float32), self.x)
+            self.assertEqual(caught.filename, __file__)
+
     def test_strides_and_lists(self):
         np.testing.assert_array_equal(tarns.add(self.x[::2], self.y[::-2]), self.x[::2] + self.y[::-2])
         np.testing.assert_array_equal(tarns.sqr([1.0, 2.0]), [1, 4])
