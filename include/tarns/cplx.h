@@ -32,8 +32,9 @@ extern "C" {
     too.
     @{ */
 
-/** Conjugates a vector: pDst[i] = (re, -im) of pSrc[i]. The negative of 16 bits saturates, so that -32768 becomes 32767; of a
-    float the sign bit changes, that of a zero or a NaN too. In opposite order: tarnsConjFlip_32fc and its kin.
+/** Conjugates a vector: pDst[i] = (re, -im) of pSrc[i]. The negative of 16 bits saturates, so that -32768 becomes
+    32767; of a float the sign bit changes, that of a zero or a NaN too. In opposite order: tarnsConjFlip_32fc and its
+    kin.
 
     @param pSrc    source, `len` elements
     @param pDst    destination, `len` elements; may be `pSrc` itself, and must not overlap it otherwise
