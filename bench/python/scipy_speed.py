@@ -23,6 +23,13 @@ def median_time(call, seconds=0.15):
     return statistics.median(times) / batch * 1e6
 
 
+def show(title, rows, places):
+    print(f"| {title} | tarns | NumPy, SciPy | ratio |\n| --- | ---: | ---: | ---: |")
+    for name, ours, theirs in rows:
+        own, other = median_time(ours), median_time(theirs)
+        print(f"| {name} | {own:.{places}f} | {other:.{places}f} | {own / other:.2f} |")
+
+
 def main():
     generator = np.random.default_rng(1)
     x = generator.standard_normal(16384).astype(np.float32)
@@ -48,10 +55,19 @@ def main():
         ("median of 5", lambda: tarns.filter_median(x, 5), lambda: signal.medfilt(x, 5)),
         ("convolution 16384 x 1000", lambda: tarns.convolve(x, y[:1000]), lambda: signal.fftconvolve(x, y[:1000])),
     ]
-    print("| 16384 elements | tarns | NumPy, SciPy | ratio |\n| --- | ---: | ---: | ---: |")
-    for name, ours, theirs in rows:
-        own, other = median_time(ours), median_time(theirs)
-        print(f"| {name} | {own:.1f} | {other:.1f} | {own / other:.2f} |")
+    show("16384 elements", rows, 1)
+    x, y, out, a, b, wide = x[:64].copy(), y[:64].copy(), out[:64].copy(), a[:64].copy(), b[:64].copy(), wide[:64].copy()
+    transform = tarns.FFT(64)
+    show("64 elements", [
+        ("add float32", lambda: tarns.add(x, y), lambda: np.add(x, y)),
+        ("add float32, `out=`", lambda: tarns.add(x, y, out=out), lambda: np.add(x, y, out=out)),
+        ("add int16, saturated", lambda: tarns.add(a, b),
+         lambda: np.clip(a.astype(np.int32) + b, -32768, 32767).astype(np.int16)),
+        ("sum float32", lambda: tarns.total(x), lambda: np.sum(x)),
+        ("int16 to float32", lambda: tarns.convert(a, dtype=np.float32), lambda: a.astype(np.float32)),
+        ("real transform", lambda: transform.forward(x), lambda: fft.rfft(x)),
+        ("four biquads float64", lambda: cascade(wide), lambda: signal.sosfilt(sos, wide)),
+    ], 2)
 
 
 main()

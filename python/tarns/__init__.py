@@ -5,6 +5,7 @@ Functions of vectors have the names of the C interface without their types, in s
 `out` takes the results, `dtype` chooses their type where there is more than one. Errors are `tarns.Error`, warnings
 `tarns.Warning`. Other threads of Python run during every call.
 """
+from ._adaptive import LMS, FixedLMS, TrellisDecoder, WaveletJoin, WaveletSplit
 from ._arrays import complex_int8, complex_int16, complex_int32, complex_int64
 from ._library import Error, Warning, ffi, lib
 from ._objects import DCT, FFT, FIR, IIR, Biquads, Resampler, convolve, correlate, firwin, hilbert

@@ -19,3 +19,20 @@ foreach(header IN LISTS headers)
         message(SEND_ERROR "${header} does not compile on its own")
     endif()
 endforeach()
+
+# The C++ face is all text of headers: every compiler that is there takes it without a warning, with exceptions or not.
+find_program(clang NAMES clang++ clang++-16 clang++-14)
+set(compilers ${CXX_COMPILER})
+if(clang)
+    list(APPEND compilers ${clang})
+endif()
+list(FILTER cxx_flags INCLUDE REGEX "^-m") # those that every compiler knows
+foreach(compiler IN LISTS compilers)
+    foreach(mode IN ITEMS -fexceptions -fno-exceptions)
+        execute_process(COMMAND ${compiler} ${cxx_flags} -std=c++20 ${strict} -Wconversion -Wshadow -Wno-psabi ${mode}
+            -x c++ -include ${INCLUDE_DIR}/tarns.hpp /dev/null RESULT_VARIABLE result)
+        if(NOT result EQUAL 0)
+            message(SEND_ERROR "${compiler} ${mode} does not take tarns.hpp")
+        endif()
+    endforeach()
+endforeach()

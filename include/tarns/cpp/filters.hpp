@@ -8,17 +8,38 @@
 namespace tarns {
 namespace detail {
 
-/// The calls of the filters of one sample type; 16-bit samples meet taps of type float, and have a scale factor.
+/// The type of the taps, where nothing else is said: that of the samples, or single precision for integers.
 template <class T>
+struct TapOf {
+    using Type = T;
+};
+template <>
+struct TapOf<std::int16_t> {
+    using Type = float;
+};
+template <>
+struct TapOf<Tarn16sc> {
+    using Type = std::complex<float>;
+};
+template <>
+struct TapOf<std::int32_t> {
+    using Type = double;
+};
+template <>
+struct TapOf<Tarn32sc> {
+    using Type = std::complex<double>;
+};
+
+/// The calls of the filters of one type of samples and one of taps; integer samples have a scale factor.
+template <class T, class TapType>
 struct FilterCalls;
 
-#define TARNS_FILTERS(T, TapType, tail, joined, scale, inPlace)           \
+#define TARNS_FILTERS(T, TapType, isScaled, tail, joined, scale, inPlace) \
     template <>                                                           \
-    struct FilterCalls<T> {                                               \
-        using Tap = TapType;                                              \
+    struct FilterCalls<T, TapType> {                                      \
         using Fir = TarnsFIRState##tail;                                  \
         using Iir = TarnsIIRState##tail;                                  \
-        static constexpr bool scaled = sizeof(T) == 2;                    \
+        static constexpr bool scaled = isScaled;                          \
         static constexpr auto createFir = &tarnsFIRInitAlloc##tail;       \
         static constexpr auto createRate = &tarnsFIRMRInitAlloc##tail;    \
         static constexpr auto createIir = &tarnsIIRInitAlloc##tail;       \
@@ -36,49 +57,52 @@ struct FilterCalls;
         static constexpr auto getIirDelay = &tarnsIIRGetDlyLine##tail;    \
         static constexpr auto setIirDelay = &tarnsIIRSetDlyLine##tail;    \
     };
-TARNS_FILTERS(float, float, _32f, _BiQuad_32f, , _I)
-TARNS_FILTERS(double, double, _64f, _BiQuad_64f, , _I)
-TARNS_FILTERS(std::complex<float>, std::complex<float>, _32fc, _BiQuad_32fc, , _I)
-TARNS_FILTERS(std::complex<double>, std::complex<double>, _64fc, _BiQuad_64fc, , _I)
-TARNS_FILTERS(std::int16_t, float, 32f_16s, 32f_BiQuad_16s, _Sfs, _ISfs)
+TARNS_FILTERS(float, float, false, _32f, _BiQuad_32f, , _I)
+TARNS_FILTERS(double, double, false, _64f, _BiQuad_64f, , _I)
+TARNS_FILTERS(std::complex<float>, std::complex<float>, false, _32fc, _BiQuad_32fc, , _I)
+TARNS_FILTERS(std::complex<double>, std::complex<double>, false, _64fc, _BiQuad_64fc, , _I)
+TARNS_FILTERS(float, double, false, 64f_32f, 64f_BiQuad_32f, , _I)
+TARNS_FILTERS(std::complex<float>, std::complex<double>, false, 64fc_32fc, 64fc_BiQuad_32fc, , _I)
+TARNS_FILTERS(std::int16_t, float, true, 32f_16s, 32f_BiQuad_16s, _Sfs, _ISfs)
+TARNS_FILTERS(std::int16_t, double, true, 64f_16s, 64f_BiQuad_16s, _Sfs, _ISfs)
+TARNS_FILTERS(Tarn16sc, std::complex<float>, true, 32fc_16sc, 32fc_BiQuad_16sc, _Sfs, _ISfs)
+TARNS_FILTERS(Tarn16sc, std::complex<double>, true, 64fc_16sc, 64fc_BiQuad_16sc, _Sfs, _ISfs)
+TARNS_FILTERS(std::int32_t, double, true, 64f_32s, 64f_BiQuad_32s, _Sfs, _ISfs)
+TARNS_FILTERS(Tarn32sc, std::complex<double>, true, 64fc_32sc, 64fc_BiQuad_32sc, _Sfs, _ISfs)
 #undef TARNS_FILTERS
 
 /// With the scale factor where the samples have one.
-template <class T, class Call>
+template <class Calls, class Call>
 Warning withScale(int scaleFactor, Call call)
 {
-    if constexpr (FilterCalls<T>::scaled)
+    if constexpr (Calls::scaled)
         return call(scaleFactor);
     else
         return call();
 }
 
 /// One array is filtered in place: out of place the source must not be overwritten.
-template <class T, class Function, class InPlace, class State>
+template <class Calls, class T, class Function, class InPlace, class State>
 Warning filterBlock(Function function, InPlace inPlace, std::span<const T> samples, std::span<T> filtered, State* state,
                     int scaleFactor)
 {
-    return withScale<T>(scaleFactor, [&](auto... scale) {
+    return withScale<Calls>(scaleFactor, [&](auto... scale) {
         if (samples.data() == filtered.data() && samples.size() == filtered.size())
             return call(inPlace, filtered, length, state, scale...);
         return call(function, samples, filtered, length, state, scale...);
     });
 }
 
-inline int lengthOf(std::size_t size) noexcept
-{
-    return size <= static_cast<std::size_t>(std::numeric_limits<int>::max()) ? static_cast<int>(size) : 0;
-}
-
 } // namespace detail
 
-/// y[n] = sum of taps[k] x[n - k], over a stream that comes in blocks of any length.
-template <class T>
+/// y[n] = sum of taps[k] x[n - k], over a stream that comes in blocks of any length. Taps may have another type than
+/// samples: Fir<float, double> computes in double precision.
+template <class T, class TapType = typename detail::TapOf<T>::Type>
 class Fir {
-    using Calls = detail::FilterCalls<T>;
+    using Calls = detail::FilterCalls<T, TapType>;
 
 public:
-    using Tap = typename Calls::Tap;
+    using Tap = TapType;
 
     Fir() = default;
 
@@ -100,10 +124,11 @@ public:
     /// Number of taps.
     std::size_t size() const noexcept { return size_; }
 
-    /// Filters a block; `samples` and `filtered` may be one array. 16-bit results are scaled by 2^-scaleFactor.
+    /// Filters a block; `samples` and `filtered` may be one array. Integer results are scaled by 2^-scaleFactor.
     Warning operator()(std::span<const T> samples, std::span<T> filtered, int scaleFactor = 0)
     {
-        return detail::filterBlock<T>(Calls::fir, Calls::firInPlace, samples, filtered, state_.get(), scaleFactor);
+        return detail::filterBlock<Calls, T>(Calls::fir, Calls::firInPlace, samples, filtered, state_.get(),
+                                             scaleFactor);
     }
 
     /// As many taps as before.
@@ -132,12 +157,12 @@ private:
 };
 
 /// Changes the rate by up / down through taps at up times the rate of the input.
-template <class T>
+template <class T, class TapType = typename detail::TapOf<T>::Type>
 class Resampler {
-    using Calls = detail::FilterCalls<T>;
+    using Calls = detail::FilterCalls<T, TapType>;
 
 public:
-    using Tap = typename Calls::Tap;
+    using Tap = TapType;
 
     Resampler() = default;
 
@@ -163,7 +188,7 @@ public:
         const std::size_t times = down_ > 0 ? samples.size() / down_ : 0;
         if (samples.size() != times * down_ || resampled.size() != times * up_)
             return detail::warning(tarnStsSizeErr);
-        return detail::withScale<T>(scaleFactor, [&](auto... scale) {
+        return detail::withScale<Calls>(scaleFactor, [&](auto... scale) {
             return detail::warning(Calls::fir(detail::elements(samples), detail::elements(resampled),
                                               detail::lengthOf(times), state_.get(), scale...));
         });
@@ -178,17 +203,17 @@ private:
 namespace detail {
 
 /// What both forms of recursive filters share.
-template <class T>
+template <class T, class TapType>
 class Recursive {
-    using Calls = FilterCalls<T>;
+    using Calls = FilterCalls<T, TapType>;
 
 public:
-    using Tap = typename Calls::Tap;
+    using Tap = TapType;
 
-    /// Filters a block; `samples` and `filtered` may be one array. 16-bit results are scaled by 2^-scaleFactor.
+    /// Filters a block; `samples` and `filtered` may be one array. Integer results are scaled by 2^-scaleFactor.
     Warning operator()(std::span<const T> samples, std::span<T> filtered, int scaleFactor = 0)
     {
-        return filterBlock<T>(Calls::iir, Calls::iirInPlace, samples, filtered, state_.get(), scaleFactor);
+        return filterBlock<Calls, T>(Calls::iir, Calls::iirInPlace, samples, filtered, state_.get(), scaleFactor);
     }
 
     /// Elements of the delay line, which is that of the transposed direct form II.
@@ -225,12 +250,12 @@ private:
 } // namespace detail
 
 /// a[0] y[n] = sum of b[k] x[n - k] - sum of a[k] y[n - k]: one section of any order. From order 5 on take Biquads.
-template <class T>
-class Iir : public detail::Recursive<T> {
-    using Calls = detail::FilterCalls<T>;
+template <class T, class TapType = typename detail::TapOf<T>::Type>
+class Iir : public detail::Recursive<T, TapType> {
+    using Calls = detail::FilterCalls<T, TapType>;
 
 public:
-    using Tap = typename Calls::Tap;
+    using Tap = TapType;
 
     Iir() = default;
 
@@ -254,12 +279,12 @@ public:
 };
 
 /// A cascade of sections of order 2, six taps each: b0 b1 b2 a0 a1 a2, as SciPy's `sos` has them.
-template <class T>
-class Biquads : public detail::Recursive<T> {
-    using Calls = detail::FilterCalls<T>;
+template <class T, class TapType = typename detail::TapOf<T>::Type>
+class Biquads : public detail::Recursive<T, TapType> {
+    using Calls = detail::FilterCalls<T, TapType>;
 
 public:
-    using Tap = typename Calls::Tap;
+    using Tap = TapType;
 
     Biquads() = default;
 

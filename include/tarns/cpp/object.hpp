@@ -30,6 +30,12 @@ inline TarnStatus allocate(int bytes, Buffer& buffer)
     return bytes > 0 && !buffer ? tarnStsNoMemErr : tarnStsNoErr;
 }
 
+/// A length for C, of which one beyond its range becomes one that is refused.
+inline int lengthOf(std::size_t size) noexcept
+{
+    return size <= static_cast<std::size_t>(std::numeric_limits<int>::max()) ? static_cast<int>(size) : 0;
+}
+
 /// A call of an object for arrays of `size` elements.
 template <class Function, class Array, class... Arguments>
 Warning callOf(std::size_t size, Function function, Array array, const Arguments&... arguments)
