@@ -161,7 +161,7 @@ TARN_API const TarnLibraryVersion* tarnsGetLibVersion(void);
 
     __Accuracy:__ clocks are those of the time-stamp counter, which runs at a rate of its own and is not serialised.
 
-    __Cost:__ some hundred cycles a call with CPUID, and thousands under a hypervisor, which has to be asked; some tens
+    __Cost:__ some hundred cycles for each CPUID, and a microsecond under a hypervisor, which has to be asked; some tens
     of cycles for the clocks.
 
     __Guide:__ [The same bits everywhere](docs/reproducibility.md) tells which level of the library a program gets.
@@ -266,8 +266,8 @@ TARN_API void tarn_get_cpu_ident(TarnCpuIdent* pIdent);
 
     __Accuracy:__ functions of vectors obey the caller's rounding mode where they say so, and give it back unchanged.
 
-    __Cost:__ a write of either control word takes some tens of cycles; the functions that look first save it where it
-    would change nothing.
+    __Cost:__ some nanoseconds a call; a write of a control word also waits for the arithmetic before it, which the
+    functions that look first save where it would change nothing.
 
     __Guide:__ [Recursive filters](docs/iir.md), section Silence, and [conversions](docs/conversions.md) for rounding.
     @{ */

@@ -22,8 +22,8 @@ extern "C" {
 
     __Accuracy:__ integers are exact until their one rounding; floats are one IEEE addition each.
 
-    __Cost:__ in cache one store of a vector a cycle: a plain loop's time for floats, a tenth to a fifth of it for
-    scaled integers.
+    __Cost:__ in cache one store of a vector a cycle: a plain loop's time for floats, 0.05 to 0.3 of it for scaled
+    integers.
 
     __Guide:__ [The scale rule](docs/scale-rule.md), and [working on vectors](docs/vectors.md).
 

@@ -26,7 +26,7 @@ extern "C" {
     __Accuracy:__ coefficients of one high order hold its poles far less precisely than those of sections do: from order
     five on take biquads.
 
-    __Cost:__ setting taps takes as long as filtering some hundred samples.
+    __Cost:__ new taps take as long as some tens of samples, 0.08 microseconds; no call but the first allocates.
 
     __Guide:__ [Recursive filters](docs/iir.md).
 

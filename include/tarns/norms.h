@@ -46,6 +46,8 @@ extern "C" {
     the scaled form the value v is taken as it is at a scaleFactor of 0, shifted right by it from 1 to 31, and 0 above
     that; below 0 it is shifted left by up to 31 bits and saturates at 2147483647.
 
+    `32fc` elements are squared without scaling: magnitudes beyond 1.8e19 make NaN, and those below 1.1e-19 count as 0.
+
     @param pSrc        vector, `len` elements
     @param len         number of elements, at least 1
     @param pNorm       where the norm goes
@@ -66,6 +68,9 @@ TARN_API TarnStatus tarnsNorm_Inf_16s32s_Sfs(const Tarn16s* pSrc, int len, Tarn3
     shifted right by it from 1 to 31 (63 for more elements), and 0 above that; below 0 it is shifted left by up to 31
     bits (32) and saturates at 2147483647.
 
+    `32fc` elements are squared without scaling: magnitudes beyond 1.8e19 make NaN, and those below 1.1e-19 an infinity
+    or NaN.
+
     @param pSrc        vector, `len` elements
     @param len         number of elements, at least 1
     @param pNorm       where the norm goes
@@ -84,6 +89,9 @@ TARN_API TarnStatus tarnsNorm_L1_16s32s_Sfs(const Tarn16s* pSrc, int len, Tarn32
     formed in double precision. In the scaled form the root is divided, for a negative factor multiplied, by the signed
     32-bit integer 1 << (|scaleFactor| mod 32): a factor of 32 changes nothing, and one of 31 negates. The result is
     truncated towards zero and saturates at 2147483647.
+
+    `32fc` elements are squared without scaling: the norm is infinite if the squares add up to more than 3.4e38, and
+    loses digits where magnitudes are below 1e-19.
 
     @param pSrc        vector, `len` elements
     @param len         number of elements, at least 1

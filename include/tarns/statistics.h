@@ -181,7 +181,7 @@ TARN_API TarnStatus tarnsSumLn_16s32f(const Tarn16s* pSrc, int len, Tarn32f* pSu
     __Guide:__ [Reductions and their accuracy](docs/statistics.md).
     @{ */
 
-/** Finds the smallest element: *pMin = min of pSrc[i].
+/** Finds the smallest element: *pMin = min of pSrc[i]. NaNs are dropped, and nothing tells of them.
 
     @param pSrc vector, `len` elements
     @param len  number of elements, at least 1
@@ -193,7 +193,7 @@ TARN_API TarnStatus tarnsMin_32f(const Tarn32f* pSrc, int len, Tarn32f* pMin);
 TARN_API TarnStatus tarnsMin_64f(const Tarn64f* pSrc, int len, Tarn64f* pMin);
 ///@}
 
-/** Finds the largest element: *pMax = max of pSrc[i].
+/** Finds the largest element: *pMax = max of pSrc[i]. NaNs are dropped, and nothing tells of them.
 
     @param pSrc vector, `len` elements
     @param len  number of elements, at least 1
@@ -236,7 +236,7 @@ TARN_API TarnStatus tarnsMaxIndx_32f(const Tarn32f* pSrc, int len, Tarn32f* pMax
 TARN_API TarnStatus tarnsMaxIndx_64f(const Tarn64f* pSrc, int len, Tarn64f* pMax, int* pIndx);
 ///@}
 
-/** Finds the smallest and largest element in one pass.
+/** Finds the smallest and largest element in one pass. NaNs are dropped, and nothing tells of them.
 
     @param pSrc vector, `len` elements
     @param len  number of elements, at least 1

@@ -88,6 +88,8 @@ TARN_API TarnStatus tarnsWinBartlett_64fc_I(Tarn64fc* pSrcDst, int len);
 
     With three elements the ends are set to zero, but for double precision, where the zero weight is computed.
 
+    Convert 16-bit elements to `32f` first if there are more than some 600, or 300 complex ones: the weights drift.
+
     @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
     @param pDst    destination, `len` elements
     @param pSrcDst array of `len` elements
@@ -110,6 +112,8 @@ TARN_API TarnStatus tarnsWinHann_64fc_I(Tarn64fc* pSrcDst, int len);
 
 /** Multiplies by a Hamming window: w[n] = 0.54 - 0.46 cos(n t), a raised cosine on a pedestal, with t = 2 pi / (len -
     1).
+
+    Convert 16-bit elements to `32f` first if there are more than some 600, or 300 complex ones: the weights drift.
 
     @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
     @param pDst    destination, `len` elements
@@ -137,6 +141,8 @@ TARN_API TarnStatus tarnsWinHamming_64fc_I(Tarn64fc* pSrcDst, int len);
     Computed as (alpha + 0.5) - y - 4 alpha y^2 with y = 0.5 cos(n t). Above 1025 elements of single or double precision
     the whole weight is formed in extended precision. With three elements the ends are set to zero; in single precision
     they always are, whatever stood there. In double precision they carry the rounding of alpha + 0.5.
+
+    Convert 16-bit elements to `32f` first if there are more than some 600, or 300 complex ones: the weights drift.
 
     @param pSrc    source, `len` elements; may be the destination, must not overlap it otherwise
     @param pDst    destination, `len` elements
