@@ -73,19 +73,21 @@ TARN_INLINE PartArrays<T> partsOf(T* re, T* im)
                                               const Tarn##T##c* dirTab, Tarn##T* scratch)                              \
     {                                                                                                                  \
         tarn::dft::leafAny(tarn::dft::pairsFrom<FORWARD>(pSrc), stride, tarn::dft::pairsTo<FORWARD>(pDst), q, count,   \
-                           dirTab, scratch);                                                                           \
+                           1, static_cast<const int*>(tarn::dft::oneBlock), dirTab, scratch);                          \
     }                                                                                                                  \
     void tarns_crDft##DIRECTION##_Prime_##T(const Tarn##T* pSrcRe, const Tarn##T* pSrcIm, int stride, Tarn##T* pDstRe, \
                                             Tarn##T* pDstIm, int q, int count, const Tarn##T##c* dirTab,               \
                                             Tarn##T* scratch)                                                          \
     {                                                                                                                  \
         tarn::dft::leafAny(tarn::dft::partsOf<FORWARD>(pSrcRe, pSrcIm), stride,                                        \
-                           tarn::dft::partsOf<FORWARD>(pDstRe, pDstIm), q, count, dirTab, scratch);                    \
+                           tarn::dft::partsOf<FORWARD>(pDstRe, pDstIm), q, count, 1,                                   \
+                           static_cast<const int*>(tarn::dft::oneBlock), dirTab, scratch);                             \
     }                                                                                                                  \
     void tarns_rDft##DIRECTION##_Prime_##T(const Tarn##T* pSrc, int stride, Tarn##T* pDst, int q, int count,           \
                                            const Tarn##T##c* dirTab, Tarn##T* scratch)                                 \
     {                                                                                                                  \
-        tarn::dft::REAL_ANY(pSrc, stride, pDst, q, count, dirTab, scratch);                                            \
+        tarn::dft::REAL_ANY(pSrc, stride, pDst, q, count, 1, static_cast<const int*>(tarn::dft::oneBlock), dirTab,     \
+                            scratch);                                                                                  \
     }
 
 #define TARN_DFT_DEFINE_MERGE(T, DIRECTION, FORWARD, P)                                                                \

@@ -29,6 +29,8 @@ struct StridedPlaces {
         }
         return place;
     }
+    // What is left from transform u on.
+    StridedPlaces from(int u) const { return {stride, count, perm, u / count, u % count}; }
     Places<T> nextLanes()
     {
         Places<T> at;
@@ -78,14 +80,57 @@ struct Spaced {
     TARN_INLINE auto operator[](int j) const { return array.element(j * distance); }
 };
 
-// Any q, one block; scratch holds 2 q - 2 reals on a boundary.
-template <typename In, typename Out, typename T>
-inline void leafAny(In src, std::ptrdiff_t stride, Out dst, int q, int count, const PairOf<T>* dirTab, T* scratch)
+// From so many transforms on they go side by side, else each by sums that are side by side in themselves.
+inline constexpr int fewestLeavesTogether = 4;
+
+// Calls leaves(u, places) for as many neighbouring transforms as a vector has lanes, the last ones maybe twice, or,
+// where there are not as many, leaf(u, place) for each.
+template <typename T, typename Leaves, typename Leaf>
+TARN_INLINE void forLeavesTogether(int all, const StridedPlaces<T>& places, Leaves leaves, Leaf leaf)
 {
-    const Roots<T> roots(dirTab, q);
-    for (int i = 0; i < count; ++i) {
-        directSums<true>(Spaced<In>{src + i * stride, stride * count}, dst + std::ptrdiff_t{i} * q, q, roots, scratch);
+    constexpr int width = blockLanes<T>;
+    if (all < width) {
+        StridedPlaces<T> next = places;
+        for (int u = 0; u < all; ++u) {
+            leaf(u, next.next());
+        }
+        return;
     }
+    for (int u = 0; u < all; u += width) {
+        const int first = std::min(u, all - width);
+        leaves(first, places.from(first).nextLanes());
+    }
+}
+
+// Any odd q; scratch holds 2 q - 2 reals on a boundary.
+template <typename In, typename Out, typename T>
+inline void leafAny(In src, std::ptrdiff_t stride, Out dst, int q, int count, int blocks, const int* perm,
+                    const PairOf<T>* dirTab, T* scratch)
+{
+    const std::ptrdiff_t distance = stride * count;
+    const int all = count * blocks;
+    StridedPlaces<T> places{stride, count, perm};
+    if (all < fewestLeavesTogether) {
+        const Roots<T> roots(dirTab, q);
+        for (int u = 0; u < all; ++u) {
+            directSums<true>(Spaced<In>{src + places.next(), distance}, dst + std::ptrdiff_t{u} * q, q, roots, scratch);
+        }
+        return;
+    }
+    const T* const roots = asParts(dirTab);
+    forLeavesTogether(
+        all, places,
+        [&](int u, const Places<T>& at) {
+            Lanes<T> pairs[largestDirect];
+            transformOdd<BlockPart<T>>(
+                q, roots, static_cast<Lanes<T>*>(pairs), [&](int j) { return (src + j * distance).gathered(at); },
+                [&](int k, Lanes<T> y) { dst.scatter(std::ptrdiff_t{u} * q + k, q, y); });
+        },
+        [&](int u, std::ptrdiff_t at) {
+            transformOdd<T>(
+                q, roots, reinterpret_cast<Complex<T>*>(scratch), [&](int j) { return src.element(at + j * distance); },
+                [&](int k, Complex<T> y) { dst.put(std::ptrdiff_t{u} * q + k, y); });
+        });
 }
 
 // -- Merges ----------------------------------------------------------------------------------------------------------

@@ -108,30 +108,132 @@ inline void leafFromPerm(const T* src, std::ptrdiff_t stride, T* dst, int count,
     }
 }
 
-// Any odd q, one block; scratch holds 2 q - 2 reals on a boundary.
-template <typename T>
-inline void leafAnyToPerm(const T* src, std::ptrdiff_t stride, T* dst, int q, int count, const PairOf<T>* dirTab,
-                          T* scratch)
+// Any odd q. The terms are those of directToPerm() and directFromPerm(): of each pair one for the real part of the root
+// and one for the imaginary part. emit(k, a, b) takes the sums of the one kind, which begin with `first`, and the
+// other.
+template <typename X, typename Emit>
+TARN_INLINE void sumTerms(int q, const Element<X>* roots, X first, const X* terms, Emit emit)
 {
-    T x[largestDirect];
-    for (int i = 0; i < count; ++i, dst += q) {
-        for (int j = 0; j < q; ++j) {
-            x[j] = loadElement(src + (i + std::ptrdiff_t{j} * count) * stride);
+    for (int k = 1; k < q - k; ++k) {
+        X a = first;
+        X b = splat<X>(0);
+        int e = 0;
+        for (int j = 0; j < q - 1; j += 2) {
+            e += k;
+            e -= e >= q ? q : 0;
+            a = add(a, mul(terms[j], splat<X>(roots[2 * e])));
+            b = add(b, mul(terms[j + 1], splat<X>(roots[2 * e + 1])));
         }
-        directToPerm(static_cast<const T*>(x), dst, q, Roots<T>(dirTab, q), scratch);
+        emit(k, a, b);
     }
 }
-template <typename T>
-inline void leafAnyFromPerm(const T* src, std::ptrdiff_t stride, T* dst, int q, int count, const PairOf<T>* dirTab,
-                            T* scratch)
+template <typename X, typename Point, typename Put>
+TARN_INLINE void oddToPerm(int q, const Element<X>* roots, X* terms, Point point, Put put)
 {
-    T x[largestDirect];
-    for (int i = 0; i < count; ++i, src += q) {
-        directFromPerm(src, static_cast<T*>(x), q, Roots<T>(dirTab, q), scratch);
-        for (int j = 0; j < q; ++j) {
-            store(dst + (i + std::ptrdiff_t{j} * count) * stride, x[j]);
-        }
+    const X first = point(0);
+    X total = first;
+    for (int j = 1; j < q - j; ++j) {
+        const X low = point(j);
+        const X high = point(q - j);
+        terms[2 * j - 2] = add(low, high);
+        terms[2 * j - 1] = sub(low, high);
+        total = add(total, terms[2 * j - 2]);
     }
+    put(0, total);
+    sumTerms(q, roots, first, terms, [&](int k, X a, X b) {
+        put(2 * k - 1, a);
+        put(2 * k, b);
+    });
+}
+template <typename X, typename Point, typename Put>
+TARN_INLINE void oddFromPerm(int q, const Element<X>* roots, X* terms, Point point, Put put)
+{
+    const X first = point(0);
+    X total = first;
+    for (int j = 0; j < q - 1; ++j) {
+        const X value = point(j + 1);
+        terms[j] = add(value, value);
+        total = j % 2 == 0 ? add(total, terms[j]) : total;
+    }
+    put(0, total);
+    sumTerms(q, roots, first, terms, [&](int n, X a, X b) {
+        put(n, add(a, b));
+        put(q - n, sub(a, b));
+    });
+}
+
+// scratch holds 2 q - 2 reals on a boundary.
+template <typename T>
+inline void leafAnyToPerm(const T* src, std::ptrdiff_t stride, T* dst, int q, int count, int blocks, const int* perm,
+                          const PairOf<T>* dirTab, T* scratch)
+{
+    const std::ptrdiff_t distance = stride * count;
+    const int all = count * blocks;
+    StridedPlaces<T> places{stride, count, perm};
+    if (all < fewestLeavesTogether) {
+        T x[largestDirect];
+        for (int u = 0; u < all; ++u) {
+            const T* const from = src + places.next();
+            for (int j = 0; j < q; ++j) {
+                x[j] = loadElement(from + j * distance);
+            }
+            directToPerm(static_cast<const T*>(x), dst + std::ptrdiff_t{u} * q, q, Roots<T>(dirTab, q), scratch);
+        }
+        return;
+    }
+    const T* const roots = asParts(dirTab);
+    forLeavesTogether(
+        all, places,
+        [&](int u, const Places<T>& at) {
+            BlockPart<T> terms[largestDirect];
+            oddToPerm(
+                q, roots, static_cast<BlockPart<T>*>(terms),
+                [&](int j) { return PartArrays<const T>::gatheredOf(src + j * distance, at); },
+                [&, to = dst + std::ptrdiff_t{u} * q](int k, BlockPart<T> y) {
+                    PartArrays<T>::scatterOf(to + k, spaced<T>(q), y);
+                });
+        },
+        [&](int u, std::ptrdiff_t at) {
+            oddToPerm(
+                q, roots, scratch, [&](int j) { return loadElement(src + at + j * distance); },
+                [&, to = dst + std::ptrdiff_t{u} * q](int k, T y) { store(to + k, y); });
+        });
+}
+template <typename T>
+inline void leafAnyFromPerm(const T* src, std::ptrdiff_t stride, T* dst, int q, int count, int blocks, const int* perm,
+                            const PairOf<T>* dirTab, T* scratch)
+{
+    const std::ptrdiff_t distance = stride * count;
+    const int all = count * blocks;
+    StridedPlaces<T> places{stride, count, perm};
+    if (all < fewestLeavesTogether) {
+        T x[largestDirect];
+        for (int u = 0; u < all; ++u) {
+            directFromPerm(src + std::ptrdiff_t{u} * q, static_cast<T*>(x), q, Roots<T>(dirTab, q), scratch);
+            T* const to = dst + places.next();
+            for (int j = 0; j < q; ++j) {
+                store(to + j * distance, x[j]);
+            }
+        }
+        return;
+    }
+    const T* const roots = asParts(dirTab);
+    forLeavesTogether(
+        all, places,
+        [&](int u, const Places<T>& at) {
+            BlockPart<T> terms[largestDirect];
+            oddFromPerm(
+                q, roots, static_cast<BlockPart<T>*>(terms),
+                [&, from = src + std::ptrdiff_t{u} * q](int k) {
+                    return PartArrays<const T>::gatheredOf(from + k, spaced<T>(q));
+                },
+                [&](int j, BlockPart<T> x) { PartArrays<T>::scatterOf(dst + j * distance, at, x); });
+        },
+        [&](int u, std::ptrdiff_t at) {
+            oddFromPerm(
+                q, roots, scratch, [&, from = src + std::ptrdiff_t{u} * q](int k) { return loadElement(from + k); },
+                [&](int j, T x) { store(dst + at + j * distance, x); });
+        });
 }
 
 // -- Merges and splits -----------------------------------------------------------------------------------------------

@@ -94,10 +94,7 @@ private:
         } else if (q == 5) {
             leafOf<5>(src, level.before, dst, level.factor, blocks, perm);
         } else {
-            for (int t = 0; t < blocks; ++t) {
-                leafAny(src + perm[t], level.before, dst + std::ptrdiff_t{t} * sizeOf(level), q, level.factor,
-                        this->leafRoots(), scratch);
-            }
+            leafAny(src, level.before, dst, q, level.factor, blocks, perm, this->leafRoots(), scratch);
         }
     }
 
@@ -233,10 +230,7 @@ private:
         } else if (q == 5) {
             leafToPerm<5>(src, level.before, dst, level.factor, blocks, perm);
         } else {
-            for (int t = 0; t < blocks; ++t) {
-                leafAnyToPerm(src + perm[t], level.before, dst + std::ptrdiff_t{t} * sizeOf(level), q, level.factor,
-                              this->leafRoots(), scratch);
-            }
+            leafAnyToPerm(src, level.before, dst, q, level.factor, blocks, perm, this->leafRoots(), scratch);
         }
     }
     void leavesInverse(const T* src, T* dst, const Factor& level, int blocks, const int* perm) const
@@ -247,10 +241,7 @@ private:
         } else if (q == 5) {
             leafFromPerm<5>(src, level.before, dst, level.factor, blocks, perm);
         } else {
-            for (int t = 0; t < blocks; ++t) {
-                leafAnyFromPerm(src + std::ptrdiff_t{t} * sizeOf(level), level.before, dst + perm[t], q, level.factor,
-                                this->leafRoots(), scratch);
-            }
+            leafAnyFromPerm(src, level.before, dst, q, level.factor, blocks, perm, this->leafRoots(), scratch);
         }
     }
 
