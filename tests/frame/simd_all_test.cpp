@@ -44,6 +44,7 @@
 #include "frame/simd_saturated.h"
 #include "frame/simd_shuffle.h"
 #include "frame/simd_sign.h"
+#include "frame/simd_transpose.h"
 #include "frame/two_arrays.h"
 #include "frame/walk.h"
 #include "frame/walk_groups.h"
