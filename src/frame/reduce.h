@@ -35,7 +35,36 @@ struct Accumulators {
             return left.at[0];
         }
     }
+
+    // All of them in one pack, and back.
+    TARN_INLINE auto together() const
+    {
+        if constexpr (count == 4) {
+            return tarn::join(tarn::join(at[0], at[1]), tarn::join(at[2], at[3]));
+        } else if constexpr (count == 2) {
+            return tarn::join(at[0], at[1]);
+        } else {
+            return at[0];
+        }
+    }
+    template <typename All>
+    TARN_INLINE void takeApart(All all)
+    {
+        if constexpr (count == 4) {
+            at = {lowHalf(lowHalf(all)), highHalf(lowHalf(all)), lowHalf(highHalf(all)), highHalf(highHalf(all))};
+        } else if constexpr (count == 2) {
+            at = {lowHalf(all), highHalf(all)};
+        } else {
+            at[0] = all;
+        }
+    }
 };
+
+// Accumulators of fewer bytes than the widest register has are lanes of one, or of a few.
+template <typename State>
+inline constexpr bool isNarrow = false;
+template <typename T, int N>
+inline constexpr bool isNarrow<Pack<T, N>> = bytesOf<T, N> < widestRegister;
 
 // Takes packs of `step` elements from i on, one for each accumulator in turn, as long as there is one for each; tells
 // where it stopped. Two turns between tests of the loop's end, since a turn may be no more than two instructions.
@@ -43,6 +72,19 @@ template <int step, typename State, int count, typename Take, typename... S>
 TARN_INLINE Index takeSteps(Accumulators<State, count>& states, Index i, Index len, Take take, S... src)
 {
     constexpr int turn = count * step;
+    if constexpr (isNarrow<State>) {
+        auto all = states.together();
+        for (; i <= len - 2 * turn; i += 2 * turn) {
+            all = take(all, loadPack<turn>(src + i)...);
+            all = take(all, loadPack<turn>(src + (i + turn))...);
+        }
+        if (i <= len - turn) {
+            all = take(all, loadPack<turn>(src + i)...);
+            i += turn;
+        }
+        states.takeApart(all);
+        return i;
+    }
     // One address for each source, from which all packs have constant distances.
     const auto takeTurn = [&](auto offset, auto... at) __attribute__((always_inline))
     {

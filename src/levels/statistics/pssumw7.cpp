@@ -41,26 +41,26 @@ constexpr int fastBlock = 32768;
 
 constexpr int fastAccumulators = 4;
 
-template <bool onBoundary>
-TARN_INLINE void sumBlock(const Tarn32f* p, int len, Tarn32f* sums)
+// An array on a boundary of the narrowest register.
+struct OnBoundary {
+    const Tarn32f* p;
+
+    TARN_INLINE OnBoundary operator+(Index elements) const { return {p + elements}; }
+};
+template <int N>
+TARN_INLINE auto loadPack(OnBoundary source)
+{
+    return loadAligned<N>(source.p);
+}
+
+template <typename Source>
+TARN_INLINE void sumBlock(Source source, const Tarn32f* p, int len, Tarn32f* sums)
 {
     constexpr int step = reducedLanes<Tarn32f>;
-    const auto load = [p](int i) {
-        if constexpr (onBoundary) {
-            return loadAligned<step>(p + i);
-        } else {
-            return loadPack<step>(p + i);
-        }
-    };
     Accumulators<Reduced<Tarn32f>, fastAccumulators> sumsOf(splat<Reduced<Tarn32f>>(0));
-    int i = 0;
-    for (; i <= len - fastAccumulators * step; i += fastAccumulators * step) {
-        repeat<fastAccumulators>([&](auto k) { sumsOf.at[k] = add(sumsOf.at[k], load(i + k * step)); });
-    }
+    Index i = takeSteps<step>(sumsOf, 0, len, add, source);
     auto sum = sumsOf.joined(add);
-    for (; i <= len - step; i += step) {
-        sum = add(sum, load(i));
-    }
+    i = takePacks<step>(sum, i, len, add, source);
     if (i <= len - 2) {
         sum = add(sum, loadHalf<step>(p + i));
         i += 2;
@@ -170,9 +170,9 @@ void owntarnsSum_32fc_Accur(const Tarn32fc* pSrc, int len, Tarn64fc* pSum)
     store(pSum, {static_cast<Tarn64f>(re), static_cast<Tarn64f>(im)});
 }
 
-void ownsSumAlg(const Tarn32f* pSrc, int len, Tarn32f* pSums) { sumBlock<true>(pSrc, len, pSums); }
+void ownsSumAlg(const Tarn32f* pSrc, int len, Tarn32f* pSums) { sumBlock(OnBoundary{pSrc}, pSrc, len, pSums); }
 
-void ownsSumNoAlg(const Tarn32f* pSrc, int len, Tarn32f* pSums) { sumBlock<false>(pSrc, len, pSums); }
+void ownsSumNoAlg(const Tarn32f* pSrc, int len, Tarn32f* pSums) { sumBlock(pSrc, pSrc, len, pSums); }
 
 void owntarnsSum_32f_Fast(const Tarn32f* pSrc, int len, Tarn64f* pSum)
 {
