@@ -7,17 +7,19 @@
 
 namespace tarn::fft {
 
-// The transform in blocks as wide as its length fills; `source` and `wide` read the same data.
-template <bool forward, typename T, typename Source, typename Wide, typename Sink>
-inline void transform(Source source, Wide wide, T* area, int size, const T* twd, Sink sink)
+// The transform by the first of several sources of the same data that takes its length; the last takes all.
+template <bool forward, typename T, typename Sink, typename Source, typename... Others>
+inline void transform(T* area, int size, const T* twd, Sink sink, Source source, Others... others)
 {
-    if constexpr (hasWideBlocks<T>) {
-        if (Wide::takes(size)) {
-            Transform<forward, T, Wide>(wide, area, size, twd).run(sink);
-            return;
-        }
+    if constexpr (sizeof...(Others) == 0) {
+        Transform<forward, T, Source>(source, area, size, twd).run(sink);
+    } else if constexpr (!hasWideBlocks<T>) {
+        transform<forward>(area, size, twd, sink, others...);
+    } else if (Source::takes(size)) {
+        Transform<forward, T, Source>(source, area, size, twd).run(sink);
+    } else {
+        transform<forward>(area, size, twd, sink, others...);
     }
-    Transform<forward, T, Source>(source, area, size, twd).run(sink);
 }
 
 // What the narrowest blocks of the working arrangement need; wider ones need no more.
@@ -32,16 +34,16 @@ template <bool forward, typename T>
 inline void readingCore(const T* src, T* dst, int size, const T* twd, const Tarn32s* rev, T* work)
 {
     T* const area = src != dst && isOnBlockBoundary(dst) ? dst : work;
-    transform<forward>(ReadPairs<T>{{rev, size}, src}, WideReadPairs<T>{{{}, rev, size}, src}, area, size, twd,
-                       WritePairs<T>{dst});
+    transform<forward>(area, size, twd, WritePairs<T>{dst}, WideReadPairs<T>{{{}, rev, size}, src},
+                       WideFewPairs<T>{{{}, size}, src}, ReadPairs<T>{{rev, size}, src});
 }
 
 template <bool forward, typename T>
 inline void readingSplitCore(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, int size, const T* twd,
                              const Tarn32s* rev, T* work)
 {
-    transform<forward>(ReadParts<T>{{rev, size}, srcRe, srcIm}, WideReadParts<T>{{{}, rev, size}, srcRe, srcIm}, work,
-                       size, twd, WriteParts<T>{dstRe, dstIm});
+    transform<forward>(work, size, twd, WriteParts<T>{dstRe, dstIm}, WideReadParts<T>{{{}, rev, size}, srcRe, srcIm},
+                       WideFewParts<T>{{{}, size}, srcRe, srcIm}, ReadParts<T>{{rev, size}, srcRe, srcIm});
 }
 
 // Bit-reversed order to natural order in place: as pairs, or left in the working arrangement.
@@ -52,17 +54,17 @@ inline void inPlaceCore(T* data, int size, const T* twd, T* work, int interleave
     const SequentialPairs<T> source{{}, data};
     const WideSequentialPairs<T> wide{{{}, size}, data};
     if (interleave == 1) {
-        transform<forward>(source, wide, area, size, twd, WritePairs<T>{data});
+        transform<forward>(area, size, twd, WritePairs<T>{data}, wide, source);
     } else {
-        transform<forward>(source, wide, area, size, twd, WriteBlocks<T>{data});
+        transform<forward>(area, size, twd, WriteBlocks<T>{data}, wide, source);
     }
 }
 
 template <bool forward, typename T>
 inline void inPlaceSplitCore(T* re, T* im, int size, const T* twd, T* work)
 {
-    transform<forward>(SequentialParts<T>{{}, re, im}, WideSequentialParts<T>{{{}, size}, re, im}, work, size, twd,
-                       WriteParts<T>{re, im});
+    transform<forward>(work, size, twd, WriteParts<T>{re, im}, WideSequentialParts<T>{{{}, size}, re, im},
+                       SequentialParts<T>{{}, re, im});
 }
 
 // Scales `len` reals in place.

@@ -115,6 +115,95 @@ struct WideReadParts : WideReading<T> {
     }
 };
 
+// -- Natural order, few points ----------------------------------------------------------------------------------------
+//
+// Of 64 or 128 points a register holds places of all four groups: what lies in the lanes' upper bits is the unit.
+
+inline constexpr int reversedOfTwoBits[] = {0, 2, 1, 3};
+
+template <typename T>
+struct WideFew : WideSource<T> {
+    static constexpr int W = workLanes<T>;
+    static constexpr int streams = 1;
+    static constexpr int places = 16; // of quadruples, four in each group
+    static constexpr int registers = places / W;
+    static constexpr int rows = registers;
+    static constexpr int neighbours = 4;
+
+    int size;
+
+    static constexpr bool takes(int size) { return W > groupLanes && size == 4 * firstStage(size); }
+    TARN_INLINE std::ptrdiff_t groupOffset(int row, int group) const
+    {
+        return std::ptrdiff_t{reversedOfTwoBits[row * WideSource<T>::groups + group]} * firstStage(size);
+    }
+
+protected:
+    // load(place, quarter): as many places as there are lanes.
+    template <bool forward, int quads, typename Load>
+    TARN_INLINE void readUnits(Load load, Units<T, rows, quads>& x) const
+    {
+        constexpr int groups = WideSource<T>::groups;
+        repeat<quads * registers>([&](auto i) __attribute__((always_inline)) {
+            constexpr int e = i / registers;
+            constexpr int h = i % registers;
+            const int place = e * places + h * W;
+            const auto result =
+                rowsOfQuads<forward, T, W>({load(place, 0), load(place, 2), load(place, 1), load(place, 3)});
+            repeat<rows>([&](auto row) __attribute__((always_inline)) {
+                std::array<Pack<T, W>, groups> re, im;
+                repeat<groups>([&](auto g) __attribute__((always_inline)) {
+                    re[g] = result[row * groups + g].re;
+                    im[g] = result[row * groups + g].im;
+                });
+                re = transposeGroups<T, W>(re);
+                im = transposeGroups<T, W>(im);
+                repeat<groups>([&](auto g) __attribute__((always_inline)) {
+                    x[row][reversedOfTwoBits[h * groups + g]][e] = {re[g], im[g]};
+                });
+            });
+        });
+    }
+};
+
+template <typename T>
+struct WideFewPairs : WideFew<T> {
+    static constexpr int W = workLanes<T>;
+
+    const T* src;
+
+    template <bool forward, int quads>
+    TARN_INLINE void read(int /*at*/, Units<T, WideFew<T>::rows, quads>& x) const
+    {
+        const T* const p = src;
+        this->template readUnits<forward, quads>(
+            [=](int place, int quarter)
+                __attribute__((always_inline)) { return loadPairs<W>(p + 2 * (place + quarter * 16 * quads)); },
+            x);
+    }
+};
+
+template <typename T>
+struct WideFewParts : WideFew<T> {
+    static constexpr int W = workLanes<T>;
+
+    const T* srcRe;
+    const T* srcIm;
+
+    template <bool forward, int quads>
+    TARN_INLINE void read(int /*at*/, Units<T, WideFew<T>::rows, quads>& x) const
+    {
+        const T* const re = srcRe;
+        const T* const im = srcIm;
+        this->template readUnits<forward, quads>(
+            [=](int place, int quarter) __attribute__((always_inline)) {
+                const int from = place + quarter * 16 * quads;
+                return Complex<Pack<T, W>>{loadPack<W>(re + from), loadPack<W>(im + from)};
+            },
+            x);
+    }
+};
+
 // -- Bit-reversed order -----------------------------------------------------------------------------------------------
 //
 // Neighbouring groups of points stand side by side. All are read before anything is written, so that the data may be
