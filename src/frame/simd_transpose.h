@@ -29,6 +29,17 @@ struct ApartInLanes {
     }
 };
 
+// Pairs in opposite order, parted, from two operands that hold them: `odd` is 1 for the second parts; and parts from
+// two operands as such pairs, those of the upper lanes first, or of the lower ones.
+template <int odd>
+struct ApartBackward {
+    static constexpr int at(int i, int n) { return 2 * (n - 1 - i) + odd; }
+};
+template <int lower>
+struct ZipBackward {
+    static constexpr int at(int i, int n) { return (lower != 0 ? n / 2 : n) - 1 - i / 2 + i % 2 * n; }
+};
+
 } // namespace native
 
 template <typename T, int N>
@@ -159,6 +170,22 @@ constexpr int elementInLane(int lane)
     } else {
         return lane;
     }
+}
+
+// Pairs in opposite order, in one register of each part: a shuffle does both.
+template <int N, Float T>
+    requires fillsWideRegister<T, N> TARN_INLINE Complex<Pack<T, N>> loadPairsReversed(const T* p)
+    {
+        const auto lo = loadPack<N>(p);
+        const auto hi = loadPack<N>(p + N);
+        return {{native::shuffle<sizeof(T), native::ApartBackward<0>>(lo.v, hi.v)},
+                {native::shuffle<sizeof(T), native::ApartBackward<1>>(lo.v, hi.v)}};
+    }
+template <Float T, int N>
+requires fillsWideRegister<T, N> TARN_INLINE void storePairsReversed(T* p, Complex<Pack<T, N>> x)
+{
+    store(p, Pack<T, N>{native::shuffle<sizeof(T), native::ZipBackward<0>>(x.re.v, x.im.v)});
+    store(p + N, Pack<T, N>{native::shuffle<sizeof(T), native::ZipBackward<1>>(x.re.v, x.im.v)});
 }
 
 } // namespace tarn

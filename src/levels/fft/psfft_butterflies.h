@@ -69,15 +69,15 @@ TARN_INLINE Quad<X> fourPoint(Quad<X> x)
 }
 
 // The same of elements that are registers of interleaved pairs.
-template <bool forward, typename T>
-TARN_INLINE std::array<BlockPart<T>, 4> fourPointPairs(const std::array<BlockPart<T>, 4>& x)
+template <bool forward, typename X>
+TARN_INLINE std::array<X, 4> fourPointPairs(const std::array<X, 4>& x)
 {
-    const BlockPart<T> s0 = add(x[0], x[1]);
-    const BlockPart<T> s1 = sub(x[0], x[1]);
-    const BlockPart<T> t0 = add(x[2], x[3]);
-    const BlockPart<T> t1 = swapParts(sub(x[2], x[3]));
-    const BlockPart<T> minus = subAdd(s1, invertSigns(t1));
-    const BlockPart<T> plus = subAdd(s1, t1);
+    const X s0 = add(x[0], x[1]);
+    const X s1 = sub(x[0], x[1]);
+    const X t0 = add(x[2], x[3]);
+    const X t1 = swapParts(sub(x[2], x[3]));
+    const X minus = subAdd(s1, invertSigns(t1));
+    const X plus = subAdd(s1, t1);
     return {add(s0, t0), forward ? minus : plus, sub(s0, t0), forward ? plus : minus};
 }
 

@@ -3,6 +3,7 @@
 
 #include "frame/frontend.h"
 #include "frame/walk.h"
+#include "levels/fft/psfft_fours.h"
 #include "levels/fft/psfft_passes.h"
 
 namespace tarn::fft {
@@ -15,10 +16,12 @@ inline void transform(T* area, int size, const T* twd, Sink sink, Source source,
         Transform<forward, T, Source>(source, area, size, twd).run(sink);
     } else if constexpr (!hasWideBlocks<T>) {
         transform<forward>(area, size, twd, sink, others...);
-    } else if (Source::takes(size)) {
-        Transform<forward, T, Source>(source, area, size, twd).run(sink);
-    } else {
+    } else if (!Source::takes(size)) {
         transform<forward>(area, size, twd, sink, others...);
+    } else if constexpr (requires { source.template run<forward>(twd, sink); }) {
+        source.template run<forward>(twd, sink);
+    } else {
+        Transform<forward, T, Source>(source, area, size, twd).run(sink);
     }
 }
 
@@ -35,7 +38,7 @@ inline void readingCore(const T* src, T* dst, int size, const T* twd, const Tarn
 {
     T* const area = src != dst && isOnBlockBoundary(dst) ? dst : work;
     transform<forward>(area, size, twd, WritePairs<T>{dst}, WideReadPairs<T>{{{}, rev, size}, src},
-                       WideFewPairs<T>{{{}, size}, src}, ReadPairs<T>{{rev, size}, src});
+                       WideFewPairs<T>{{{}, size}, src}, FoursOfPairs<T>{size, src}, ReadPairs<T>{{rev, size}, src});
 }
 
 template <bool forward, typename T>

@@ -5,16 +5,21 @@
 #include "frame/object.h"
 #include "frame/simd_apart.h"
 #include "frame/simd_move.h"
-#include "levels/fft/psfft_butterflies.h"
+#include "levels/fft/psfft_work.h"
 
 namespace tarn::fft {
 
-// A table of values (A[k], B[k]) for k from 1 to a quarter of the real length, in blocks of blockLanes<T>: A, then B.
-// They are made of the cosines and sines of k, which stand in the base table.
+// A table of values (A[k], B[k]) for k from 1 to a quarter of the real length, in blocks of recombinedLanes<T>: A, then
+// B. They are made of the cosines and sines of k, which stand in the base table.
+template <typename T>
+constexpr int recombinedLanes(long long slots)
+{
+    return slots < workLanes<T> ? std::max(blockLanes<T>, static_cast<int>(slots)) : workLanes<T>;
+}
+
 template <typename T, typename Values>
 inline Owned<T[]> recombinationTable(int order, const T* base, Values values)
 {
-    constexpr int group = blockLanes<T>;
     const long long slots = order <= 3 ? 2 : (1LL << order) / 4;
     Owned<T[]> table = allocate<T>(2 * slots);
     if (!table) {
@@ -25,11 +30,13 @@ inline Owned<T[]> recombinationTable(int order, const T* base, Values values)
         std::fill_n(table.get(), 2 * slots, T{0});
         return table;
     }
+    constexpr int step = blockLanes<T>;
+    const int group = recombinedLanes<T>(slots);
     const int quarter = (1 << order) / 4;
-    T* block = table.get();
-    for (int k = 1; k <= slots; k += group, block += 2 * group) {
-        const auto [a, b] =
-            values(reverse(loadPack<group>(base + quarter - k - (group - 1))), loadPack<group>(base + k));
+    for (int i = 0; i < slots; i += step) {
+        const int k = i + 1;
+        T* const block = table.get() + 2 * (i - i % group) + i % group;
+        const auto [a, b] = values(reverse(loadPack<step>(base + quarter - k - (step - 1))), loadPack<step>(base + k));
         store(block, a);
         store(block + group, b);
     }
@@ -99,6 +106,32 @@ struct FromSpectrum {
     }
 };
 
+// Slots 1 to M - 1 but the middle one, N at a time from both ends, or fewer if there are not as many.
+template <typename Rule, int N, typename T>
+TARN_INLINE void recombineFacing(const T* src, T* dst, int M, const T* table)
+{
+    if constexpr (N > blockLanes<T>) {
+        if (M / 2 < N) {
+            recombineFacing<Rule, N / 2>(src, dst, M, table);
+            return;
+        }
+    }
+    const T* srcLow = src + 2;
+    T* dstLow = dst + 2;
+    const T* srcHigh = src + 2 * (M - N);
+    T* dstHigh = dst + 2 * (M - N);
+    for (int k = 1; k < M / 2; k += N) {
+        const auto x = Rule::join(loadPairs<N>(srcLow), loadPairsReversed<N>(srcHigh), loadWork<N>(table));
+        storePairs(dstLow, x.low);
+        storePairsReversed(dstHigh, x.high);
+        srcLow += 2 * N;
+        dstLow += 2 * N;
+        srcHigh -= 2 * N;
+        dstHigh -= 2 * N;
+        table += 2 * N;
+    }
+}
+
 // Joins slots 1 to M - 1; slot 0 is the caller's. The last vector reaches the middle slot, which is its own opposite
 // and is therefore written after all others. M is 1, 2 or a power of two that the table has been made for.
 template <typename Rule, typename T>
@@ -109,22 +142,7 @@ inline void recombine(const T* src, T* dst, int M, const T* table)
     }
     const Complex<T> middle = Rule::middle(Complex<T>{loadElement(src + M), loadElement(src + M + 1)});
     if (M > 2) {
-        constexpr int width = blockLanes<T>;
-        const T* srcLow = src + 2;
-        T* dstLow = dst + 2;
-        const T* srcHigh = src + 2 * (M - width);
-        T* dstHigh = dst + 2 * (M - width);
-        for (int k = 1; k < M / 2; k += width) {
-            const auto x = Rule::join(loadPairs<blockLanes<T>>(srcLow), loadPairsReversed<blockLanes<T>>(srcHigh),
-                                      loadBlock(table));
-            storePairs(dstLow, x.low);
-            storePairsReversed(dstHigh, x.high);
-            srcLow += 2 * width;
-            dstLow += 2 * width;
-            srcHigh -= 2 * width;
-            dstHigh -= 2 * width;
-            table += 2 * width;
-        }
+        recombineFacing<Rule, workLanes<T>>(src, dst, M, table);
     }
     store(dst + M, middle.re);
     store(dst + M + 1, middle.im);

@@ -20,7 +20,7 @@ inline constexpr int blocksPerQuad = 4 / blockLanes<T>;
 template <bool forward, typename T, typename Emit>
 TARN_INLINE void emitPairs(int lane, const std::array<BlockPart<T>, 4>& quad, Emit emit)
 {
-    const auto x = fourPointPairs<forward, T>(quad);
+    const auto x = fourPointPairs<forward>(quad);
     if constexpr (blockLanes<T> == 4) {
         const auto columns = transpose<T>(x);
         emit(lane, 0, Block<T>{columns[0], columns[1]});
