@@ -16,6 +16,11 @@ elseif(TARNS_LEVEL STREQUAL "Z9")
 else()
     message(FATAL_ERROR "TARNS_LEVEL is T7, Y8 or Z9, not ${TARNS_LEVEL}")
 endif()
+if(NOT TARNS_LEVEL STREQUAL "T7" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # A call or jump to a function that is known to leave the wide registers alone would not clear their upper halves,
+    # and that function returns to a caller whose code of 128 bits then waits for them: upper_halves_test.
+    list(APPEND TARNS_LEVEL_FLAGS -fno-ipa-ra)
+endif()
 string(TOLOWER "${TARNS_LEVEL}" TARNS_LEVEL_MARK)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # 32-bit callers may enter with a stack aligned to 4 bytes only. Single and double precision belong on the SSE
