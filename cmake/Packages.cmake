@@ -68,7 +68,7 @@ tarns_package(development libtarns-dev libdevel "signal-processing primitives (d
 "This package contains the headers for C and C++, and the files for
 pkg-config and CMake.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_PRIORITY ${same})
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libtarns (= ${PROJECT_VERSION}), libc6-dev")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libtarns (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "tarns-doc")
 
 if(TARGET docs)
