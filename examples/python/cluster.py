@@ -37,7 +37,9 @@ class Recording:
 
     def __call__(self, start, stop):
         part = np.ascontiguousarray(_opened(self.path)[1][start:stop])
-        return tarns.mul(tarns.convert(part, dtype=np.float32), 1 / 32768) if part.dtype == np.int16 else part
+        if part.dtype != np.int16 or len(part) == 0:
+            return part.astype(np.float32, copy=False)
+        return tarns.mul(tarns.convert(part, dtype=np.float32), 1 / 32768)
 
 
 class Noise:
@@ -96,31 +98,35 @@ def _in_blocks(stream, samples):
     return np.concatenate([stream(samples[at:at + BLOCK]) for at in range(0, len(samples), BLOCK)])
 
 
-# %% The steps that tasks are made of.
-def filter_chunk(source, band, start, stop, before, out):
-    """Filters one chunk, writes it, and tells what the next one has to know: the line, and the end of the outputs."""
-    filtered, line = band(source, start, stop, before[0] if band.serial and before is not None else None)
-    if out:
-        np.lib.format.open_memmap(out, "r+")[start:stop] = filtered
-    return filtered, (line, filtered[-SIZE // 2:])
+# %% The step that a task is, and what is made of all of them.
+HALF = SIZE // 2
 
 
-def spectrum_chunk(before, filtered):
-    """Adds up the power of the blocks that end in this chunk, and counts them."""
-    if before is not None:
-        filtered = np.concatenate([before[1], filtered])
+def spectrum(filtered):
+    """Adds up the power of the blocks within these samples, and counts them."""
     transform = tarns.FFT(SIZE)
     power = np.zeros(transform.bins, np.float32)
-    starts = range(0, len(filtered) - SIZE + 1, SIZE // 2)
+    starts = range(0, len(filtered) - SIZE + 1, HALF)
     for start in starts:
         tarns.add(power, tarns.power_spectr(transform.forward(tarns.win_hann(filtered[start:start + SIZE]))), out=power)
     return power.astype(np.float64), len(starts)
 
 
+def do_chunk(source, band, start, stop, line, out):
+    """Filters one chunk, writes and analyses it. Samples stay where they are: what travels is the spectrum, the delay
+    line for the next chunk, and both ends of the outputs, for the blocks of the spectrum that reach across."""
+    filtered, line = band(source, start, stop, line)
+    if out:
+        np.lib.format.open_memmap(out, "r+")[start:stop] = filtered
+    return (spectrum(filtered), filtered[:HALF].copy(), filtered[-HALF:].copy()), line
+
+
 def level(parts):
-    """Levels in dB of the bins, averaged over all blocks."""
-    power = sum(part[0] for part in parts)
-    return 10 * np.log10(power / sum(part[1] for part in parts) * (4 / SIZE) ** 2 + 1e-14)
+    """Levels in dB of the bins, averaged over all blocks, in the order of the chunks."""
+    sums = [part[0] for part in parts]
+    sums += [spectrum(np.concatenate([before[2], after[1]])) for before, after in zip(parts, parts[1:])]
+    power = sum(power for power, count in sums)
+    return 10 * np.log10(power / sum(count for power, count in sums) * (4 / SIZE) ** 2 + 1e-14)
 
 
 # %% The run: the same steps called one after the other, or left to a cluster.
@@ -130,21 +136,17 @@ def run(source, band, chunk, client=None, out=None):
         raise ValueError(f"chunks are multiples of {BLOCK} samples")
     if out:
         np.lib.format.open_memmap(out, "w+", np.float32, (source.size,)).flush()
-    if client is None:
-        do_filter, do_spectrum, do_level = filter_chunk, spectrum_chunk, level
-    else:
+    step, result = do_chunk, level
+    if client is not None:
         from dask import delayed
-        do_filter, do_spectrum, do_level = (
-            delayed(filter_chunk, nout=2, pure=False), delayed(spectrum_chunk, pure=False), delayed(level, pure=False))
-    parts, before = [], None
+        step, result = delayed(do_chunk, nout=2, pure=False), delayed(level, pure=False)
+    parts, line = [], None
     for start in range(0, source.size, chunk):
         # Where chunks do not need each other, none waits for another one's line.
-        filtered, after = do_filter(source, band, start, min(start + chunk, source.size),
-                                    before if band.serial else None, out)
-        parts.append(do_spectrum(before, filtered))
-        before = after
-    result = do_level(parts)
-    return result if client is None else client.compute(result).result()
+        part, line = step(source, band, start, min(start + chunk, source.size), line if band.serial else None, out)
+        parts.append(part)
+    levels = result(parts)
+    return levels if client is None else client.compute(levels).result()
 
 
 def main():
