@@ -59,7 +59,7 @@ template <typename Tap, typename S>
 struct Place {
     Tap* taps;
     const S* window;
-    const S* next = nullptr; // the window after that
+    const S* next; // the window after that
 
     TARN_INLINE void advance(int count)
     {
@@ -110,7 +110,7 @@ template <typename Taps, typename Window, typename S>
 TARN_INLINE Tarn32f filterWindow(const Tarn32f* taps, const S* window, int tapsLen)
 {
     return sumOfTerms(
-        Place<const Tarn32f, S>{taps, window}, tapsLen,
+        Place<const Tarn32f, S>{taps, window, window}, tapsLen, // there is no pass over a next one
         [](auto kind, const auto& at, int i) __attribute__((always_inline)) {
             using X = decltype(kind);
             return mul(Taps::template load<X>(at.taps + i), Window::template load<X>(at.window + i));
