@@ -182,8 +182,8 @@ public:
         wave.magn = static_cast<Tarn16s>(bytes.between(0, 32767));
         wave.rFreqQ15 =
             static_cast<Tarn16s>(bytes.byte() % 8 == 0 ? bytes.between(-32768, 32767) : bytes.between(0, 16383));
-        wave.phaseQ15 = bytes.hostile(0, 3000) * (bytes.flag() ? 1 : 68);
-        wave.asymQ15 = bytes.hostile(-1029, 1029) * (bytes.flag() ? 1 : 100);
+        wave.phaseQ15 = bytes.flag() ? bytes.hostile(0, 3000) : 68 * bytes.between(0, 3030);
+        wave.asymQ15 = bytes.flag() ? bytes.hostile(-1029, 1029) : 100 * bytes.between(-1030, 1030);
         wave.isTriangle = bytes.flag();
         wave.ours = bytes.flag();
         result = {Real::s16, 1};
