@@ -131,19 +131,28 @@ inline constexpr int networksAtOnce<3> = 4;
 template <>
 inline constexpr int networksAtOnce<5> = 2;
 
+// The least number of medians in one step: those of the narrowest register, and not fewer than the reach.
+template <int size, typename T>
+inline constexpr int narrowestStep = std::max(registerLanes<T>, 2 * ((size / 2 + 1) / 2));
+
 // dst[n] = the median of src[n - size/2], ..., src[n + size/2] for all n but the first and the last, which are not
 // written. The source may be the destination: what a step needs of the elements behind it is read before the step
 // behind it writes, and both ends are found first.
-template <int size, typename T>
+template <int size, typename T, int step = std::max(lanes<T>, narrowestStep<size, T>)>
 void slideNetwork(const T* src, T* dst, int len)
 {
     constexpr int reach = size / 2;
-    constexpr int step = std::max(lanes<T>, 2 * ((reach + 1) / 2)); // not less than the reach
     constexpr int together = networksAtOnce<size>;
     using Step = MedianStep<size, T, step>;
     using Medians = typename Step::Medians;
 
     if (len < 2 * reach + step) {
+        // Single elements and packs come to a network in different order, which NaN and zeros of both signs show: which
+        // are taken singly must not follow from the level.
+        if constexpr (std::is_floating_point_v<T> && step > narrowestStep<size, T>) {
+            slideNetwork<size, T, step / 2>(src, dst, len);
+            return;
+        }
         if (len > 2) {
             MediansApart<size, 2 * reach + step, T>(src, len, 1, len - 2).storeTo(dst);
         }
