@@ -91,13 +91,13 @@ template <typename Extreme, typename T>
 TARN_INLINE void ofBlock(const T* p, int len, T* value)
 {
     constexpr int step = reducedLanes<T>;
-    Accumulators<Reduced<T>, 2> extremes(loadPack<step>(p));
-    extremes.at[1] = loadPack<step>(p + step);
+    auto extremes = loadPack<2 * step>(p);
     for (Index i = 2 * step; i < len; i += 2 * step) {
         prefetchOnce(p + i + prefetchBytes / static_cast<int>(sizeof(T)));
-        takeSteps<step>(extremes, i, i + 2 * step, Extreme::selection, p);
+        extremes = Extreme::selection(extremes, loadPack<2 * step>(p + i));
     }
-    store(value, foldLanes(extremes.joined(Extreme::selection), Extreme::selection));
+    const auto both = Extreme::selection(lowHalf(extremes), highHalf(extremes));
+    store(value, foldLanes(both, Extreme::selection));
 }
 
 // Single elements to a boundary, blocks, and the rest one by one.
