@@ -35,32 +35,10 @@ struct Accumulators {
             return left.at[0];
         }
     }
-
-    // All of them in one pack, and back.
-    TARN_INLINE auto together() const
-    {
-        if constexpr (count == 4) {
-            return tarn::join(tarn::join(at[0], at[1]), tarn::join(at[2], at[3]));
-        } else if constexpr (count == 2) {
-            return tarn::join(at[0], at[1]);
-        } else {
-            return at[0];
-        }
-    }
-    template <typename All>
-    TARN_INLINE void takeApart(All all)
-    {
-        if constexpr (count == 4) {
-            at = {lowHalf(lowHalf(all)), highHalf(lowHalf(all)), lowHalf(highHalf(all)), highHalf(highHalf(all))};
-        } else if constexpr (count == 2) {
-            at = {lowHalf(all), highHalf(all)};
-        } else {
-            at[0] = all;
-        }
-    }
 };
 
-// Accumulators of fewer bytes than the widest register has are lanes of one, or of a few.
+// Four accumulators that registers of this level hold in pairs. Two chains of additions, where one in the widest
+// register would have the longest latency, and four would wait for the ports that add.
 template <typename State>
 inline constexpr bool isNarrow = false;
 template <typename T, int N>
@@ -72,17 +50,24 @@ template <int step, typename State, int count, typename Take, typename... S>
 TARN_INLINE Index takeSteps(Accumulators<State, count>& states, Index i, Index len, Take take, S... src)
 {
     constexpr int turn = count * step;
-    if constexpr (isNarrow<State>) {
-        auto all = states.together();
+    if constexpr (isNarrow<State> && count == 4) {
+        constexpr int half = turn / 2;
+        auto first = join(states.at[0], states.at[1]);
+        auto second = join(states.at[2], states.at[3]);
+        const auto takeHalves = [&](Index at) __attribute__((always_inline))
+        {
+            first = take(first, loadPack<half>(src + at)...);
+            second = take(second, loadPack<half>(src + (at + half))...);
+        };
         for (; i <= len - 2 * turn; i += 2 * turn) {
-            all = take(all, loadPack<turn>(src + i)...);
-            all = take(all, loadPack<turn>(src + (i + turn))...);
+            takeHalves(i);
+            takeHalves(i + turn);
         }
         if (i <= len - turn) {
-            all = take(all, loadPack<turn>(src + i)...);
+            takeHalves(i);
             i += turn;
         }
-        states.takeApart(all);
+        states.at = {lowHalf(first), highHalf(first), lowHalf(second), highHalf(second)};
         return i;
     }
     // One address for each source, from which all packs have constant distances.

@@ -21,12 +21,6 @@ TARN_INLINE Reduced<Tarn32f> rootOf(Reduced<Tarn32f> p)
     return mul(mul(splat<Reduced<Tarn32f>>(0.5F), sub(splat<Reduced<Tarn32f>>(3), mul(a, e))), a);
 }
 TARN_INLINE Reduced<Tarn64f> rootOf(Reduced<Tarn64f> p) { return squareRoot(p); }
-// Groups stay what they are at every width.
-template <typename T, int N>
-TARN_INLINE Pack<T, N> rootOf(Pack<T, N> p)
-{
-    return join(rootOf(lowHalf(p)), rootOf(highHalf(p)));
-}
 TARN_INLINE Tarn32f rootOf(Tarn32f p) { return squareRoot(p); }
 TARN_INLINE Tarn64f rootOf(Tarn64f p) { return squareRoot(p); }
 
