@@ -182,11 +182,11 @@ void addFilters(const std::vector<Level>& levels, int n)
     for (const Level& level : levels) {
         auto* const initFir = TARN_OF(level, tarnsFIRInitAlloc_32f);
         addFilter<Tarn32f, TarnsFIRState_32f>(
-            "fir_32f_32taps", level, [=](auto** state) { initFir(state, taps, 32, nullptr); },
+            "fir_32f_32taps", level, [=](TarnsFIRState_32f** state) { initFir(state, taps, 32, nullptr); },
             TARN_OF(level, tarnsFIR_32f), n);
         auto* const initIir = TARN_OF(level, tarnsIIRInitAlloc_BiQuad_32f);
         addFilter<Tarn32f, TarnsIIRState_32f>(
-            "biquad2_32f", level, [=](auto** state) { initIir(state, sections, 2, nullptr); },
+            "biquad2_32f", level, [=](TarnsIIRState_32f** state) { initIir(state, sections, 2, nullptr); },
             TARN_OF(level, tarnsIIR_32f), n);
     }
 }
