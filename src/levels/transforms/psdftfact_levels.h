@@ -80,25 +80,27 @@ struct Spaced {
     TARN_INLINE auto operator[](int j) const { return array.element(j * distance); }
 };
 
-// From so many transforms on they go side by side, else each by sums that are side by side in themselves.
+// From so many transforms on they go side by side, else each by sums that are side by side in themselves: whether they
+// do must not follow from the width.
 inline constexpr int fewestLeavesTogether = 4;
 
-// Calls leaves(u, places) for as many neighbouring transforms as a vector has lanes, the last ones maybe twice, or,
-// where there are not as many, leaf(u, place) for each.
-template <typename T, typename Leaves, typename Leaf>
-TARN_INLINE void forLeavesTogether(int all, const StridedPlaces<T>& places, Leaves leaves, Leaf leaf)
+// Calls alone(place, u) for each of few transforms; of many, together(places, u) for as many neighbours from u on as a
+// vector has lanes, the last ones maybe twice.
+template <typename T, typename Alone, typename Together>
+TARN_INLINE void forAllLeaves(StridedPlaces<T> places, int blocks, Alone alone, Together together)
 {
     constexpr int width = blockLanes<T>;
-    if (all < width) {
-        StridedPlaces<T> next = places;
+    static_assert(width <= fewestLeavesTogether);
+    const int all = places.count * blocks;
+    if (all < fewestLeavesTogether) {
         for (int u = 0; u < all; ++u) {
-            leaf(u, next.next());
+            alone(places.next(), std::ptrdiff_t{u});
         }
         return;
     }
     for (int u = 0; u < all; u += width) {
         const int first = std::min(u, all - width);
-        leaves(first, places.from(first).nextLanes());
+        together(places.from(first).nextLanes(), std::ptrdiff_t{first});
     }
 }
 
@@ -108,28 +110,17 @@ inline void leafAny(In src, std::ptrdiff_t stride, Out dst, int q, int count, in
                     const PairOf<T>* dirTab, T* scratch)
 {
     const std::ptrdiff_t distance = stride * count;
-    const int all = count * blocks;
-    StridedPlaces<T> places{stride, count, perm};
-    if (all < fewestLeavesTogether) {
-        const Roots<T> roots(dirTab, q);
-        for (int u = 0; u < all; ++u) {
-            directSums<true>(Spaced<In>{src + places.next(), distance}, dst + std::ptrdiff_t{u} * q, q, roots, scratch);
-        }
-        return;
-    }
-    const T* const roots = asParts(dirTab);
-    forLeavesTogether(
-        all, places,
-        [&](int u, const Places<T>& at) {
+    forAllLeaves(
+        StridedPlaces<T>{stride, count, perm}, blocks,
+        [&](std::ptrdiff_t at, std::ptrdiff_t u) {
+            directSums<true>(Spaced<In>{src + at, distance}, dst + u * q, q, Roots<T>(dirTab, q), scratch);
+        },
+        [&](const Places<T>& at, std::ptrdiff_t u) {
             Lanes<T> pairs[largestDirect];
             transformOdd<BlockPart<T>>(
-                q, roots, static_cast<Lanes<T>*>(pairs), [&](int j) { return (src + j * distance).gathered(at); },
-                [&](int k, Lanes<T> y) { dst.scatter(std::ptrdiff_t{u} * q + k, q, y); });
-        },
-        [&](int u, std::ptrdiff_t at) {
-            transformOdd<T>(
-                q, roots, reinterpret_cast<Complex<T>*>(scratch), [&](int j) { return src.element(at + j * distance); },
-                [&](int k, Complex<T> y) { dst.put(std::ptrdiff_t{u} * q + k, y); });
+                q, asParts(dirTab), static_cast<Lanes<T>*>(pairs),
+                [&](int j) { return (src + j * distance).gathered(at); },
+                [&](int k, Lanes<T> y) { dst.scatter(u * q + k, q, y); });
         });
 }
 

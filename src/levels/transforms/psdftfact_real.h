@@ -108,9 +108,9 @@ inline void leafFromPerm(const T* src, std::ptrdiff_t stride, T* dst, int count,
     }
 }
 
-// Any odd q. The terms are those of directToPerm() and directFromPerm(): of each pair one for the real part of the root
-// and one for the imaginary part. emit(k, a, b) takes the sums of the one kind, which begin with `first`, and the
-// other.
+// Any odd q, as many transforms side by side as a vector has lanes. The terms are those of directToPerm() and
+// directFromPerm(): of each pair one for the real part of the root and one for the imaginary part. emit(k, a, b) takes
+// the sums of the one kind, which begin with `first`, and of the other.
 template <typename X, typename Emit>
 TARN_INLINE void sumTerms(int q, const Element<X>* roots, X first, const X* terms, Emit emit)
 {
@@ -127,40 +127,6 @@ TARN_INLINE void sumTerms(int q, const Element<X>* roots, X first, const X* term
         emit(k, a, b);
     }
 }
-template <typename X, typename Point, typename Put>
-TARN_INLINE void oddToPerm(int q, const Element<X>* roots, X* terms, Point point, Put put)
-{
-    const X first = point(0);
-    X total = first;
-    for (int j = 1; j < q - j; ++j) {
-        const X low = point(j);
-        const X high = point(q - j);
-        terms[2 * j - 2] = add(low, high);
-        terms[2 * j - 1] = sub(low, high);
-        total = add(total, terms[2 * j - 2]);
-    }
-    put(0, total);
-    sumTerms(q, roots, first, terms, [&](int k, X a, X b) {
-        put(2 * k - 1, a);
-        put(2 * k, b);
-    });
-}
-template <typename X, typename Point, typename Put>
-TARN_INLINE void oddFromPerm(int q, const Element<X>* roots, X* terms, Point point, Put put)
-{
-    const X first = point(0);
-    X total = first;
-    for (int j = 0; j < q - 1; ++j) {
-        const X value = point(j + 1);
-        terms[j] = add(value, value);
-        total = j % 2 == 0 ? add(total, terms[j]) : total;
-    }
-    put(0, total);
-    sumTerms(q, roots, first, terms, [&](int n, X a, X b) {
-        put(n, add(a, b));
-        put(q - n, sub(a, b));
-    });
-}
 
 // scratch holds 2 q - 2 reals on a boundary.
 template <typename T>
@@ -168,35 +134,34 @@ inline void leafAnyToPerm(const T* src, std::ptrdiff_t stride, T* dst, int q, in
                           const PairOf<T>* dirTab, T* scratch)
 {
     const std::ptrdiff_t distance = stride * count;
-    const int all = count * blocks;
-    StridedPlaces<T> places{stride, count, perm};
-    if (all < fewestLeavesTogether) {
-        T x[largestDirect];
-        for (int u = 0; u < all; ++u) {
-            const T* const from = src + places.next();
+    forAllLeaves(
+        StridedPlaces<T>{stride, count, perm}, blocks,
+        [&](std::ptrdiff_t at, std::ptrdiff_t u) {
+            T x[largestDirect];
             for (int j = 0; j < q; ++j) {
-                x[j] = loadElement(from + j * distance);
+                x[j] = loadElement(src + at + j * distance);
             }
-            directToPerm(static_cast<const T*>(x), dst + std::ptrdiff_t{u} * q, q, Roots<T>(dirTab, q), scratch);
-        }
-        return;
-    }
-    const T* const roots = asParts(dirTab);
-    forLeavesTogether(
-        all, places,
-        [&](int u, const Places<T>& at) {
-            BlockPart<T> terms[largestDirect];
-            oddToPerm(
-                q, roots, static_cast<BlockPart<T>*>(terms),
-                [&](int j) { return PartArrays<const T>::gatheredOf(src + j * distance, at); },
-                [&, to = dst + std::ptrdiff_t{u} * q](int k, BlockPart<T> y) {
-                    PartArrays<T>::scatterOf(to + k, spaced<T>(q), y);
-                });
+            directToPerm(static_cast<const T*>(x), dst + u * q, q, Roots<T>(dirTab, q), scratch);
         },
-        [&](int u, std::ptrdiff_t at) {
-            oddToPerm(
-                q, roots, scratch, [&](int j) { return loadElement(src + at + j * distance); },
-                [&, to = dst + std::ptrdiff_t{u} * q](int k, T y) { store(to + k, y); });
+        [&](const Places<T>& at, std::ptrdiff_t u) {
+            BlockPart<T> terms[largestDirect];
+            const auto point = [&](int j) { return PartArrays<const T>::gatheredOf(src + j * distance, at); };
+            const auto put = [&](int k, BlockPart<T> y) { PartArrays<T>::scatterOf(dst + u * q + k, spaced<T>(q), y); };
+            const auto first = point(0);
+            auto total = first;
+            for (int j = 1; j < q - j; ++j) {
+                const auto low = point(j);
+                const auto high = point(q - j);
+                terms[2 * j - 2] = add(low, high);
+                terms[2 * j - 1] = sub(low, high);
+                total = add(total, terms[2 * j - 2]);
+            }
+            put(0, total);
+            sumTerms(q, asParts(dirTab), first, static_cast<const BlockPart<T>*>(terms),
+                     [&](int k, BlockPart<T> a, BlockPart<T> b) {
+                         put(2 * k - 1, a);
+                         put(2 * k, b);
+                     });
         });
 }
 template <typename T>
@@ -204,35 +169,32 @@ inline void leafAnyFromPerm(const T* src, std::ptrdiff_t stride, T* dst, int q, 
                             const PairOf<T>* dirTab, T* scratch)
 {
     const std::ptrdiff_t distance = stride * count;
-    const int all = count * blocks;
-    StridedPlaces<T> places{stride, count, perm};
-    if (all < fewestLeavesTogether) {
-        T x[largestDirect];
-        for (int u = 0; u < all; ++u) {
-            directFromPerm(src + std::ptrdiff_t{u} * q, static_cast<T*>(x), q, Roots<T>(dirTab, q), scratch);
-            T* const to = dst + places.next();
+    forAllLeaves(
+        StridedPlaces<T>{stride, count, perm}, blocks,
+        [&](std::ptrdiff_t at, std::ptrdiff_t u) {
+            T x[largestDirect];
+            directFromPerm(src + u * q, static_cast<T*>(x), q, Roots<T>(dirTab, q), scratch);
             for (int j = 0; j < q; ++j) {
-                store(to + j * distance, x[j]);
+                store(dst + at + j * distance, x[j]);
             }
-        }
-        return;
-    }
-    const T* const roots = asParts(dirTab);
-    forLeavesTogether(
-        all, places,
-        [&](int u, const Places<T>& at) {
-            BlockPart<T> terms[largestDirect];
-            oddFromPerm(
-                q, roots, static_cast<BlockPart<T>*>(terms),
-                [&, from = src + std::ptrdiff_t{u} * q](int k) {
-                    return PartArrays<const T>::gatheredOf(from + k, spaced<T>(q));
-                },
-                [&](int j, BlockPart<T> x) { PartArrays<T>::scatterOf(dst + j * distance, at, x); });
         },
-        [&](int u, std::ptrdiff_t at) {
-            oddFromPerm(
-                q, roots, scratch, [&, from = src + std::ptrdiff_t{u} * q](int k) { return loadElement(from + k); },
-                [&](int j, T x) { store(dst + at + j * distance, x); });
+        [&](const Places<T>& at, std::ptrdiff_t u) {
+            BlockPart<T> terms[largestDirect];
+            const auto value = [&](int k) { return PartArrays<const T>::gatheredOf(src + u * q + k, spaced<T>(q)); };
+            const auto put = [&](int j, BlockPart<T> x) { PartArrays<T>::scatterOf(dst + j * distance, at, x); };
+            const auto first = value(0);
+            auto total = first;
+            for (int k = 0; k < q - 1; ++k) {
+                const auto y = value(k + 1);
+                terms[k] = add(y, y);
+                total = k % 2 == 0 ? add(total, terms[k]) : total;
+            }
+            put(0, total);
+            sumTerms(q, asParts(dirTab), first, static_cast<const BlockPart<T>*>(terms),
+                     [&](int j, BlockPart<T> a, BlockPart<T> b) {
+                         put(j, add(a, b));
+                         put(q - j, sub(a, b));
+                     });
         });
 }
 
