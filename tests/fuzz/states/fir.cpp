@@ -1,11 +1,9 @@
 // FIR filters, at one rate and at two: states of the library's and in our memory.
-#include "fuzz/states/stream.h"
+#include "fuzz/states/filter.h"
 #include "fuzz/states/targets.h"
+#include "support/fir_tails.h"
 
-#include <tarns.h>
-
-#include <algorithm>
-#include <vector>
+#include <type_traits>
 
 namespace tarn::test::fuzz {
 namespace {
@@ -19,160 +17,91 @@ struct Parameters {
     bool ours = false; ///< in memory of ours, where there are no transforms
     bool withLine = false;
 
-    int delay() const { return (tapsLen + up - 1) / up; }
+    int delay() const { return up < 1 ? 0 : (tapsLen + up - 1) / up; }
 };
 
-// The functions of one type under one name each; what their arguments differ in stands in the macros' own arguments.
-#define FIR_FUNCTIONS(Name, TAIL, Taps_, Sample_, SCALED, IN_PLACE, FACTOR, SCALE)                                     \
-    struct Name {                                                                                                      \
-        using Taps = Taps_;                                                                                            \
-        using Sample = Sample_;                                                                                        \
-        using State = TarnsFIRState##TAIL;                                                                             \
-        static TarnStatus make(State** state, const Taps* taps, const Sample* line, [[maybe_unused]] Parameters p)     \
-        {                                                                                                              \
-            return p.rates ? tarnsFIRMRInitAlloc##TAIL(state, taps, p.tapsLen FACTOR, p.up, p.upPhase, p.down,         \
-                                                       p.downPhase, line)                                              \
-                           : tarnsFIRInitAlloc##TAIL(state, taps, p.tapsLen FACTOR, line);                             \
-        }                                                                                                              \
-        static TarnStatus makeAt(State** state, const Taps* taps, const Sample* line, [[maybe_unused]] Parameters p,   \
-                                 Tarn8u* memory)                                                                       \
-        {                                                                                                              \
-            return p.rates ? tarnsFIRMRInit##TAIL(state, taps, p.tapsLen FACTOR, p.up, p.upPhase, p.down, p.downPhase, \
-                                                  line, memory)                                                        \
-                           : tarnsFIRInit##TAIL(state, taps, p.tapsLen FACTOR, line, memory);                          \
-        }                                                                                                              \
-        static TarnStatus size(Parameters p, int* bytes)                                                               \
-        {                                                                                                              \
-            return p.rates ? tarnsFIRMRGetStateSize##TAIL(p.tapsLen, p.up, p.down, bytes)                              \
-                           : tarnsFIRGetStateSize##TAIL(p.tapsLen, bytes);                                             \
-        }                                                                                                              \
-        static TarnStatus block(const Sample* x, Sample* y, int n, State* state, [[maybe_unused]] int scale)           \
-        {                                                                                                              \
-            return tarnsFIR##TAIL##SCALED(x, y, n, state SCALE);                                                       \
-        }                                                                                                              \
-        static TarnStatus inPlace(Sample* x, int n, State* state, [[maybe_unused]] int scale)                          \
-        {                                                                                                              \
-            return tarnsFIR##TAIL##IN_PLACE(x, n, state SCALE);                                                        \
-        }                                                                                                              \
-        static TarnStatus single(Sample x, Sample* y, State* state, [[maybe_unused]] int scale)                        \
-        {                                                                                                              \
-            return tarnsFIROne##TAIL##SCALED(x, y, state SCALE);                                                       \
-        }                                                                                                              \
-        static TarnStatus getLine(State* state, Sample* line) { return tarnsFIRGetDlyLine##TAIL(state, line); }        \
-        static TarnStatus setLine(State* state, const Sample* line) { return tarnsFIRSetDlyLine##TAIL(state, line); }  \
-        static TarnStatus free(State* state) { return tarnsFIRFree##TAIL(state); }
-
-#define FIR_FLOAT_TAPS(TAIL)                                                                                      \
-    static TarnStatus getTaps(State* state, Taps* taps, int*) { return tarnsFIRGetTaps##TAIL(state, taps); }      \
-    static TarnStatus setTaps(const Taps* taps, State* state, int) { return tarnsFIRSetTaps##TAIL(taps, state); } \
+// The calls of a tail at two rates, beside those at one.
+#define FIR_RATES(Name, Tail, TAIL)                                     \
+    struct Name : Tail {                                                \
+        static constexpr auto makeRates = tarnsFIRMRInitAlloc##TAIL;    \
+        static constexpr auto placeRates = tarnsFIRMRInit##TAIL;        \
+        static constexpr auto ratesSize = tarnsFIRMRGetStateSize##TAIL; \
     }
-#define FIR_INTEGER_TAPS(TAIL)                                            \
-    static TarnStatus getTaps(State* state, Taps* taps, int* factor)      \
-    {                                                                     \
-        return tarnsFIRGetTaps##TAIL(state, taps, factor);                \
-    }                                                                     \
-    static TarnStatus setTaps(const Taps* taps, State* state, int factor) \
-    {                                                                     \
-        return tarnsFIRSetTaps##TAIL(taps, state, factor);                \
-    }                                                                     \
-    }
+FIR_RATES(Fir_32f, FirTail32f, _32f);
+FIR_RATES(Fir_32fc, FirTail32fc, _32fc);
+FIR_RATES(Fir_64f, FirTail64f, _64f);
+FIR_RATES(Fir64fc_32fc, FirTail64fc_32fc, 64fc_32fc);
+FIR_RATES(Fir32f_16s, FirTail32f_16s, 32f_16s);
+FIR_RATES(Fir32s_16s, FirTail32s_16s, 32s_16s);
 
-#define NOTHING
-#define FACTOR_ARGUMENT , p.tapsFactor
-#define SCALE_ARGUMENT , scale
-FIR_FUNCTIONS(Fir_32f, _32f, Tarn32f, Tarn32f, , _I, NOTHING, NOTHING)
-FIR_FLOAT_TAPS(_32f);
-FIR_FUNCTIONS(Fir_32fc, _32fc, Tarn32fc, Tarn32fc, , _I, NOTHING, NOTHING)
-FIR_FLOAT_TAPS(_32fc);
-FIR_FUNCTIONS(Fir_64f, _64f, Tarn64f, Tarn64f, , _I, NOTHING, NOTHING)
-FIR_FLOAT_TAPS(_64f);
-FIR_FUNCTIONS(Fir64fc_32fc, 64fc_32fc, Tarn64fc, Tarn32fc, , _I, NOTHING, NOTHING)
-FIR_FLOAT_TAPS(64fc_32fc);
-FIR_FUNCTIONS(Fir32f_16s, 32f_16s, Tarn32f, Tarn16s, _Sfs, _ISfs, NOTHING, SCALE_ARGUMENT)
-FIR_FLOAT_TAPS(32f_16s);
-FIR_FUNCTIONS(Fir32s_16s, 32s_16s, Tarn32s, Tarn16s, _Sfs, _ISfs, FACTOR_ARGUMENT, SCALE_ARGUMENT)
-FIR_INTEGER_TAPS(32s_16s);
+// Integer taps have a factor behind their number.
+template <class Make, class State, class Tap, class... Behind>
+TarnStatus makeWith(Make make, State** state, const std::vector<Tap>& taps, const Parameters& p, Behind... behind)
+{
+    if constexpr (std::is_invocable_v<Make, State**, const Tap*, int, Behind...>)
+        return make(state, taps.data(), p.tapsLen, behind...);
+    else
+        return make(state, taps.data(), p.tapsLen, p.tapsFactor, behind...);
+}
 
 template <class F>
-class Filter : public Machine {
+class Filter : public FilterMachine<F, typename F::Sample> {
 public:
     using Sample = typename F::Sample;
+    using Tap = typename F::Tap;
 
-    Filter(const std::vector<typename F::Taps>& taps, const std::vector<Sample>& line, Parameters parameters)
-        : p(parameters)
+    Filter(const std::vector<Tap>& taps, const std::vector<Sample>& line, const Parameters& parameters)
+        : FilterMachine<F, Sample>(parameters.scaleFactor, parameters.delay()), p(parameters)
     {
         const Sample* const given = p.withLine ? line.data() : nullptr;
+        const auto size = [&](int* bytes) {
+            return p.rates ? F::ratesSize(p.tapsLen, p.up, p.down, bytes) : F::getStateSize(p.tapsLen, bytes);
+        };
+        const auto place = [&](Tarn8u* memory) {
+            return p.rates
+                       ? makeWith(F::placeRates, &state, taps, p, p.up, p.upPhase, p.down, p.downPhase, given, memory)
+                       : makeWith(F::init, &state, taps, p, given, memory);
+        };
         TarnStatus status = tarnStsNoErr;
-        if (p.ours) {
-            int bytes = 0;
-            status = F::size(p, &bytes);
-            if (status != tarnStsNoErr)
-                return;
-            memory = std::make_unique<GuardedBytes>(static_cast<std::size_t>(bytes), Placement::atEnd());
-            status = F::makeAt(&state, taps.data(), given, p, memory->bytes());
-        } else {
-            status = F::make(&state, taps.data(), given, p);
-        }
+        if (p.ours)
+            status = this->makeInOurs(size, place);
+        else if (p.rates)
+            status = makeWith(F::makeRates, &state, taps, p, p.up, p.upPhase, p.down, p.downPhase, given);
+        else
+            status = makeWith(F::initAlloc, &state, taps, p, given);
         require((status < 0) == (state == nullptr), "a status does not tell whether there is a state");
-    }
-    ~Filter() override
-    {
-        if (state != nullptr)
-            require(F::free(state) == tarnStsNoErr, "a state is not freed");
-        if (memory)
-            requireWhole(*memory);
     }
 
     bool made() const { return state != nullptr; }
-    void block(const void* source, void* destination, int units) override
-    {
-        require(F::block(static_cast<const Sample*>(source), static_cast<Sample*>(destination), units, state,
-                         p.scaleFactor) == tarnStsNoErr,
-                "a block is refused");
-    }
     bool inPlace(void* sourceDestination, int units) override
     {
         // Parts of a block in place begin behind the outputs of the part before.
-        if (p.rates && p.down > 1 && units > 4096)
-            return false;
-        require(F::inPlace(static_cast<Sample*>(sourceDestination), units, state, p.scaleFactor) == tarnStsNoErr,
-                "a block in place is refused");
-        return true;
+        return !(p.rates && p.down > 1 && units > 4096) && FilterMachine<F, Sample>::inPlace(sourceDestination, units);
     }
     bool single(const void* source, void* destination) override
     {
-        if (p.rates)
-            return false;
-        Sample sample;
-        std::copy_n(static_cast<const unsigned char*>(source), sizeof sample,
-                    static_cast<unsigned char*>(static_cast<void*>(&sample)));
-        require(F::single(sample, static_cast<Sample*>(destination), state, p.scaleFactor) == tarnStsNoErr,
-                "a sample is refused");
-        return true;
-    }
-    bool handOver(Machine& to) override
-    {
-        std::vector<Sample> line(static_cast<std::size_t>(p.delay()));
-        require(F::getLine(state, line.data()) == tarnStsNoErr, "a delay line is not given");
-        require(F::setLine(static_cast<Filter&>(to).state, line.data()) == tarnStsNoErr, "a delay line is refused");
-        return true;
+        return !p.rates && FilterMachine<F, Sample>::single(source, destination);
     }
     void look(Bytes&) override
     {
-        std::vector<typename F::Taps> taps(static_cast<std::size_t>(p.tapsLen));
-        int factor = 0;
-        require(F::getTaps(state, taps.data(), &factor) == tarnStsNoErr, "taps are not given");
-        // The largest integer is shifted once more when it is set again.
-        if constexpr (std::is_same_v<typename F::Taps, Tarn32s>)
+        std::vector<Tap> taps(static_cast<std::size_t>(p.tapsLen));
+        if constexpr (std::is_same_v<Tap, Tarn32s>) {
+            int factor = 0;
+            require(F::getTaps(state, taps.data(), &factor) == tarnStsNoErr, "taps are not given");
+            // The largest integer is shifted once more when it is set again.
             if (std::any_of(taps.begin(), taps.end(), [](Tarn32s tap) { return tap > 32766 || tap < -32766; }))
                 return;
-        require(F::setTaps(taps.data(), state, factor) == tarnStsNoErr, "taps are refused");
+            require(F::setTaps(taps.data(), state, factor) == tarnStsNoErr, "taps are refused");
+        } else {
+            require(F::getTaps(state, taps.data()) == tarnStsNoErr, "taps are not given");
+            require(F::setTaps(taps.data(), state) == tarnStsNoErr, "taps are refused");
+        }
     }
 
 private:
+    using FilterMachine<F, Sample>::state;
+
     const Parameters p;
-    std::unique_ptr<GuardedBytes> memory;
-    typename F::State* state = nullptr;
 };
 
 template <class F>
@@ -208,7 +137,7 @@ public:
 
 private:
     const Parameters p;
-    std::vector<typename F::Taps> taps;
+    std::vector<typename F::Tap> taps;
     std::vector<Sample> line;
 };
 
