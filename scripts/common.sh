@@ -32,6 +32,15 @@ build()
     }
 }
 
+# build_targets PRESET TARGET...: in the preset's tree, which is configured first.
+build_targets()
+{
+    configure "$1"
+    name=$1
+    shift
+    build "$name" "build/$name" --target "$@"
+}
+
 log_of()
 {
     mkdir -p build/logs

@@ -40,9 +40,9 @@ struct Accumulators {
 // Four accumulators that registers of this level hold in pairs. Two chains of additions, where one in the widest
 // register would have the longest latency, and four would wait for the ports that add.
 template <typename State>
-inline constexpr bool isNarrow = false;
+inline constexpr bool fitsTwice = false;
 template <typename T, int N>
-inline constexpr bool isNarrow<Pack<T, N>> = bytesOf<T, N> < widestRegister;
+inline constexpr bool fitsTwice<Pack<T, N>> = bytesOf<T, N> < widestRegister;
 
 // Takes packs of `step` elements from i on, one for each accumulator in turn, as long as there is one for each; tells
 // where it stopped. Two turns between tests of the loop's end, since a turn may be no more than two instructions.
@@ -50,7 +50,7 @@ template <int step, typename State, int count, typename Take, typename... S>
 TARN_INLINE Index takeSteps(Accumulators<State, count>& states, Index i, Index len, Take take, S... src)
 {
     constexpr int turn = count * step;
-    if constexpr (isNarrow<State> && count == 4) {
+    if constexpr (fitsTwice<State> && count == 4) {
         constexpr int half = turn / 2;
         auto first = join(states.at[0], states.at[1]);
         auto second = join(states.at[2], states.at[3]);
