@@ -138,10 +138,8 @@ struct ReadParts : ReadingSource<T> {
         const std::ptrdiff_t first = this->table[at / 4] / 2;
         const std::ptrdiff_t quarter = this->size / 4;
         const auto from = [=](const T* part) {
-            return [p = part + first, quarter](int i) {
-                constexpr int reversedOfFour[] = {0, 2, 1, 3};
-                return loadPack<blockLanes<T>>(p + reversedOfFour[i] * quarter);
-            };
+            return
+                [p = part + first, quarter](int i) { return loadPack<blockLanes<T>>(p + reversedOfFour[i] * quarter); };
         };
         emitParts<forward, T>(from(srcRe), from(srcIm), emit);
     }

@@ -33,9 +33,6 @@ TARN_INLINE std::array<Complex<Pack<T, W>>, groupLanes> rowsOfQuads(Quad<Pack<T,
 //
 // As many consecutive elements as there are lanes belong to as many stretches of the work area.
 
-// The places of four points in bit-reversed order, in quarters.
-inline constexpr int reversedOfFour[] = {0, 2, 1, 3};
-
 template <typename T>
 struct WideReading : WideSource<T> {
     static constexpr int streams = workLanes<T>;
@@ -56,6 +53,17 @@ protected:
         }
         return result;
     }
+
+    // quad(i) tells the points of quadruples i, by their quarters, for as many streams as there are lanes.
+    template <bool forward, int quads, typename Quads>
+    static TARN_INLINE void readUnits(Quads quad, Units<T, 4, quads>& x)
+    {
+        repeat<4 * quads>([&](auto i) __attribute__((always_inline)) {
+            const auto point = quad(i);
+            const auto result = rowsOfQuads<forward, T, workLanes<T>>({point(0), point(2), point(1), point(3)});
+            repeat<4>([&](auto m) __attribute__((always_inline)) { x[m][i / quads][i % quads] = result[m]; });
+        });
+    }
 };
 
 template <typename T>
@@ -67,17 +75,16 @@ struct WideReadPairs : WideReading<T> {
     template <bool forward, int quads>
     TARN_INLINE void read(int at, Units<T, 4, quads>& x) const
     {
-        const std::ptrdiff_t quarter = this->size / 2;
-        repeat<4 * quads>([&](auto i) __attribute__((always_inline)) {
-            const T* const p = src + this->table[at / 4 + i];
-            const auto element = [=](int k) __attribute__((always_inline))
+        const std::ptrdiff_t step = this->size / 2;
+        const auto quad = [&](int i) __attribute__((always_inline))
+        {
+            return [step, p = src + this->table[at / 4 + i]](int quarter) __attribute__((always_inline))
             {
-                const T* const from = p + reversedOfFour[k] * quarter;
+                const T* const from = p + quarter * step;
                 return deinterleaveInLanes(loadPack<W>(from), loadPack<W>(from + W));
             };
-            const auto result = rowsOfQuads<forward, T, W>({element(0), element(1), element(2), element(3)});
-            repeat<4>([&](auto m) __attribute__((always_inline)) { x[m][i / quads][i % quads] = result[m]; });
-        });
+        };
+        this->template readUnits<forward, quads>(quad, x);
     }
     TARN_INLINE std::ptrdiff_t groupOffset(int row, int group) const
     {
@@ -96,18 +103,16 @@ struct WideReadParts : WideReading<T> {
     template <bool forward, int quads>
     TARN_INLINE void read(int at, Units<T, 4, quads>& x) const
     {
-        const std::ptrdiff_t quarter = this->size / 4;
-        repeat<4 * quads>([&](auto i) __attribute__((always_inline)) {
-            const T* const re = srcRe + this->table[at / 4 + i] / 2;
-            const T* const im = srcIm + this->table[at / 4 + i] / 2;
-            const auto element = [=](int k) __attribute__((always_inline))
+        const std::ptrdiff_t step = this->size / 4;
+        const auto quad = [&](int i) __attribute__((always_inline))
+        {
+            const std::ptrdiff_t first = this->table[at / 4 + i] / 2;
+            return [step, re = srcRe + first, im = srcIm + first](int quarter) __attribute__((always_inline))
             {
-                const std::ptrdiff_t from = reversedOfFour[k] * quarter;
-                return Complex<Pack<T, W>>{loadPack<W>(re + from), loadPack<W>(im + from)};
+                return Complex<Pack<T, W>>{loadPack<W>(re + quarter * step), loadPack<W>(im + quarter * step)};
             };
-            const auto result = rowsOfQuads<forward, T, W>({element(0), element(1), element(2), element(3)});
-            repeat<4>([&](auto m) __attribute__((always_inline)) { x[m][i / quads][i % quads] = result[m]; });
-        });
+        };
+        this->template readUnits<forward, quads>(quad, x);
     }
     TARN_INLINE std::ptrdiff_t groupOffset(int row, int group) const
     {
@@ -118,8 +123,6 @@ struct WideReadParts : WideReading<T> {
 // -- Natural order, few points ----------------------------------------------------------------------------------------
 //
 // Of 64 or 128 points a register holds places of all four groups: what lies in the lanes' upper bits is the unit.
-
-inline constexpr int reversedOfTwoBits[] = {0, 2, 1, 3};
 
 template <typename T>
 struct WideFew : WideSource<T> {
@@ -135,7 +138,7 @@ struct WideFew : WideSource<T> {
     static constexpr bool takes(int size) { return W > groupLanes && size == 4 * firstStage(size); }
     TARN_INLINE std::ptrdiff_t groupOffset(int row, int group) const
     {
-        return std::ptrdiff_t{reversedOfTwoBits[row * WideSource<T>::groups + group]} * firstStage(size);
+        return std::ptrdiff_t{reversedOfFour[row * WideSource<T>::groups + group]} * firstStage(size);
     }
 
 protected:
@@ -159,7 +162,7 @@ protected:
                 re = transposeGroups<T, W>(re);
                 im = transposeGroups<T, W>(im);
                 repeat<groups>([&](auto g) __attribute__((always_inline)) {
-                    x[row][reversedOfTwoBits[h * groups + g]][e] = {re[g], im[g]};
+                    x[row][reversedOfFour[h * groups + g]][e] = {re[g], im[g]};
                 });
             });
         });

@@ -56,6 +56,9 @@ TARN_INLINE void storeBlocks(T* p, Complex<Pack<T, W>> x)
     }
 }
 
+// Two bits in opposite order.
+inline constexpr int reversedOfFour[] = {0, 2, 1, 3};
+
 // The lengths of the stages: the first pass has finished transforms of 4 or, in odd orders, 8 points.
 constexpr bool isOddOrder(int size) { return (static_cast<unsigned>(size) & 0xAAAAAAAAu) != 0; }
 constexpr int firstStage(int size) { return isOddOrder(size) ? 32 : 16; }
