@@ -44,8 +44,7 @@ inline void moveElements(const T* src, T* dst, int len)
     tarn::move(src, dst, len);
 }
 
-// -- The delay line: a caller's is newest first, a state's oldest first
-// ------------------------------------------------
+// -- The delay line: a caller's is newest first, a state's oldest first -----------------------------------------------
 
 // How many samples a caller sees.
 template <typename State>
@@ -98,8 +97,7 @@ inline TarnStatus getDelay(const State* state, typename State::Sample* pDlyLine)
     return tarnStsNoErr;
 }
 
-// -- Calls
-// -------------------------------------------------------------------------------------------------------------
+// -- Calls ------------------------------------------------------------------------------------------------------------
 
 template <typename State, typename... P>
 inline TarnStatus checkFilter(const State* state, int numIters, const P*... pointers)

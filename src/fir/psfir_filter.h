@@ -12,8 +12,7 @@
 
 namespace tarn {
 
-// -- Samples and elements of the taps' type
-// ----------------------------------------------------------------------------
+// -- Samples and elements of the taps' type ---------------------------------------------------------------------------
 
 template <typename T>
 inline void samplesToTaps(const T* src, T* dst, int len)
@@ -50,8 +49,7 @@ inline void outputsToSamples(const T* src, S* dst, int len, int scaleFactor)
     outputsToSamples(reinterpret_cast<const Part<T>*>(src), reinterpret_cast<Part<S>*>(dst), 2 * len, scaleFactor);
 }
 
-// -- The direct road
-// ---------------------------------------------------------------------------------------------------
+// -- The direct road --------------------------------------------------------------------------------------------------
 
 // Where outputs wait for their conversion: half of the scratch area. The other half is the in-place calls'.
 inline constexpr int outputsAtOnce = scratchElements / 2;
@@ -143,8 +141,7 @@ inline TarnStatus runDirect(const typename State::Sample* src, typename State::S
     return tarnStsNoErr;
 }
 
-// -- The road of transforms
-// --------------------------------------------------------------------------------------------
+// -- The road of transforms -------------------------------------------------------------------------------------------
 
 template <typename T>
 inline BlockBuffers<T> buffersOf(const FirFields<T>* state, int thread)
@@ -268,8 +265,7 @@ inline TarnStatus runTransforms(const typename State::Sample* src, typename Stat
     return len < 1 ? tarnStsNoErr : OverlapSave<State>(src, dst, len, state, scaleFactor).run();
 }
 
-// -- Calls
-// -------------------------------------------------------------------------------------------------------------
+// -- Calls ------------------------------------------------------------------------------------------------------------
 
 template <typename State>
 inline bool takesTransforms(const State* state, int len)

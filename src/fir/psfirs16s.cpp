@@ -16,8 +16,7 @@ namespace {
 Tarn32f tapToFloat(Tarn32s tap, int factor) { return std::ldexp(static_cast<Tarn32f>(tap), factor); }
 Tarn32fc tapToFloat(Tarn32sc tap, int factor) { return {tapToFloat(tap.re, factor), tapToFloat(tap.im, factor)}; }
 
-// -- States
-// ------------------------------------------------------------------------------------------------------------
+// -- States -----------------------------------------------------------------------------------------------------------
 
 template <typename State>
 using RegionsOf = FirIntegerRegions<typename State::Sample>;
@@ -128,8 +127,7 @@ TarnStatus getFloatTaps(const State* state, F* pTaps)
     return tarnStsNoErr;
 }
 
-// -- Filters
-// -----------------------------------------------------------------------------------------------------------
+// -- Filters ----------------------------------------------------------------------------------------------------------
 
 TarnStatus filter(const Tarn16s* src, Tarn16s* dst, int len, TarnsFIRState32s_16s* state, int scaleFactor)
 {

@@ -50,8 +50,7 @@ inline double nearInteger(double x)
     return (x + noFraction) - noFraction;
 }
 
-// -- Circular functions
-// ------------------------------------------------------------------------------------------------
+// -- Circular functions -----------------------------------------------------------------------------------------------
 
 // An angle as quarter turns, of which only the last two bits matter, and what is left, up to an eighth of a turn.
 struct Angle {
@@ -183,8 +182,7 @@ inline double sineOfAngle(Angle angle)
     return lowerHalf != (negative && !isCosine) ? -magnitude : magnitude;
 }
 
-// -- Exponential
-// -------------------------------------------------------------------------------------------------------
+// -- Exponential ------------------------------------------------------------------------------------------------------
 
 // (y + yLo) 2^n, rounded once even if it is not normal; y lies between 0.5 and 4.
 inline double scaledOnce(double y, double yLo, int n)
@@ -235,8 +233,7 @@ inline double exponential(double x)
     return scaledOnce(power.y, power.yLo, power.n);
 }
 
-// -- Logarithm
-// ---------------------------------------------------------------------------------------------------------
+// -- Logarithm --------------------------------------------------------------------------------------------------------
 
 // Of a positive number.
 inline double logarithm(double x)

@@ -47,8 +47,7 @@ TARN_INLINE X halveRounded(FullWidth<X> t)
     return shiftRounded(t, 1);
 }
 
-// -- An exact result limited to the bounds of D
-// ------------------------------------------------------------------------
+// -- An exact result limited to the bounds of D -----------------------------------------------------------------------
 
 template <typename D, typename X>
 TARN_INLINE auto limitTo(X t)
@@ -84,8 +83,7 @@ TARN_INLINE X limitTo(Wide33<X> t)
     return select(equal(shiftRight(t.half, sign), shiftRight(t.wrapped, sign)), t.wrapped, boundOfSign(t.half));
 }
 
-// -- Complex results part by part
-// --------------------------------------------------------------------------------------
+// -- Complex results part by part -------------------------------------------------------------------------------------
 
 // The step carried out on `re` and `im` alike, D being the complex type that comes out.
 template <typename D, typename X, typename Step>
@@ -119,8 +117,7 @@ TARN_INLINE auto finish(Step step, X t)
     }
 }
 
-// -- The five steps; D is a real type
-// ----------------------------------------------------------------------------------
+// -- The five steps; D is a real type ---------------------------------------------------------------------------------
 
 template <typename D>
 struct LimitStep {
@@ -169,8 +166,7 @@ struct SignStep {
     }
 };
 
-// -- The five kernels' operations
-// --------------------------------------------------------------------------------------
+// -- The five kernels' operations -------------------------------------------------------------------------------------
 
 // An operation followed by a step. The step comes first, since its count is what differs from call to call.
 template <typename D, typename Operation, typename Step>

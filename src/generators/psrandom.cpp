@@ -48,8 +48,7 @@ namespace {
 
 constexpr WaitingNormal noneWaiting{1, 0, 0};
 
-// -- The whole generator from a seed, on every call
-// ----------------------------------------------------------------------------------------
+// -- The whole generator from a seed, on every call -------------------------------------------------------------------
 
 template <typename T>
 TarnStatus uniformDirect(T* pDst, int len, T low, T high, unsigned int* pSeed)
@@ -76,8 +75,7 @@ TarnStatus normalDirect(T* pDst, int len, T mean, T stdDev, unsigned int* pSeed)
     return tarnStsNoErr;
 }
 
-// -- Objects
-// -------------------------------------------------------------------------------------------------------
+// -- Objects ----------------------------------------------------------------------------------------------------------
 
 template <typename T, Tarn32u id>
 void start(UniformState<T, id>& state, T low, T high, Tarn32u seed)

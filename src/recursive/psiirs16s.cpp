@@ -22,8 +22,7 @@ TarnStatus checkDirect(bool isGoodOrder, const P*... pointers)
     return ((pointers == nullptr) || ...) ? tarnStsNullPtrErr : tarnStsNoErr;
 }
 
-// -- Single samples
-// ----------------------------------------------------------------------------------------------------
+// -- Single samples ---------------------------------------------------------------------------------------------------
 
 // Integers of 32 bits that wrap.
 using Wrapped = std::uint32_t;
@@ -92,8 +91,7 @@ TarnStatus filterOneCascade(Tarn16s src, Tarn16s* dst, const Tarn16s* taps, int 
     return tarnStsNoErr;
 }
 
-// -- Blocks: a float state for the length of a call
-// --------------------------------------------------------------------
+// -- Blocks: a float state for the length of a call -------------------------------------------------------------------
 
 using State = TarnsIIRState32f_16s;
 using Fields = IirFields<Tarn32f>;
@@ -195,8 +193,7 @@ TarnStatus ownsIIRInitAlloc_BiQuad_16s(IirFields<Tarn32f>** ppState, const Tarn1
     return tarnStsNoErr;
 }
 
-// -- One section of any order
-// ------------------------------------------------------------------------------------------
+// -- One section of any order -----------------------------------------------------------------------------------------
 
 TarnStatus tarnsIIR_Direct_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len, const Tarn16s* pTaps, int order,
                                Tarn32s* pDlyLine)
@@ -231,8 +228,7 @@ TarnStatus tarnsIIROne_Direct_16s_I(Tarn16s* pSrcDstVal, const Tarn16s* pTaps, i
     return tarnsIIROne_Direct_16s(src, pSrcDstVal, pTaps, order, pDlyLine);
 }
 
-// -- Cascades of sections of order two
-// ---------------------------------------------------------------------------------
+// -- Cascades of sections of order two --------------------------------------------------------------------------------
 
 TarnStatus tarnsIIR_BiQuadDirect_16s(const Tarn16s* pSrc, Tarn16s* pDst, int len, const Tarn16s* pTaps, int numBq,
                                      Tarn32s* pDlyLine)

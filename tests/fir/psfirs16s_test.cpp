@@ -12,8 +12,7 @@ extern "C" int scale32fTaps32s(const Tarn32f*, Tarn32s*, int);
 namespace tarn::test {
 namespace {
 
-// -- The model
-// ---------------------------------------------------------------------------------------------------------
+// -- The model --------------------------------------------------------------------------------------------------------
 
 Tarn32s wrapped(std::int64_t x) { return static_cast<Tarn32s>(static_cast<std::uint32_t>(x)); }
 
@@ -66,8 +65,7 @@ std::vector<Tarn16sc> model(const std::vector<Tarn32sc>& taps, const std::vector
     return out;
 }
 
-// -- Filters
-// -----------------------------------------------------------------------------------------------------------
+// -- Filters ----------------------------------------------------------------------------------------------------------
 
 template <class F>
 class FirIntegerTest : public ::testing::Test {
@@ -207,8 +205,7 @@ TYPED_TEST(FirIntegerTest, TakesArraysAtAnyAddress)
     }
 }
 
-// -- Taps
-// --------------------------------------------------------------------------------------------------------------
+// -- Taps -------------------------------------------------------------------------------------------------------------
 
 void expectKept(const std::vector<Tarn32s>& taps, int shift)
 {

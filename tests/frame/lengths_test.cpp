@@ -271,8 +271,7 @@ TEST_F(Lengths, BeyondAnUnsignedCount)
     expectMoved(Span<Tarn64f>(large, bytes / sizeof(Tarn64f)), tarnsMove_64f);
 }
 
-// -- Shortcuts of arithmetic: scale factors and constants that leave zeros or a copy
-// -----------------------------------
+// -- Shortcuts of arithmetic: scale factors and constants that leave zeros or a copy ----------------------------------
 
 TEST_F(Lengths, ShortcutsToZeros)
 {

@@ -18,8 +18,7 @@ namespace {
 using Words = std::vector<Tarn16s>;
 using Line = std::vector<Tarn32s>;
 
-// -- Single samples, in integers that wrap
-// --------------------------------------------------------------------------------
+// -- Single samples, in integers that wrap ----------------------------------------------------------------------------
 
 Tarn32s wrap(long long x) { return static_cast<Tarn32s>(static_cast<std::uint32_t>(static_cast<std::uint64_t>(x))); }
 
@@ -148,8 +147,7 @@ TEST(IirDirectTest, FiltersSamplesByCascades)
     }
 }
 
-// -- Blocks
-// ---------------------------------------------------------------------------------------------------------------
+// -- Blocks -----------------------------------------------------------------------------------------------------------
 
 // Decaying filters: the numerators are small, the denominators halve what they keep.
 Words decayingTaps(int order, int s, std::uint64_t seed)
@@ -266,8 +264,7 @@ TEST(IirDirectTest, AgreesWithSamplesWhereNothingIsLost)
     }
 }
 
-// -- Checks
-// ---------------------------------------------------------------------------------------------------------------
+// -- Checks -----------------------------------------------------------------------------------------------------------
 
 struct DirectCall {
     Words data = Words(20, 100);

@@ -153,8 +153,7 @@ TEST(DctStatus, SmallLengthsDoNotTouchTheBuffer)
         }
 }
 
-// -- Memory that is refused
-// --------------------------------------------------------------------------------------------
+// -- Memory that is refused -------------------------------------------------------------------------------------------
 
 TEST(DctMemory, CreationGivesBackAllItGotWhenOneAllocationFails)
 {

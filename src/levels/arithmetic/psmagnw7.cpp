@@ -16,8 +16,7 @@
 namespace tarn {
 namespace {
 
-// -- Squared magnitudes
-// ------------------------------------------------------------------------------------------------
+// -- Squared magnitudes -----------------------------------------------------------------------------------------------
 
 // Of words, exact in 32 bits without a sign: 2^31 is the largest.
 struct PowerOfWords {

@@ -8,8 +8,7 @@
 
 namespace tarn {
 
-// -- Exact products
-// ----------------------------------------------------------------------------------------------------
+// -- Exact products ---------------------------------------------------------------------------------------------------
 
 // Rounding a product of words needs one bit less than they have together.
 struct ExactProduct {
@@ -37,8 +36,7 @@ struct ComplexProduct {
     }
 };
 
-// -- 32-bit products by way of doubles
-// ---------------------------------------------------------------------------------
+// -- 32-bit products by way of doubles --------------------------------------------------------------------------------
 //
 // A double holds 53 bits of a product, and that is what these functions promise: the product is rounded to a double
 // first, which can make it differ from the exact one above 2^53. Unscaled there is no difference, since what lies

@@ -17,8 +17,7 @@
 namespace tarn {
 namespace {
 
-// -- Integers: single precision holds the root of 16 bits
-// --------------------------------------------------------------
+// -- Integers: single precision holds the root of 16 bits -------------------------------------------------------------
 
 // Beyond these factors every root but 0 saturates, and every root rounds to 0.
 struct RootLimits {

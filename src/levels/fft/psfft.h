@@ -66,8 +66,7 @@ TARN_FFT_DECLARE_REVERSAL(tarns_BitRev2_4, void);
 TARN_FFT_DECLARE_REVERSAL(tarns_BitRev2_8, void);
 TARN_FFT_DECLARE_REVERSAL(tarns_BitRev2_16, void);
 
-// -- Recombination
-// -----------------------------------------------------------------------------------------------------
+// -- Recombination ----------------------------------------------------------------------------------------------------
 
 // The factors that join a complex transform of half the length to a real one of 2^order points, and those that take it
 // apart; `base` is the base table of that order.

@@ -6,8 +6,7 @@
 
 namespace tarn::fft {
 
-// -- Access to rows of C elements, in blocks of blockLanes<T> columns
-// -----------------------------------------------------
+// -- Access to rows of C elements, in blocks of blockLanes<T> columns -------------------------------------------------
 
 // T may be constant where rows are only read.
 

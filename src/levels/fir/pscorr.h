@@ -27,8 +27,7 @@ void multiplyByConjugate(const T* src, T* srcDst, int len);
 
 } // namespace tarn
 
-// -- Two vectors: lags lowLag to lowLag + dstLen - 1
-// -------------------------------------------------------------------
+// -- Two vectors: lags lowLag to lowLag + dstLen - 1 ------------------------------------------------------------------
 
 // FirstTriangle and LastTriangle serve the lags at which the vectors overlap in part, ForwFilter those at which all of
 // the first one lies within the second, BackFilter those at which all of the second one lies within the first.

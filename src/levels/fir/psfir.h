@@ -4,8 +4,7 @@
 #include "frame/kernels.h"
 #include "levels/fir/psfir_state.h"
 
-// -- Blocks: count outputs from count + tapsLen - 1 samples, as elements of the taps' type
-// -----------------------------
+// -- Blocks: count outputs from count + tapsLen - 1 samples, as elements of the taps' type ----------------------------
 
 // Each is also known to the templates as blockKernel, by its types.
 #define TARN_FIR_BLOCK_KERNEL(LINKAGE, NAME, T, S)                                                   \
@@ -30,8 +29,7 @@ TARN_FIR_BLOCK_KERNEL(, ownFIRSR64fc_32sc, Tarn64fc, Tarn32sc)
 TARN_FIR_BLOCK_KERNEL(TARN_KERNEL, ownFIRSR64f_16s, Tarn64f, Tarn16s)
 TARN_FIR_BLOCK_KERNEL(TARN_KERNEL, ownFIRSR64fc_16sc, Tarn64fc, Tarn16sc)
 
-// -- Single samples: one enters the delay line, one output leaves
-// ------------------------------------------------------
+// -- Single samples: one enters the delay line, one output leaves -----------------------------------------------------
 
 #define TARN_FIR_ONE_KERNEL(LINKAGE, NAME, TAIL, S)                                                            \
     LINKAGE void NAME(TarnsFIRState##TAIL* pState, S src, S* pDstVal);                                         \
@@ -62,16 +60,14 @@ TARN_FIR_ONE_KERNEL_SFS(, ownsFIRSROne64fc_16sc_Sfs, 64fc_16sc, Tarn16sc)
 TARN_FIR_ONE_KERNEL_SFS(TARN_KERNEL, ownFIRSROne32s_16s_Sfs, 32s_16s, Tarn16s)
 TARN_FIR_ONE_KERNEL_SFS(TARN_KERNEL, ownFIRSROne32sc_16sc_Sfs, 32sc_16sc, Tarn16sc)
 
-// -- Integer taps: blocks, the delay line included
-// ---------------------------------------------------------------------
+// -- Integer taps: blocks, the delay line included --------------------------------------------------------------------
 
 TARN_KERNEL void ownFIRSR32s_16s_Sfs(const Tarn16s* pSrc, Tarn16s* pDst, int numIters, TarnsFIRState32s_16s* pState,
                                      int scaleFactor);
 TARN_KERNEL void ownFIRSR32sc_16sc_Sfs(const Tarn16sc* pSrc, Tarn16sc* pDst, int numIters,
                                        TarnsFIRState32sc_16sc* pState, int scaleFactor);
 
-// -- Float taps as 16-bit integers
-// -------------------------------------------------------------------------------------
+// -- Float taps as 16-bit integers ------------------------------------------------------------------------------------
 
 // Rounds len components, halves away from zero, after scaling by the power of two that brings the largest magnitude
 // into 16383.5..32767; answers with e, where the taps are the integers times 2^e.
@@ -84,16 +80,14 @@ void convertRounded_64f16s(const Tarn64f* pSrc, Tarn16s* pDst, int len, int scal
 
 } // namespace tarn
 
-// -- States for the length of a call
-// -------------------------------------------------------------------------------
+// -- States for the length of a call ----------------------------------------------------------------------------------
 
 // A state of taps in Q15, kept as they are, and with the samples of pDlyLine, newest first.
 TARN_KERNEL TarnStatus ownsFIRInitAlloc16s_Q15(TarnsFIRState32s_16s** ppState, const Tarn16s* pTaps, int tapsLen,
                                                const Tarn16s* pDlyLine);
 TARN_KERNEL void ownsFIRFree16s_Q15(TarnsFIRState32s_16s* pState);
 
-// -- Inner calls
-// -------------------------------------------------------------------------------------------------------
+// -- Inner calls ------------------------------------------------------------------------------------------------------
 
 // Builders of allocated states; each serves all families whose taps have its type. The delay line is left to the
 // caller.

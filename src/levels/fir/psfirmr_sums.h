@@ -279,8 +279,7 @@ TARN_INLINE void putGroup(S* dst, GroupOf<T> sums, Finish finish)
     }
 }
 
-// -- Kernels
-// -----------------------------------------------------------------------------------------------------------
+// -- Kernels ----------------------------------------------------------------------------------------------------------
 
 // A multiple of four outputs, by whole windows.
 template <typename T, typename S, typename Phases, typename Finish>

@@ -8,8 +8,7 @@ using namespace tarn;
 
 namespace {
 
-// -- Dot products
-// ------------------------------------------------------------------------------------------------------
+// -- Dot products -----------------------------------------------------------------------------------------------------
 
 // Below this many taps the products are added in their order; above it two registers of sums are worth their joining.
 constexpr int tapsInOrder = 12;
@@ -84,8 +83,7 @@ Tarn64fc filterWindow(const Tarn64fc* window, const Tarn64fc* taps, const Tarn64
     return sum;
 }
 
-// -- Conversion of one sample
-// ------------------------------------------------------------------------------------------
+// -- Conversion of one sample -----------------------------------------------------------------------------------------
 
 // 2^-scaleFactor from its exponent field alone, whatever becomes of it outside its range.
 template <Float T>
@@ -122,8 +120,7 @@ template <typename S, typename T>
         return {resultToSample<Part<S>>(y.re, scaleFactor), resultToSample<Part<S>>(y.im, scaleFactor)};
     }
 
-// -- The kernel
-// --------------------------------------------------------------------------------------------------------
+// -- The kernel -------------------------------------------------------------------------------------------------------
 
 template <typename State, typename S>
 TARN_INLINE void filterOne(State* state, S src, S* dst, int scaleFactor)

@@ -10,8 +10,7 @@ using namespace tarn;
 
 namespace {
 
-// -- Real filters
-// ------------------------------------------------------------------------------------------------------
+// -- Real filters -----------------------------------------------------------------------------------------------------
 
 // Outputs that are computed together, from the same registers of taps.
 constexpr int outputsTogether = 4;
@@ -72,8 +71,7 @@ void filterBlock(const Tarn16s* src, Tarn16s* dst, int len, const TarnsFIRState3
     }
 }
 
-// -- Complex filters
-// ---------------------------------------------------------------------------------------------------
+// -- Complex filters --------------------------------------------------------------------------------------------------
 
 // Two lists of the reversed taps: (re, -im) and (im, re). A pair product with one of them is a part of the result.
 struct PairLists {
@@ -136,8 +134,7 @@ void filterBlock(const Tarn16sc* src, Tarn16sc* dst, int len, const TarnsFIRStat
     }
 }
 
-// -- Delay line
-// --------------------------------------------------------------------------------------------------------
+// -- Delay line -------------------------------------------------------------------------------------------------------
 
 template <typename S>
 void moveSamples(const S* src, S* dst, int len)
@@ -176,8 +173,7 @@ TARN_INLINE S* enter(State* state, S src)
     return enterSample(state->pDlyLine, state->dlyLineIdx, state->tapsLen, src);
 }
 
-// -- Float taps
-// ---------------------------------------------------------------------------------------------------------
+// -- Float taps -------------------------------------------------------------------------------------------------------
 
 constexpr std::uint32_t signOfSingle = 0x80000000;
 constexpr std::uint32_t infiniteSingle = 0x7F800000;

@@ -76,8 +76,7 @@ void drawMany(Tarn32s* draws, int count, RandomSequence& sequence)
     sequence = x;
 }
 
-// -- Uniform numbers
-// -------------------------------------------------------------------------------------------------------
+// -- Uniform numbers --------------------------------------------------------------------------------------------------
 
 template <ToInteger toInteger, typename T>
 struct UniformTo {
@@ -150,8 +149,7 @@ void uniform(T* dst, int len, UniformRange range, RandomSequence& sequence)
     }
 }
 
-// -- Normal numbers, by the polar method
-// -----------------------------------------------------------------------------------------------
+// -- Normal numbers, by the polar method ------------------------------------------------------------------------------
 
 namespace {
 

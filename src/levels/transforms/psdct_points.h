@@ -91,8 +91,7 @@ TARN_INLINE Points<X, 8> inversePoints(const Points<X, 8>& y)
             sub(even[3], d3), sub(even[2], d2), sub(even[1], d1), sub(even[0], d0)};
 }
 
-// -- Orthonormal, by constants that hold the scale
-// ---------------------------------------------------------------------
+// -- Orthonormal, by constants that hold the scale --------------------------------------------------------------------
 
 template <typename T>
 inline constexpr T sqrt_2d2 = static_cast<T>(0.70710678118654752440);

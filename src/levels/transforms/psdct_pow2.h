@@ -87,8 +87,7 @@ TARN_INLINE void stepRowsDown(const T* from, T* to, int rows, int M, const T* ou
     }
 }
 
-// -- The innermost transforms, in place
-// --------------------------------------------------------------------------------
+// -- The innermost transforms, in place -------------------------------------------------------------------------------
 
 template <std::size_t count, typename T>
 TARN_INLINE void transformRows(T* rows)

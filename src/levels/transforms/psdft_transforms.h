@@ -5,8 +5,7 @@
 
 namespace tarn::dft {
 
-// -- Where points come from and results go to: arrays of pairs, or of parts
-// --------------------------------------------
+// -- Where points come from and results go to: arrays of pairs, or of parts -------------------------------------------
 
 template <typename T>
 struct PairsIn {
@@ -46,8 +45,7 @@ struct PartsOut {
     }
 };
 
-// -- Complex data
-// ------------------------------------------------------------------------------------------------------
+// -- Complex data -----------------------------------------------------------------------------------------------------
 
 // Results k and N - k of sums (a.re, b.re, a.im, b.im).
 template <bool forward, typename T, typename Out>
@@ -116,8 +114,7 @@ inline void directTransform(In x, Out y, int N, int direction, Roots<T> roots, T
     }
 }
 
-// -- Real data and the spectrum in Perm order, odd N
-// -------------------------------------------------------------------
+// -- Real data and the spectrum in Perm order, odd N ------------------------------------------------------------------
 
 template <typename T>
 inline void directToPerm(const T* x, T* y, int N, Roots<T> roots, T* work)

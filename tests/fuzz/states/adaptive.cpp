@@ -21,8 +21,7 @@ std::vector<T> filled(digest::Element element, int count, Random& random, Values
     return values;
 }
 
-// -- Least mean squares
-// --------------------------------------------------------------------------------------------------
+// -- Least mean squares -----------------------------------------------------------------------------------------------
 
 #define LMS_FUNCTIONS(Name, TAIL, Sample_)                           \
     struct Name {                                                    \
@@ -215,8 +214,7 @@ private:
     const int taps, step, delay, mu;
 };
 
-// -- Wavelets
-// ------------------------------------------------------------------------------------------------------------
+// -- Wavelets ---------------------------------------------------------------------------------------------------------
 
 struct Bank {
     int lenLow, offsLow, lenHigh, offsHigh;

@@ -104,8 +104,7 @@ void drive(Bytes& bytes, const F& functions, digest::Element element)
         tarnsRand##KIND##InitAlloc_##TAG, AT, SIZE, tarnsRand##KIND##_##TAG, tarnsRand##KIND##Free_##TAG \
     }
 
-// -- Tones and triangle waves
-// --------------------------------------------------------------------------------------------
+// -- Tones and triangle waves -----------------------------------------------------------------------------------------
 
 struct Wave {
     Tarn16s magn;

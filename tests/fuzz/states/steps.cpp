@@ -60,8 +60,7 @@ void medians(Bytes& bytes, digest::Element element, TarnStatus (*filter)(const T
         requireWhole(*array);
 }
 
-// -- Viterbi
-// -------------------------------------------------------------------------------------------------------------
+// -- Viterbi ----------------------------------------------------------------------------------------------------------
 
 /// Tables between guards.
 struct Trellis {

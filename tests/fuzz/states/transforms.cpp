@@ -99,8 +99,7 @@ void drive(const Transform& transform, const Shape& shape, Bytes& bytes)
             requireWhole(**array);
 }
 
-// -- Types
-// ---------------------------------------------------------------------------------------------------------------
+// -- Types ------------------------------------------------------------------------------------------------------------
 
 /// `points` is an order or a length. Those that are refused end here, as do those that would take the machine's memory.
 template <class K>

@@ -73,8 +73,7 @@ Calls wordRead(unsigned (*function)())
     return [=](Hash& hash) { inDefaultEnvironment(hash, function); };
 }
 
-// -- Viterbi decoding, whose tables have the sizes of the trellis
-// ------------------------------------------------------
+// -- Viterbi decoding, whose tables have the sizes of the trellis -----------------------------------------------------
 
 template <class T, std::size_t count>
 std::array<T, count> anyWords(Random& random, unsigned mask)
