@@ -78,11 +78,13 @@ struct WideReadPairs : WideReading<T> {
         const std::ptrdiff_t step = this->size / 2;
         const auto quad = [&](int i) __attribute__((always_inline))
         {
-            return [step, p = src + this->table[at / 4 + i]](int quarter) __attribute__((always_inline))
+            const T* const p = src + this->table[at / 4 + i];
+            const auto point = [=](int quarter) __attribute__((always_inline))
             {
                 const T* const from = p + quarter * step;
                 return deinterleaveInLanes(loadPack<W>(from), loadPack<W>(from + W));
             };
+            return point;
         };
         this->template readUnits<forward, quads>(quad, x);
     }
@@ -106,11 +108,13 @@ struct WideReadParts : WideReading<T> {
         const std::ptrdiff_t step = this->size / 4;
         const auto quad = [&](int i) __attribute__((always_inline))
         {
-            const std::ptrdiff_t first = this->table[at / 4 + i] / 2;
-            return [step, re = srcRe + first, im = srcIm + first](int quarter) __attribute__((always_inline))
+            const T* const re = srcRe + this->table[at / 4 + i] / 2;
+            const T* const im = srcIm + this->table[at / 4 + i] / 2;
+            const auto point = [=](int quarter) __attribute__((always_inline))
             {
                 return Complex<Pack<T, W>>{loadPack<W>(re + quarter * step), loadPack<W>(im + quarter * step)};
             };
+            return point;
         };
         this->template readUnits<forward, quads>(quad, x);
     }
