@@ -28,7 +28,7 @@ TARN_INLINE X halveRounded(X t)
 }
 
 // A 33-bit integer, or a vector of them, as a sum or difference of 32-bit ones needs it: floor(t / 2), and t modulo
-// 2^32. Of 64-bit ones, a 65-bit integer.
+// 2^32. Of 64-bit ones, a 65-bit integer, and of 16-bit ones one of 17 bits.
 template <typename X>
 struct Wide33 {
     X half;
@@ -53,9 +53,15 @@ TARN_INLINE Wide33<X> exactDifference(X a, X b)
 template <typename X>
 TARN_INLINE X halveRounded(Wide33<X> t)
 {
-    const auto rounded = add(t.half, bitAnd(bitAnd(t.wrapped, t.half), splat<X>(1)));
-    const auto leftRange = shiftRightLogical(bitAndNot(t.half, rounded), 8 * static_cast<int>(sizeof(Element<X>)) - 1);
-    return sub(rounded, leftRange);
+    const auto tieFromOdd = bitAnd(bitAnd(t.wrapped, t.half), splat<X>(1));
+    if constexpr (sizeof(Element<X>) == 2) {
+        return addSaturated(t.half, tieFromOdd);
+    } else {
+        const auto rounded = add(t.half, tieFromOdd);
+        const auto leftRange =
+            shiftRightLogical(bitAndNot(t.half, rounded), 8 * static_cast<int>(sizeof(Element<X>)) - 1);
+        return sub(rounded, leftRange);
+    }
 }
 
 // s of 2 and more. The rounding is done on the two lowest bits of t, so that nothing leaves 32 bits on the way.

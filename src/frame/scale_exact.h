@@ -47,6 +47,25 @@ TARN_INLINE X halveRounded(FullWidth<X> t)
     return shiftRounded(t, 1);
 }
 
+// An exact result whose lanes stand in an order of their own, till they are narrowed.
+template <typename X>
+struct InLanes {
+    X value;
+};
+template <typename X>
+InLanes(X) -> InLanes<X>;
+
+template <typename X>
+TARN_INLINE InLanes<X> shiftRounded(InLanes<X> t, int s)
+{
+    return {shiftRounded(t.value, s)};
+}
+template <typename X>
+TARN_INLINE InLanes<X> halveRounded(InLanes<X> t)
+{
+    return {halveRounded(t.value)};
+}
+
 // -- An exact result limited to the bounds of D -----------------------------------------------------------------------
 
 template <typename D, typename X>
@@ -72,6 +91,13 @@ TARN_INLINE auto limitTo(FullWidth<X> t)
     } else {
         return limitTo<D>(t.value);
     }
+}
+
+template <typename D, typename X>
+TARN_INLINE auto limitTo(InLanes<X> t)
+{
+    static_assert(std::is_same_v<D, Tarn16s>);
+    return narrowSaturatedInLanes(t.value);
 }
 
 // A 33-bit integer fits 32 bits where its upper ones agree.
@@ -182,8 +208,8 @@ struct Chain {
     }
 };
 
-// The cases of an operation that answers with its exact result: an integer wide enough for shiftRounded, a FullWidth or
-// a Wide33, of elements or packs. D is the destination's type, which may be complex.
+// The cases of an operation that answers with its exact result: an integer wide enough for shiftRounded, a FullWidth,
+// an InLanes or a Wide33, of elements or packs. D is the destination's type, which may be complex.
 template <typename D, typename Operation>
 struct ExactCases {
     using Plain = Chain<D, Operation, LimitStep<Part<D>>>;

@@ -213,6 +213,18 @@ struct NarrowSaturated {
 template <typename D>
 inline constexpr Word<NarrowSaturated<D>> narrowSaturated;
 
+// 32-bit lanes in the order that MulWidenedInLanes and its like leave, as words in their own.
+struct NarrowSaturatedInLanes {
+    static TARN_INLINE Tarn16s of(Tarn32s x) { return clampTo<Tarn16s>(x); }
+    template <int N>
+        requires(isOneRegister<Tarn16s, N>)
+    static TARN_INLINE Pack<Tarn16s, N> of(Pack<Tarn32s, N> x)
+    {
+        return {native::narrow32To16sInLanes(lowHalf(x).v, highHalf(x).v)};
+    }
+};
+inline constexpr Word<NarrowSaturatedInLanes> narrowSaturatedInLanes;
+
 // x times 2 to the power n, saturated; n is below the element's width.
 struct ShiftLeftSaturated {
     template <Integer T>

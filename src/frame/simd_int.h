@@ -104,14 +104,13 @@ struct ShiftLeft {
     static TARN_INLINE R of(R x, int n)
     {
         using T = Element<R>;
-        const __m128i count = _mm_cvtsi32_si128(n);
         if constexpr (sizeof(T) == 2) {
-            return {native::shiftLeft16(x.v, count)};
+            return {native::shiftLeft16(x.v, n)};
         } else if constexpr (sizeof(T) == 4) {
-            return {native::shiftLeft32(x.v, count)};
+            return {native::shiftLeft32(x.v, n)};
         } else {
             static_assert(sizeof(T) == 8);
-            return {native::shiftLeft64(x.v, count)};
+            return {native::shiftLeft64(x.v, n)};
         }
     }
 };
@@ -145,21 +144,20 @@ struct ShiftRight {
     static TARN_INLINE R of(R x, int n)
     {
         using T = Element<R>;
-        const __m128i count = _mm_cvtsi32_si128(n);
         if constexpr (std::is_same_v<T, Tarn16s>) {
-            return {native::shiftRight16s(x.v, count)};
+            return {native::shiftRight16s(x.v, n)};
         } else if constexpr (std::is_same_v<T, Tarn16u>) {
-            return {native::shiftRight16u(x.v, count)};
+            return {native::shiftRight16u(x.v, n)};
         } else if constexpr (std::is_same_v<T, Tarn32s>) {
-            return {native::shiftRight32s(x.v, count)};
+            return {native::shiftRight32s(x.v, n)};
         } else if constexpr (std::is_same_v<T, Tarn64s>) {
             // There is no such instruction: what is negative is inverted, shifted, and inverted back.
             const auto signs = SignsOf64s::of(x);
             const auto positive = BitXor::of(x, signs);
-            return BitXor::of(R{native::shiftRight64u(positive.v, count)}, signs);
+            return BitXor::of(R{native::shiftRight64u(positive.v, n)}, signs);
         } else {
             static_assert(std::is_unsigned_v<T>);
-            return {sizeof(T) == 4 ? native::shiftRight32u(x.v, count) : native::shiftRight64u(x.v, count)};
+            return {sizeof(T) == 4 ? native::shiftRight32u(x.v, n) : native::shiftRight64u(x.v, n)};
         }
     }
 };
@@ -182,7 +180,7 @@ struct ShiftRightLogical {
     template <RegisterOf<Tarn64s> R>
     static TARN_INLINE R of(R x, int n)
     {
-        return {native::shiftRight64u(x.v, _mm_cvtsi32_si128(n))};
+        return {native::shiftRight64u(x.v, n)};
     }
 };
 inline constexpr Word<ShiftRightLogical> shiftRightLogical;

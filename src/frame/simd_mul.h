@@ -79,25 +79,36 @@ private:
 };
 inline constexpr Word<MulWidened> mulWidened;
 
-// a times b plus c in twice the width.
-struct MulAddWidened {
+// What is made in lanes leaves the elements of a wider register in the order of its instructions, which work within
+// each 16 bytes and need no others then; narrowSaturatedInLanes brings them back.
+
+// a times b in twice the width, in lanes.
+struct MulWidenedInLanes {
+    static TARN_INLINE Tarn32s of(Tarn16s a, Tarn16s b) { return Tarn32s{a} * b; }
+    template <RegisterOf<Tarn16s> R>
+    static TARN_INLINE Like<R, Tarn32s> of(R a, R b)
+    {
+        const auto low = native::mulLow16(a.v, b.v);
+        const auto high = native::mulHigh16s(a.v, b.v);
+        using Half = SameBytes<R, Tarn32s>;
+        return join(Half{native::zipLow16InLanes(low, high)}, Half{native::zipHigh16InLanes(low, high)});
+    }
+};
+inline constexpr Word<MulWidenedInLanes> mulWidenedInLanes;
+
+// a times b plus c in twice the width, in lanes: the sum of the pair product (a, c) (b, 1).
+struct MulAddWidenedInLanes {
     static TARN_INLINE Tarn32s of(Tarn16s a, Tarn16s b, Tarn16s c) { return Tarn32s{a} * b + c; }
-    // The sum of the pair product (a, c) (b, 1).
     template <RegisterOf<Tarn16s> R>
     static TARN_INLINE Like<R, Tarn32s> of(R a, R b, R c)
     {
-        const R one = splat<R>(1);
-        return join(products(zipLow(a, c), zipLow(b, one)), products(zipHigh(a, c), zipHigh(b, one)));
-    }
-
-private:
-    template <AnyRegister R>
-    static TARN_INLINE SameBytes<R, Tarn32s> products(R a, R b)
-    {
-        return {native::mulAddPairs(a.v, b.v)};
+        using Half = SameBytes<R, Tarn32s>;
+        const auto one = splat<R>(1).v;
+        return join(Half{native::mulAddPairs(native::zipLow16InLanes(a.v, c.v), native::zipLow16InLanes(b.v, one))},
+                    Half{native::mulAddPairs(native::zipHigh16InLanes(a.v, c.v), native::zipHigh16InLanes(b.v, one))});
     }
 };
-inline constexpr Word<MulAddWidened> mulAddWidened;
+inline constexpr Word<MulAddWidenedInLanes> mulAddWidenedInLanes;
 
 // The squares of unsigned elements, in their order.
 struct Squares {

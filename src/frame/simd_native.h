@@ -206,6 +206,7 @@ TARN_INTEGERS(zipLow32InLanes, unpacklo_epi32)
 TARN_INTEGERS(zipHigh32InLanes, unpackhi_epi32)
 TARN_INTEGERS(zipLow64InLanes, unpacklo_epi64)
 TARN_INTEGERS(zipHigh64InLanes, unpackhi_epi64)
+TARN_INTEGERS(narrow32To16sInLanes, packs_epi32)
 TARN_FLOATS(zipLowInLanes, unpacklo)
 TARN_FLOATS(zipHighInLanes, unpackhi)
 
@@ -341,23 +342,35 @@ TARN_INLINE __m512i signs64(__m512i x) { return _mm512_srai_epi64(x, 63); }
 
 // -- Shifts by a common count -----------------------------------------------------------------------------------------
 
-#define TARN_SHIFTS(V, PREFIX)                                                       \
-    TARN_INLINE V shiftLeft16(V x, __m128i n) { return PREFIX##_sll_epi16(x, n); }   \
-    TARN_INLINE V shiftLeft32(V x, __m128i n) { return PREFIX##_sll_epi32(x, n); }   \
-    TARN_INLINE V shiftLeft64(V x, __m128i n) { return PREFIX##_sll_epi64(x, n); }   \
-    TARN_INLINE V shiftRight16u(V x, __m128i n) { return PREFIX##_srl_epi16(x, n); } \
-    TARN_INLINE V shiftRight32u(V x, __m128i n) { return PREFIX##_srl_epi32(x, n); } \
-    TARN_INLINE V shiftRight64u(V x, __m128i n) { return PREFIX##_srl_epi64(x, n); } \
-    TARN_INLINE V shiftRight16s(V x, __m128i n) { return PREFIX##_sra_epi16(x, n); } \
-    TARN_INLINE V shiftRight32s(V x, __m128i n) { return PREFIX##_sra_epi32(x, n); }
-TARN_SHIFTS(__m128i, _mm)
+// A count that is no constant makes two operations of a shift of wider registers, and one where every lane has its own.
+#define TARN_SHIFT_BY_ONE(NAME, V, PREFIX, STEM, SUFFIX, SPREAD, COUNT) \
+    TARN_INLINE V NAME(V x, int n) { return PREFIX##_##STEM##_##SUFFIX(x, _mm_cvtsi32_si128(n)); }
+#define TARN_SHIFT_BY_LANES(NAME, V, PREFIX, STEM, SUFFIX, SPREAD, COUNT)                           \
+    TARN_INLINE V NAME(V x, int n)                                                                  \
+    {                                                                                               \
+        return __builtin_constant_p(n)                                                              \
+                   ? PREFIX##_##STEM##_##SUFFIX(x, _mm_cvtsi32_si128(n))                            \
+                   : PREFIX##_##STEM##v_##SUFFIX(x, PREFIX##_set1_##SPREAD(static_cast<COUNT>(n))); \
+    }
+#define TARN_SHIFTS(OF_WORDS, OTHERS, V, PREFIX, SPREAD64)         \
+    OF_WORDS(shiftLeft16, V, PREFIX, sll, epi16, epi16, Tarn16s)   \
+    OF_WORDS(shiftRight16u, V, PREFIX, srl, epi16, epi16, Tarn16s) \
+    OF_WORDS(shiftRight16s, V, PREFIX, sra, epi16, epi16, Tarn16s) \
+    OTHERS(shiftLeft32, V, PREFIX, sll, epi32, epi32, Tarn32s)     \
+    OTHERS(shiftRight32u, V, PREFIX, srl, epi32, epi32, Tarn32s)   \
+    OTHERS(shiftRight32s, V, PREFIX, sra, epi32, epi32, Tarn32s)   \
+    OTHERS(shiftLeft64, V, PREFIX, sll, epi64, SPREAD64, Tarn64s)  \
+    OTHERS(shiftRight64u, V, PREFIX, srl, epi64, SPREAD64, Tarn64s)
+TARN_SHIFTS(TARN_SHIFT_BY_ONE, TARN_SHIFT_BY_ONE, __m128i, _mm, epi64x)
 #if TARNS_REGISTER_BYTES >= 32
-TARN_SHIFTS(__m256i, _mm256)
+TARN_SHIFTS(TARN_SHIFT_BY_ONE, TARN_SHIFT_BY_LANES, __m256i, _mm256, epi64x)
 #endif
 #if TARNS_REGISTER_BYTES >= 64
-TARN_SHIFTS(__m512i, _mm512)
+TARN_SHIFTS(TARN_SHIFT_BY_LANES, TARN_SHIFT_BY_LANES, __m512i, _mm512, epi64)
 #endif
 #undef TARN_SHIFTS
+#undef TARN_SHIFT_BY_ONE
+#undef TARN_SHIFT_BY_LANES
 
 // -- One operand ------------------------------------------------------------------------------------------------------
 

@@ -51,11 +51,11 @@ TARN_INLINE __m512d pairSums(__m512d a, __m512d b) { return add(shuffle<8, Even>
 // Two registers of elements that are twice as wide, saturated, in their order.
 TARN_INLINE __m128i narrow16To8u(__m128i a, __m128i b) { return _mm_packus_epi16(a, b); }
 TARN_INLINE __m128i narrow16To8s(__m128i a, __m128i b) { return _mm_packs_epi16(a, b); }
-TARN_INLINE __m128i narrow32To16s(__m128i a, __m128i b) { return _mm_packs_epi32(a, b); }
+TARN_INLINE __m128i narrow32To16s(__m128i a, __m128i b) { return narrow32To16sInLanes(a, b); }
 #define TARN_WIDE_NARROWING(I, PREFIX)                                                                       \
     TARN_INLINE I narrow16To8u(I a, I b) { return shuffle<8, InLanesToOrder>(PREFIX##_packus_epi16(a, b)); } \
     TARN_INLINE I narrow16To8s(I a, I b) { return shuffle<8, InLanesToOrder>(PREFIX##_packs_epi16(a, b)); }  \
-    TARN_INLINE I narrow32To16s(I a, I b) { return shuffle<8, InLanesToOrder>(PREFIX##_packs_epi32(a, b)); }
+    TARN_INLINE I narrow32To16s(I a, I b) { return shuffle<8, InLanesToOrder>(narrow32To16sInLanes(a, b)); }
 // Declared for levels whose only register has none.
 void widen8u();
 void widen8s();

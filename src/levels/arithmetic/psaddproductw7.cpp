@@ -12,7 +12,7 @@ struct SumOfWords {
     template <typename X>
     TARN_INLINE auto operator()(X a, X b, X sum) const
     {
-        return mulAddWidened(a, b, sum);
+        return InLanes{mulAddWidenedInLanes(a, b, sum)};
     }
 };
 

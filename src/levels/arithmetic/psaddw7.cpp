@@ -16,7 +16,7 @@ struct Sum {
     template <typename X>
     static TARN_INLINE auto exact(X a, X b)
     {
-        if constexpr (std::is_same_v<Element<X>, Tarn32s>) {
+        if constexpr (std::is_signed_v<Element<X>>) {
             return exactSum(a, b);
         } else {
             return sumWidened(a, b);

@@ -39,7 +39,7 @@ struct ProductTo16s {
 };
 
 using Bytes = ExactCases<Tarn8u, FullProduct>;
-using Words = ExactCases<Tarn16s, ExactProduct>;
+using Words = ExactCases<Tarn16s, ProductOfWords>;
 using ComplexWords = ExactCases<Tarn16sc, ComplexProductByConstant>;
 using ComplexWordsOvf = ExactCases<Tarn16sc, ComplexProduct>;
 using Real32s = ExactCases<Tarn32s, FullProduct>;

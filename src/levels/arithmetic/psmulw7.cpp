@@ -47,7 +47,7 @@ struct ProductByDoubles {
 };
 
 using Bytes = ExactCases<Tarn8u, FullProduct>;
-using Words = ExactCases<Tarn16s, ExactProduct>;
+using Words = ExactCases<Tarn16s, ProductOfWords>;
 using UnsignedWords = ExactCases<Tarn16s, FullProduct>;
 using WordsTo32s = ExactCases<Tarn32s, ExactProduct>;
 using ComplexWords = ExactCases<Tarn16sc, ComplexProduct>;

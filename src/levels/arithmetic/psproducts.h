@@ -19,6 +19,15 @@ struct ExactProduct {
     }
 };
 
+// The same on the way to words.
+struct ProductOfWords {
+    template <typename X>
+    TARN_INLINE auto operator()(X a, X b) const
+    {
+        return InLanes{mulWidenedInLanes(a, b)};
+    }
+};
+
 // Bytes, an unsigned word and a signed one, or 32 bits each: rounding may carry out of the top, or has no other form.
 struct FullProduct {
     template <typename X, typename Y>

@@ -8,7 +8,7 @@ namespace tarn {
 namespace {
 
 using Bytes = ExactCases<Tarn8u, WithItself<FullProduct>>;
-using Words = ExactCases<Tarn16s, WithItself<ExactProduct>>;
+using Words = ExactCases<Tarn16s, WithItself<ProductOfWords>>;
 using ComplexWords = ExactCases<Tarn16sc, WithItself<ComplexProduct>>;
 
 // -- Unsigned words, whose squares fill 32 bits without a sign --------------------------------------------------------

@@ -9,12 +9,19 @@ using namespace tarn;
 
 // a minus b in the wide type, exact.
 template <typename X>
+TARN_INLINE auto differenceWidened(X a, X b)
+{
+    return sub(widen(a), widen(b));
+}
+
+// Unsigned bytes have no form of a difference with one bit more.
+template <typename X>
 TARN_INLINE auto differenceOf(X a, X b)
 {
-    if constexpr (std::is_same_v<Element<X>, Tarn32s>) {
+    if constexpr (std::is_signed_v<Element<X>>) {
         return exactDifference(a, b);
     } else {
-        return sub(widen(a), widen(b));
+        return differenceWidened(a, b);
     }
 }
 
@@ -58,7 +65,7 @@ struct DifferenceToFloat {
     template <typename X>
     TARN_INLINE auto operator()(X a, X b) const
     {
-        return convert<Tarn32f>(differenceOf(b, a));
+        return convert<Tarn32f>(differenceWidened(b, a));
     }
 };
 
