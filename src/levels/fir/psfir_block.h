@@ -127,8 +127,9 @@ TARN_INLINE void filterOutputs(const Part<T>* table, const T* src, T* dst, int t
     outputs.put(dst);
 }
 
-// Registers of outputs between two walks over the taps: with two of them the four taps of a pass stay in registers.
-inline constexpr int outputRegisters = 2;
+// Registers of outputs between two walks over the taps: with two of them the four taps of a pass stay in registers. The
+// widest level has 32 registers, and its samples, which all lie across lines of the cache, leave less room for taps.
+inline constexpr int outputRegisters = widestRegister == 64 ? 4 : 2;
 
 template <bool more = false, typename T>
 void filterBlock(const Part<T>* table, const T* src, T* dst, int len, int tapsLen)
