@@ -53,6 +53,7 @@ TARN_FLOAT_OPERATION(GreaterFloat, a > b, greater);
 TARN_FLOAT_OPERATION(LessFloat, a < b, less);
 TARN_FLOAT_OPERATION(EqualFloat, a == b, equal);
 TARN_FLOAT_OPERATION(NotLess, !(a < b), notLess);
+TARN_FLOAT_OPERATION(Unordered, a != a || b != b, unordered);
 #undef TARN_FLOAT_OPERATION
 
 using AddReal = Overloads<AddInteger, AddFloat>;
@@ -105,6 +106,9 @@ inline constexpr Word<Equal> equal;
 
 // True where a is not below b: also where the two are unordered.
 inline constexpr Word<NotLess> notLess;
+
+// True where either is a NaN.
+inline constexpr Word<Unordered> unordered;
 
 // True unless x is below or above y: where either is a NaN, too.
 struct EqualOrUnordered {

@@ -3,6 +3,7 @@
 #include "levels/statistics/psminmax.h"
 
 #include "frame/reduce.h"
+#include "frame/report.h"
 
 using namespace tarn;
 
@@ -86,10 +87,41 @@ TARN_INLINE void byElement(const T* p, int len, T* value, int* index)
     storeRecord(record, value, index);
 }
 
+// The extreme in the widest registers, where none of the values is a NaN and it is not zero: then lanes and order show
+// in nothing. The last registers overlap those before them.
+template <typename Extreme>
+TARN_INLINE bool ofOrderedBlock(const Tarn32f* p, int len, Tarn32f* value)
+{
+    constexpr int step = 4 * lanes<Tarn32f>;
+    if (len < step) {
+        return false;
+    }
+    auto extremes = loadPack<step>(p);
+    Met nan;
+    nan.note(unordered(lowHalf(extremes), highHalf(extremes)));
+    for (Index i = step; i < len; i += step) {
+        const auto x = loadPack<step>(p + std::min<Index>(i, len - step));
+        nan.note(unordered(lowHalf(x), highHalf(x)));
+        extremes = Extreme::selection(extremes, x);
+    }
+    const auto halves = Extreme::selection(lowHalf(extremes), highHalf(extremes));
+    const Tarn32f extreme = foldLanes(Extreme::selection(lowHalf(halves), highHalf(halves)), Extreme::selection);
+    if (nan.any() || extreme == 0) {
+        return false;
+    }
+    store(value, extreme);
+    return true;
+}
+
 // The extreme of whole steps of two vectors.
 template <typename Extreme, typename T>
 TARN_INLINE void ofBlock(const T* p, int len, T* value)
 {
+    if constexpr (std::is_same_v<T, Tarn32f>) {
+        if (ofOrderedBlock<Extreme>(p, len, value)) {
+            return;
+        }
+    }
     constexpr int step = reducedLanes<T>;
     auto extremes = loadPack<2 * step>(p);
     for (Index i = 2 * step; i < len; i += 2 * step) {
@@ -100,10 +132,20 @@ TARN_INLINE void ofBlock(const T* p, int len, T* value)
     store(value, foldLanes(both, Extreme::selection));
 }
 
+// The bits decide, so that the search finds what the pass has found, zeros and NaNs included. No more than `len`
+// elements are read, `step` at once.
+template <int step, typename T>
+TARN_INLINE int indexOfBits(const T* p, int len, const T* value)
+{
+    using Bits = std::conditional_t<sizeof(T) == 2, Tarn16s, Tarn32s>;
+    Bits wanted;
+    std::memcpy(&wanted, static_cast<const void*>(value), sizeof wanted);
+    return indexOfFirst<step>(reinterpret_cast<const Bits*>(p), len, wanted, equal);
+}
+
 // Single elements to a boundary, blocks, and the rest one by one.
 template <typename Extreme, typename T>
-TARN_INLINE void byBlock(void (*extremeOf)(const T*, int, T*), int (*indexOf)(const T*, const T*), int head, const T* p,
-                         int len, T* value, int* index)
+TARN_INLINE void byBlock(void (*extremeOf)(const T*, int, T*), int head, const T* p, int len, T* value, int* index)
 {
     constexpr int block = blockBytes / sizeof(T);
     constexpr int step = 2 * reducedLanes<T>;
@@ -115,21 +157,11 @@ TARN_INLINE void byBlock(void (*extremeOf)(const T*, int, T*), int (*indexOf)(co
         T best;
         extremeOf(p + i, taken, &best);
         if (Extreme::improves(best, record.value)) {
-            record = {best, i + indexOf(p + i, &best)};
+            record = {best, i + indexOfBits<lanes<T>>(p + i, taken, &best)};
         }
     }
     scan<Extreme>(record, p, i, len);
     storeRecord(record, value, index);
-}
-
-// The bits decide, so that the search finds what the pass has found, zeros and NaNs included.
-template <typename Bits, typename T>
-TARN_INLINE int indexOfBits(const T* p, const T* value)
-{
-    Bits wanted;
-    std::memcpy(&wanted, static_cast<const void*>(value), sizeof wanted);
-    // No more is read at once than the pass takes.
-    return indexOfFirst<reducedLanes<T>>(reinterpret_cast<const Bits*>(p), highest<int>, wanted, equal);
 }
 
 // Elements of 16 bits are walked to a boundary of this many bytes.
@@ -151,19 +183,24 @@ void ownsMaxPrefetch_16s_A6(const Tarn16s* pSrc, int len, Tarn16s* pMax) { ofBlo
 
 void ownsMaxPrefetch_32f_A6(const Tarn32f* pSrc, int len, Tarn32f* pMax) { ofBlock<ForMaximum>(pSrc, len, pMax); }
 
-int ownsIndx_16s_A6(const Tarn16s* pSrc, const Tarn16s* pValue) { return indexOfBits<Tarn16s>(pSrc, pValue); }
+int ownsIndx_16s_A6(const Tarn16s* pSrc, const Tarn16s* pValue)
+{
+    return indexOfBits<reducedLanes<Tarn16s>>(pSrc, highest<int>, pValue);
+}
 
-int ownsIndx_32f_A6(const Tarn32f* pSrc, const Tarn32f* pValue) { return indexOfBits<Tarn32s>(pSrc, pValue); }
+int ownsIndx_32f_A6(const Tarn32f* pSrc, const Tarn32f* pValue)
+{
+    return indexOfBits<reducedLanes<Tarn32f>>(pSrc, highest<int>, pValue);
+}
 
 void ownsMinIndx_16s(const Tarn16s* pSrc, int len, Tarn16s* pMin, int* pIndx)
 {
-    byBlock<ForMinimum>(ownsMinPrefetch_16s_A6, ownsIndx_16s_A6, headOf16Bits(pSrc), pSrc, len, pMin, pIndx);
+    byBlock<ForMinimum>(ownsMinPrefetch_16s_A6, headOf16Bits(pSrc), pSrc, len, pMin, pIndx);
 }
 
 void ownsMinIndx_32f(const Tarn32f* pSrc, int len, Tarn32f* pMin, int* pIndx)
 {
-    byBlock<ForMinimum>(ownsMinPrefetch_32f_A6, ownsIndx_32f_A6, elementsToBoundary<reducedBytes>(pSrc), pSrc, len,
-                        pMin, pIndx);
+    byBlock<ForMinimum>(ownsMinPrefetch_32f_A6, elementsToBoundary<reducedBytes>(pSrc), pSrc, len, pMin, pIndx);
 }
 
 void ownsMinIndx_16s_M6(const Tarn16s* pSrc, int len, Tarn16s* pMin, int* pIndx)
@@ -183,13 +220,12 @@ void ownsMinIndx_64f_M6(const Tarn64f* pSrc, int len, Tarn64f* pMin, int* pIndx)
 
 void ownsMaxIndx_16s(const Tarn16s* pSrc, int len, Tarn16s* pMax, int* pIndx)
 {
-    byBlock<ForMaximum>(ownsMaxPrefetch_16s_A6, ownsIndx_16s_A6, headOf16Bits(pSrc), pSrc, len, pMax, pIndx);
+    byBlock<ForMaximum>(ownsMaxPrefetch_16s_A6, headOf16Bits(pSrc), pSrc, len, pMax, pIndx);
 }
 
 void ownsMaxIndx_32f(const Tarn32f* pSrc, int len, Tarn32f* pMax, int* pIndx)
 {
-    byBlock<ForMaximum>(ownsMaxPrefetch_32f_A6, ownsIndx_32f_A6, elementsToBoundary<reducedBytes>(pSrc), pSrc, len,
-                        pMax, pIndx);
+    byBlock<ForMaximum>(ownsMaxPrefetch_32f_A6, elementsToBoundary<reducedBytes>(pSrc), pSrc, len, pMax, pIndx);
 }
 
 void ownsMaxIndx_16s_M6(const Tarn16s* pSrc, int len, Tarn16s* pMax, int* pIndx)
