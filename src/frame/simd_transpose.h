@@ -124,6 +124,33 @@ TARN_INLINE std::array<Pack<T, N>, N / groupLanes> transposeGroups(const std::ar
     }
 }
 
+// Lane k of row m to lane m of row k, of as many rows as a pack has lanes.
+template <typename T, int N>
+TARN_INLINE std::array<Pack<T, N>, N> transposeSquare(const std::array<Pack<T, N>, N>& x)
+{
+    if constexpr (N == registerLanes<T>) {
+        return transpose<T>(x);
+    } else {
+        constexpr int groups = N / groupLanes;
+        FourRows<T, N> turned[groups];
+        for (int b = 0; b < groups; ++b) {
+            turned[b] = transposeFours<T, N>({x[4 * b], x[4 * b + 1], x[4 * b + 2], x[4 * b + 3]});
+        }
+        std::array<Pack<T, N>, N> result;
+        for (int m = 0; m < groupLanes; ++m) {
+            std::array<Pack<T, N>, groups> column;
+            for (int b = 0; b < groups; ++b) {
+                column[b] = turned[b][m];
+            }
+            column = transposeGroups<T, N>(column);
+            for (int g = 0; g < groups; ++g) {
+                result[4 * g + m] = column[g];
+            }
+        }
+        return result;
+    }
+}
+
 // Groups of so many elements that lie `distance` elements apart.
 template <int N, int group, typename T>
 TARN_INLINE Pack<T, N> loadGroups(const T* p, std::ptrdiff_t distance)

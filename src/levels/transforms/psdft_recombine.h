@@ -5,23 +5,31 @@
 
 namespace tarn::dft {
 
+// The slots from `low` up and those from `high` down, in vectors, as long as the two do not meet.
+template <int W, typename Rule, typename T>
+TARN_INLINE void recombineVectors(const T* src, T* dst, int& low, int& high, const T* table)
+{
+    for (; low + W <= high - W + 1; low += W, high -= W) {
+        const std::ptrdiff_t falling = 2 * (high - W + 1);
+        const auto x =
+            Rule::join(loadPairs<W>(src + 2 * low), loadPairsReversed<W>(src + falling), loadPairs<W>(table + 2 * low));
+        storePairs(dst + 2 * low, x.low);
+        storePairsReversed(dst + falling, x.high);
+    }
+}
+
 // M complex slots in Perm order. Slot 0 is two real values, the sum and the difference of those before.
 template <typename Rule, typename T>
 inline void recombine(const T* src, T* dst, int M, const T* table)
 {
-    constexpr int width = fft::blockLanes<T>;
     const T first = loadElement(src);
     const T last = loadElement(src + 1);
     int low = 1;
     int high = M - 1;
-    // Whole vectors as long as the slots that rise and those that fall do not meet.
-    for (; low + width <= high - width + 1; low += width, high -= width) {
-        const T* const falling = src + 2 * (high - width + 1);
-        const auto x = Rule::join(loadPairs<width>(src + 2 * low), loadPairsReversed<width>(falling),
-                                  loadPairs<width>(table + 2 * low));
-        storePairs(dst + 2 * low, x.low);
-        storePairsReversed(dst + 2 * (high - width + 1), x.high);
+    if constexpr (lanes < T >> fft::blockLanes<T>) {
+        recombineVectors<lanes<T>, Rule>(src, dst, low, high, table);
     }
+    recombineVectors<fft::blockLanes<T>, Rule>(src, dst, low, high, table);
     const auto slot = [](const T* p) { return Complex<T>{loadElement(p), loadElement(p + 1)}; };
     const auto put = [](T* p, Complex<T> x) {
         store(p, x.re);

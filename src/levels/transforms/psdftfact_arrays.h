@@ -41,9 +41,10 @@ struct PairArray {
     {
         return outward(Complex<Real>{loadElement(p + 2 * i), loadElement(p + 2 * i + 1)});
     }
-    TARN_INLINE Lanes<Real> neighbours(std::ptrdiff_t i) const
+    template <int W = blockLanes<Real>>
+    TARN_INLINE Complex<Pack<Real, W>> neighbours(std::ptrdiff_t i) const
     {
-        return outward(loadPairs<blockLanes<Real>>(static_cast<const Real*>(p + 2 * i)));
+        return outward(loadPairs<W>(static_cast<const Real*>(p + 2 * i)));
     }
     // The elements at so many places.
     TARN_INLINE Lanes<Real> gathered(const Places<Real>& at) const
@@ -63,7 +64,11 @@ struct PairArray {
         store(p + 2 * i, x.re);
         store(p + 2 * i + 1, x.im);
     }
-    TARN_INLINE void put(std::ptrdiff_t i, Lanes<Real> x) const { storePairs(p + 2 * i, outward(x)); }
+    template <int W>
+    TARN_INLINE void put(std::ptrdiff_t i, Complex<Pack<Real, W>> x) const
+    {
+        storePairs(p + 2 * i, outward(x));
+    }
     // To places `distance` apart.
     TARN_INLINE void scatter(std::ptrdiff_t i, std::ptrdiff_t distance, Lanes<Real> x) const
     {
@@ -101,10 +106,10 @@ struct PartArrays {
     TARN_INLINE PartArrays operator+(std::ptrdiff_t elements) const { return {re + elements, im + elements}; }
 
     TARN_INLINE Complex<Real> element(std::ptrdiff_t i) const { return {loadElement(re + i), loadElement(im + i)}; }
-    TARN_INLINE Lanes<Real> neighbours(std::ptrdiff_t i) const
+    template <int W = blockLanes<Real>>
+    TARN_INLINE Complex<Pack<Real, W>> neighbours(std::ptrdiff_t i) const
     {
-        constexpr int width = blockLanes<Real>;
-        return {loadPack<width>(static_cast<const Real*>(re + i)), loadPack<width>(static_cast<const Real*>(im + i))};
+        return {loadPack<W>(static_cast<const Real*>(re + i)), loadPack<W>(static_cast<const Real*>(im + i))};
     }
     TARN_INLINE Lanes<Real> gathered(const Places<Real>& at) const { return {gatheredOf(re, at), gatheredOf(im, at)}; }
 
@@ -113,7 +118,8 @@ struct PartArrays {
         store(re + i, x.re);
         store(im + i, x.im);
     }
-    TARN_INLINE void put(std::ptrdiff_t i, Lanes<Real> x) const
+    template <int W>
+    TARN_INLINE void put(std::ptrdiff_t i, Complex<Pack<Real, W>> x) const
     {
         store(re + i, x.re);
         store(im + i, x.im);

@@ -81,14 +81,42 @@ inline double costOf(int n)
     return cost;
 }
 
-// The number of columns that costs least, 0 if N does not make a grid: vectors have to fit into its rows and columns,
-// and neither may be too long.
+// What a grid costs with vectors of that width. What is computed twice, where the last vector overlaps the one before
+// it, is paid for; of vectors of 64 bytes a processor does two at once, and three of narrower ones.
+template <typename T>
+inline double costOfGrid(int rows, int columns, int width)
+{
+    const auto vectors = [width](int n) { return static_cast<double>((n + width - 1) / width); };
+    const double instructions = costOf(rows) * rows * vectors(columns) + costOf(columns) * columns * vectors(rows);
+    return width * static_cast<int>(sizeof(T)) == 64 ? 1.5 * instructions : instructions;
+}
+
+// Vectors have to fit into rows and columns, and their points into the area.
+template <typename T>
+inline bool fitsGrid(int rows, int columns, int width)
+{
+    return width <= std::min(rows, columns) && 2 * width * std::max(rows, columns) <= realsOfArea<T>;
+}
+
+// The width that costs least, of those up to `widest`.
+template <typename T>
+inline int widthOf(int rows, int columns, int widest)
+{
+    int best = blockLanes<T>;
+    for (int width = 2 * best; width <= widest && fitsGrid<T>(rows, columns, width); width *= 2) {
+        if (costOfGrid<T>(rows, columns, width) < costOfGrid<T>(rows, columns, best)) {
+            best = width;
+        }
+    }
+    return best;
+}
+
+// The number of columns that costs least, 0 if N does not make a grid. It decides in which order sums are formed, so
+// that every level takes the same: it is best for vectors of 16, 32 and 64 bytes together.
 template <typename T>
 inline int columnsOf(int N)
 {
     constexpr int width = blockLanes<T>;
-    // What is computed twice, where the last vector overlaps the one before it, is paid for.
-    const auto overlapping = [](int n) { return static_cast<double>((n + width - 1) / width * width) / n; };
     int best = 0;
     double least = std::numeric_limits<double>::max();
     for (int columns = std::max(width, N / longestLanes); columns <= longestLanes; ++columns) {
@@ -96,7 +124,10 @@ inline int columnsOf(int N)
         if (N % columns != 0 || rows > longestLanes || rows < width) {
             continue;
         }
-        const double cost = costOf(rows) * overlapping(columns) + costOf(columns) * overlapping(rows);
+        double cost = 0;
+        for (int widest = width; widest <= 4 * width; widest *= 2) {
+            cost += costOfGrid<T>(rows, columns, widthOf<T>(rows, columns, widest)) * widest / width;
+        }
         if (cost < least) {
             least = cost;
             best = columns;
@@ -139,10 +170,10 @@ inline void makePlan(LanePlan<T>& plan, int n, Circle<T> circle, Cutter<T>& memo
         const int p = radices[i + 1];
         plan.radix[i] = p;
         plan.roots[i] = rootsOf(p);
-        T* to = memory.template cut<T>(std::ptrdiff_t{q - 1} * (p - 1) * realsOfLanes<T>);
+        T* to = memory.template cut<T>(std::ptrdiff_t{q - 1} * (p - 1) * realsOfFactor<T>);
         plan.twiddles[i] = to;
         for (int k = 1; to != nullptr && k < q; ++k) {
-            for (int j = 1; j < p; ++j, to += realsOfLanes<T>) {
+            for (int j = 1; j < p; ++j, to += realsOfFactor<T>) {
                 putInAllLanes<T>(to, circle.root(static_cast<long long>(j) * k * (n / (p * q))));
             }
         }
@@ -169,16 +200,16 @@ inline void makePlan(LanePlan<T>& plan, int n, Circle<T> circle, Cutter<T>& memo
 template <typename T>
 inline T* makeFactors(const Grid<T>& grid, Circle<T> circle, Cutter<T>& memory)
 {
-    constexpr int width = blockLanes<T>;
-    const auto rounded = [](int n) { return std::ptrdiff_t{(n + width - 1) / width * width}; };
+    const int width = grid.width;
+    const auto rounded = [width](int n) { return std::ptrdiff_t{(n + width - 1) / width * width}; };
     T* const factors = memory.template cut<T>(2 * rounded(grid.columns) * rounded(grid.rows));
     if (factors == nullptr) {
         return factors;
     }
     T* to = factors;
-    forVectors<width>(grid.columns, [&](int j) {
-        forVectors<width>(grid.rows, [&](int k) {
-            for (int column = j; column < j + width; ++column, to += realsOfLanes<T>) {
+    forVectors(width, grid.columns, [&](int j) {
+        forVectors(width, grid.rows, [&](int k) {
+            for (int column = j; column < j + width; ++column, to += 2 * width) {
                 for (int lane = 0; lane < width; ++lane) {
                     const PairOf<T> w = circle.root(static_cast<long long>(column) * (k + lane));
                     to[lane] = w.re;
@@ -200,6 +231,7 @@ inline Grid<T>* createGrid(int N, int columns, const PairOf<T>* base, int baseLe
         Grid<T>* const place = memory.template cut<Grid<T>>(1);
         grid.rows = N / columns;
         grid.columns = columns;
+        grid.width = widthOf<T>(grid.rows, columns, widestLanes<T>);
         makePlan(grid.down, grid.rows, circle.ofPart(columns), memory);
         makePlan(grid.across, columns, circle.ofPart(grid.rows), memory);
         grid.factors = makeFactors(grid, circle, memory);

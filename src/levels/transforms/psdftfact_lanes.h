@@ -6,7 +6,7 @@
 namespace tarn::dft {
 
 // A mixed-radix transform of one element of each lane after the other. Innermost transforms of `leaf` points, 2, 4
-// or an odd number, and merges of growing transforms, whose factors are there once for each lane.
+// or an odd number, and merges of growing transforms, whose factors are there once for each lane of 16 bytes.
 inline constexpr int mostMerges = 20;
 template <typename T>
 struct LanePlan {
@@ -20,24 +20,47 @@ struct LanePlan {
     const int* starts; // the first points of the innermost transforms, in the order of their results
 };
 
-// Longer ones need more of the stack and of the nearest cache than there should be.
+// Longer ones need more of the stack and of the nearest cache than there should be. Which are longer does not follow
+// from the width: it decides what a transform is made of.
 inline constexpr int longestLanes = 1024;
-
 template <typename T>
-inline constexpr int realsOfLanes = 2 * blockLanes<T>;
+inline constexpr int realsOfArea = 2 * blockLanes<T>* longestLanes;
 
-// The work area of one transform as a source or a destination: points at equal distances from one on.
+// The most transforms that go side by side.
 template <typename T>
+inline constexpr int widestLanes = widestRegister / static_cast<int>(sizeof(T));
+
+// Of a factor's real part and of its imaginary part, in the tables.
+template <typename T>
+inline constexpr int realsOfFactor = 2 * blockLanes<T>;
+
+// W of the same factors.
+template <int W, typename T>
+TARN_INLINE Complex<Pack<T, W>> factorInLanes(const T* p)
+{
+    return {loadRepeated<W>(p), loadRepeated<W>(p + blockLanes<T>)};
+}
+
+// The work area of W transforms as a source or a destination: points at equal distances from one on.
+template <typename T, int W>
 struct LaneArea {
     T* points;
-    int distance = realsOfLanes<T>;
+    int distance = 2 * W;
 
-    TARN_INLINE Lanes<T> get(int i) const { return fft::loadBlock(static_cast<const T*>(points + i * distance)); }
-    TARN_INLINE void put(int i, Lanes<T> x) const { fft::storeBlock(points + i * distance, x); }
+    TARN_INLINE Complex<Pack<T, W>> get(int i) const
+    {
+        const T* const p = points + i * distance;
+        return {loadAligned<W>(p), loadAligned<W>(p + W)};
+    }
+    TARN_INLINE void put(int i, Complex<Pack<T, W>> x) const
+    {
+        storeAligned(points + i * distance, x.re);
+        storeAligned(points + i * distance + W, x.im);
+    }
     TARN_INLINE LaneArea from(int i, int step) const { return {points + i * distance, step * distance}; }
 };
 
-template <int q, typename T, typename Source, typename Sink>
+template <int q, int W, typename T, typename Source, typename Sink>
 inline void laneLeaves(const LanePlan<T>& plan, Source source, Sink sink)
 {
     const int* start = plan.starts;
@@ -46,32 +69,33 @@ inline void laneLeaves(const LanePlan<T>& plan, Source source, Sink sink)
     for (int at = 0; at < length; at += q) {
         const auto in = source.from(*start++, count);
         const auto out = sink.from(at, 1);
-        Points<BlockPart<T>, q> x;
+        Points<Pack<T, W>, q> x;
         repeat<q>([&](auto j) { x[j] = in.get(j); });
         x = transformPoints(x);
         repeat<q>([&](auto k) { out.put(k, x[k]); });
     }
 }
 
-template <typename T, typename Source, typename Sink>
+template <int W, typename T, typename Source, typename Sink>
 inline void laneLeavesAny(const LanePlan<T>& plan, Source source, Sink sink)
 {
-    Lanes<T> pairs[largestDirect];
+    Complex<Pack<T, W>> pairs[largestDirect];
     const int q = plan.leaf;
     const int count = plan.length / q;
     for (int t = 0; t < count; ++t) {
         const auto in = source.from(plan.starts[t], count);
         const auto out = sink.from(t * q, 1);
-        transformOdd<BlockPart<T>>(
-            q, plan.leafRoots, pairs, [&](int j) { return in.get(j); }, [&](int k, Lanes<T> y) { out.put(k, y); });
+        transformOdd<Pack<T, W>>(
+            q, plan.leafRoots, static_cast<Complex<Pack<T, W>>*>(pairs), [&](int j) { return in.get(j); },
+            [&](int k, Complex<Pack<T, W>> y) { out.put(k, y); });
     }
 }
 
 // Where results go: in place, as far as the compiler can see, if they go to the area itself.
-template <typename T, typename Sink>
-TARN_INLINE auto resultsTo(LaneArea<T> area, Sink sink)
+template <typename T, int W, typename Sink>
+TARN_INLINE auto resultsTo(LaneArea<T, W> area, Sink sink)
 {
-    if constexpr (std::is_same_v<Sink, LaneArea<T>>) {
+    if constexpr (std::is_same_v<Sink, LaneArea<T, W>>) {
         return area;
     } else {
         return sink;
@@ -79,16 +103,16 @@ TARN_INLINE auto resultsTo(LaneArea<T> area, Sink sink)
 }
 
 // From `area`, in place or to another destination.
-template <int p, typename T, typename Sink>
-inline void laneMerge(const LanePlan<T>& plan, int q, const T* twd, LaneArea<T> area, Sink sink)
+template <int p, typename T, int W, typename Sink>
+inline void laneMerge(const LanePlan<T>& plan, int q, const T* twd, LaneArea<T, W> area, Sink sink)
 {
-    constexpr int width = realsOfLanes<T>;
+    constexpr int width = realsOfFactor<T>;
     const int length = plan.length;
     const int size = p * q;
     for (int at = 0; at < length; at += size) {
         const auto in = area.from(at, q);
         const auto out = resultsTo(area, sink).from(at, q);
-        Points<BlockPart<T>, p> x;
+        Points<Pack<T, W>, p> x;
         repeat<p>([&](auto j) { x[j] = in.get(j); });
         x = transformPoints(x);
         repeat<p>([&](auto j) { out.put(j, x[j]); });
@@ -97,9 +121,9 @@ inline void laneMerge(const LanePlan<T>& plan, int q, const T* twd, LaneArea<T> 
     {
         const auto in = area.from(at, q);
         const auto out = resultsTo(area, sink).from(at, q);
-        Points<BlockPart<T>, p> x;
+        Points<Pack<T, W>, p> x;
         x[0] = in.get(0);
-        repeat<p - 1>([&](auto j) { x[j + 1] = times(in.get(j + 1), fft::loadBlock(factors + width * j)); });
+        repeat<p - 1>([&](auto j) { x[j + 1] = times(in.get(j + 1), factorInLanes<W>(factors + width * j)); });
         x = transformPoints(x);
         repeat<p>([&](auto j) { out.put(j, x[j]); });
     };
@@ -116,44 +140,44 @@ inline void laneMerge(const LanePlan<T>& plan, int q, const T* twd, LaneArea<T> 
     }
 }
 
-template <typename T, typename Sink>
-inline void laneMergeAny(const LanePlan<T>& plan, int p, int q, const T* roots, const T* twd, LaneArea<T> area,
+template <typename T, int W, typename Sink>
+inline void laneMergeAny(const LanePlan<T>& plan, int p, int q, const T* roots, const T* twd, LaneArea<T, W> area,
                          Sink sink)
 {
-    constexpr int width = realsOfLanes<T>;
-    Lanes<T> pairs[largestDirect];
+    constexpr int width = realsOfFactor<T>;
+    Complex<Pack<T, W>> pairs[largestDirect];
     for (int k = 0; k < q; ++k) {
         const T* const factors = twd + width * (p - 1) * (k - 1);
         for (int at = k; at < plan.length; at += p * q) {
             const auto in = area.from(at, q);
             const auto out = resultsTo(area, sink).from(at, q);
-            transformOdd<BlockPart<T>>(
-                p, roots, pairs,
+            transformOdd<Pack<T, W>>(
+                p, roots, static_cast<Complex<Pack<T, W>>*>(pairs),
                 [&](int j) {
                     const auto x = in.get(j);
-                    return j == 0 || k == 0 ? x : times(x, fft::loadBlock(factors + width * (j - 1)));
+                    return j == 0 || k == 0 ? x : times(x, factorInLanes<W>(factors + width * (j - 1)));
                 },
-                [&](int j, Lanes<T> y) { out.put(j, y); });
+                [&](int j, Complex<Pack<T, W>> y) { out.put(j, y); });
         }
     }
 }
 
 // Every point is read before the first one is written to the sink, unless the length is that of a leaf.
-template <typename T, typename Source, typename Sink>
-inline void transformLanes(const LanePlan<T>& plan, Source source, LaneArea<T> area, Sink sink)
+template <typename T, int W, typename Source, typename Sink>
+inline void transformLanes(const LanePlan<T>& plan, Source source, LaneArea<T, W> area, Sink sink)
 {
     const auto leaves = [&](auto to) {
         switch (plan.leaf) {
         case 2:
-            return laneLeaves<2>(plan, source, to);
+            return laneLeaves<2, W>(plan, source, to);
         case 3:
-            return laneLeaves<3>(plan, source, to);
+            return laneLeaves<3, W>(plan, source, to);
         case 4:
-            return laneLeaves<4>(plan, source, to);
+            return laneLeaves<4, W>(plan, source, to);
         case 5:
-            return laneLeaves<5>(plan, source, to);
+            return laneLeaves<5, W>(plan, source, to);
         default:
-            return laneLeavesAny(plan, source, to);
+            return laneLeavesAny<W>(plan, source, to);
         }
     };
     if (plan.merges == 0) {
