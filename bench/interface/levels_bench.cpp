@@ -51,27 +51,36 @@ constexpr int longest = 1 << 16;
 
 // An array on a boundary of cache lines, with values from 1 to 2, which may have signs.
 template <typename T>
-T* array(bool isSigned = true)
+T* array(bool isSigned = true, int length = longest)
 {
-    T* const p = static_cast<T*>(std::aligned_alloc(line, sizeof(T) * longest));
-    for (int i = 0; i < longest; ++i) {
+    T* const p = static_cast<T*>(std::aligned_alloc(line, sizeof(T) * static_cast<std::size_t>(length)));
+    for (int i = 0; i < length; ++i) {
         const double value = (1 + i % 997 / 997.0) * (isSigned && i % 3 == 0 ? -1 : 1);
         p[i] = static_cast<T>(std::is_integral_v<T> ? 1000 * value : value);
     }
     return p;
 }
 
-// Every case has its arrays to itself, and keeps them.
-void add(const std::string& name, int n, const std::string& who, const std::function<void()>& call)
+// A case that is prepared when it is run, which the filter of the command line may not ask for.
+void addLate(const std::string& name, int n, const std::string& who,
+             const std::function<std::function<void()>()>& prepare)
 {
-    benchmark::RegisterBenchmark((name + "/" + std::to_string(n) + "/" + who).c_str(), [call](benchmark::State& state) {
-        for (auto _ : state) {
-            call();
-            benchmark::ClobberMemory();
-        }
-    });
+    benchmark::RegisterBenchmark((name + "/" + std::to_string(n) + "/" + who).c_str(),
+                                 [prepare](benchmark::State& state) {
+                                     const std::function<void()> call = prepare();
+                                     for (auto _ : state) {
+                                         call();
+                                         benchmark::ClobberMemory();
+                                     }
+                                 });
 }
 
+void add(const std::string& name, int n, const std::string& who, const std::function<void()>& call)
+{
+    addLate(name, n, who, [=] { return call; });
+}
+
+// Every case of one array or two has them to itself, and keeps them.
 template <typename S, typename D, typename Function>
 void addUnary(const std::vector<Level>& levels, const char* name, const char* symbol, Function* /*shape*/, int n)
 {
@@ -191,46 +200,105 @@ void addFilters(const std::vector<Level>& levels, int n)
     }
 }
 
+// The arrays of transforms of a length, out of place. All share them, and they wait for the first case that runs.
+struct TransformArrays {
+    explicit TransformArrays(int n) : length(2 * n + longest) {}
+
+    template <typename T>
+    T* of(T*& p) const
+    {
+        p = p != nullptr ? p : array<T>(true, length);
+        return p;
+    }
+    Tarn32f* in(Tarn32f /*type*/) { return of(singles); }
+    Tarn32f* out(Tarn32f /*type*/) { return of(singlesOut); }
+    Tarn64f* in(Tarn64f /*type*/) { return of(doubles); }
+    Tarn64f* out(Tarn64f /*type*/) { return of(doublesOut); }
+    Tarn8u* buffer()
+    {
+        work = work != nullptr ? work : array<Tarn64f>(true, 4 * length);
+        return reinterpret_cast<Tarn8u*>(work);
+    }
+
+private:
+    int length;
+    Tarn32f *singles = nullptr, *singlesOut = nullptr;
+    Tarn64f *doubles = nullptr, *doublesOut = nullptr, *work = nullptr;
+};
+using SharedArrays = std::shared_ptr<TransformArrays>;
+
+// `size` is what a specification is made for, the order or the length. T is the type of the parts.
+template <typename T, typename Spec, typename Init, typename Element>
+void addTransform(const std::string& name, const std::string& who, int n, int size, Init* init,
+                  TarnStatus (*run)(const Element*, Element*, const Spec*, Tarn8u*), const SharedArrays& arrays)
+{
+    addLate(name, n, who, [=, spec = std::make_shared<Spec*>(nullptr)]() -> std::function<void()> {
+        if (*spec == nullptr) {
+            init(spec.get(), size, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone);
+        }
+        return [=, in = reinterpret_cast<const Element*>(arrays->in(T{})),
+                out = reinterpret_cast<Element*>(arrays->out(T{})), made = *spec,
+                buffer = arrays->buffer()] { run(in, out, made, buffer); };
+    });
+}
+#define TARN_ADD_TRANSFORM(NAME, FAMILY, SIZE, T, KIND, CALL, TAG)                                               \
+    addTransform<T>(NAME "_" #TAG, level.name, n, SIZE, TARN_OF(level, tarns##FAMILY##InitAlloc_##KIND##_##TAG), \
+                    TARN_OF(level, tarns##FAMILY##Fwd_##CALL##_##TAG), arrays)
+#define TARN_ADD_TRANSFORMS(NAME, FAMILY, SIZE)                       \
+    TARN_ADD_TRANSFORM(NAME, FAMILY, SIZE, Tarn32f, C, CToC, 32fc);   \
+    TARN_ADD_TRANSFORM(NAME, FAMILY, SIZE, Tarn64f, C, CToC, 64fc);   \
+    TARN_ADD_TRANSFORM(NAME, FAMILY, SIZE, Tarn32f, R, RToPerm, 32f); \
+    TARN_ADD_TRANSFORM(NAME, FAMILY, SIZE, Tarn64f, R, RToPerm, 64f)
+
+#ifdef TARNS_HAVE_FFTW
+// A plan is made once, and found again by what FFTW has learnt.
+template <typename T, typename Execute, typename Make>
+void addPlan(const std::string& name, int n, const SharedArrays& arrays, Execute* execute, Make make)
+{
+    addLate(name, n, "FFTW", [=]() -> std::function<void()> {
+        return [=, plan = make(arrays->in(T{}), arrays->out(T{}))] { execute(plan); };
+    });
+}
+#endif
+
+void addFftw([[maybe_unused]] const std::string& name, [[maybe_unused]] int n,
+             [[maybe_unused]] const SharedArrays& arrays)
+{
+#ifdef TARNS_HAVE_FFTW
+    addPlan<Tarn32f>(name + "_32fc", n, arrays, fftwf_execute, [=](Tarn32f* in, Tarn32f* out) {
+        return fftwf_plan_dft_1d(n, reinterpret_cast<fftwf_complex*>(in), reinterpret_cast<fftwf_complex*>(out),
+                                 FFTW_FORWARD, FFTW_MEASURE);
+    });
+    addPlan<Tarn64f>(name + "_64fc", n, arrays, fftw_execute, [=](Tarn64f* in, Tarn64f* out) {
+        return fftw_plan_dft_1d(n, reinterpret_cast<fftw_complex*>(in), reinterpret_cast<fftw_complex*>(out),
+                                FFTW_FORWARD, FFTW_MEASURE);
+    });
+    addPlan<Tarn32f>(name + "_32f", n, arrays, fftwf_execute, [=](Tarn32f* in, Tarn32f* out) {
+        return fftwf_plan_dft_r2c_1d(n, in, reinterpret_cast<fftwf_complex*>(out), FFTW_MEASURE);
+    });
+    addPlan<Tarn64f>(name + "_64f", n, arrays, fftw_execute, [=](Tarn64f* in, Tarn64f* out) {
+        return fftw_plan_dft_r2c_1d(n, in, reinterpret_cast<fftw_complex*>(out), FFTW_MEASURE);
+    });
+#endif
+}
+
 void addTransforms(const std::vector<Level>& levels, int order)
 {
     const int n = 1 << order;
+    const auto arrays = std::make_shared<TransformArrays>(n);
     for (const Level& level : levels) {
-        auto* const singles = array<Tarn32f>();
-        auto* const singlesOut = array<Tarn32f>();
-        auto* const doubles = array<Tarn64f>();
-        auto* const doublesOut = array<Tarn64f>();
-        auto* const work = array<Tarn64f>();
-        TarnsFFTSpec_C_32fc* single = nullptr;
-        TarnsFFTSpec_C_64fc* twice = nullptr;
-        TarnsFFTSpec_R_32f* real = nullptr;
-        TARN_OF(level, tarnsFFTInitAlloc_C_32fc)(&single, order, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone);
-        TARN_OF(level, tarnsFFTInitAlloc_C_64fc)(&twice, order, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone);
-        TARN_OF(level, tarnsFFTInitAlloc_R_32f)(&real, order, TARN_FFT_NODIV_BY_ANY, tarnAlgHintNone);
-        auto* const runSingle = TARN_OF(level, tarnsFFTFwd_CToC_32fc);
-        auto* const runDouble = TARN_OF(level, tarnsFFTFwd_CToC_64fc);
-        auto* const runReal = TARN_OF(level, tarnsFFTFwd_RToPerm_32f);
-        auto* const buffer = reinterpret_cast<Tarn8u*>(work);
-        add("fft_32fc", n, level.name, [=] {
-            runSingle(reinterpret_cast<Tarn32fc*>(singles), reinterpret_cast<Tarn32fc*>(singlesOut), single, buffer);
-        });
-        add("fft_64fc", n, level.name, [=] {
-            runDouble(reinterpret_cast<Tarn64fc*>(doubles), reinterpret_cast<Tarn64fc*>(doublesOut), twice, buffer);
-        });
-        add("fft_32f", n, level.name, [=] { runReal(singles, singlesOut, real, buffer); });
+        TARN_ADD_TRANSFORMS("fft", FFT, order);
     }
-#ifdef TARNS_HAVE_FFTW
-    auto* const in = reinterpret_cast<fftwf_complex*>(array<Tarn32f>());
-    auto* const out = reinterpret_cast<fftwf_complex*>(array<Tarn32f>());
-    auto* const din = reinterpret_cast<fftw_complex*>(array<Tarn64f>());
-    auto* const dout = reinterpret_cast<fftw_complex*>(array<Tarn64f>());
-    auto* const rin = array<Tarn32f>();
-    fftwf_plan single = fftwf_plan_dft_1d(n, in, out, FFTW_FORWARD, FFTW_MEASURE);
-    fftw_plan twice = fftw_plan_dft_1d(n, din, dout, FFTW_FORWARD, FFTW_MEASURE);
-    fftwf_plan real = fftwf_plan_dft_r2c_1d(n, rin, out, FFTW_MEASURE);
-    add("fft_32fc", n, "FFTW", [=] { fftwf_execute(single); });
-    add("fft_64fc", n, "FFTW", [=] { fftw_execute(twice); });
-    add("fft_32f", n, "FFTW", [=] { fftwf_execute(real); });
-#endif
+    addFftw("fft", n, arrays);
+}
+
+void addMixedTransforms(const std::vector<Level>& levels, int n)
+{
+    const auto arrays = std::make_shared<TransformArrays>(n);
+    for (const Level& level : levels) {
+        TARN_ADD_TRANSFORMS("dft", DFT, n);
+    }
+    addFftw("dft", n, arrays);
 }
 
 // What a caller's own code of 128 bits takes after a call: the upper halves of registers that a call leaves set would
@@ -273,8 +341,11 @@ int main(int argc, char** argv)
         addElementwise(levels, n);
         addFilters(levels, n);
     }
-    for (const int order : {4, 6, 8, 10, 12, 14}) {
+    for (int order = 4; order <= 20; ++order) {
         addTransforms(levels, order);
+    }
+    for (const int n : {30, 60, 100, 120, 360, 480, 1000, 1440, 3600, 10000, 44100}) {
+        addMixedTransforms(levels, n);
     }
     addTransitions(levels);
     benchmark::RunSpecifiedBenchmarks();
