@@ -1,6 +1,7 @@
 // Filters that learn, and filter banks.
 #include "fuzz/states/stream.h"
 #include "fuzz/states/targets.h"
+#include "support/lms_tails.h"
 
 #include <tarns.h>
 
@@ -23,37 +24,23 @@ std::vector<T> filled(digest::Element element, int count, Random& random, Values
 
 // -- Least mean squares -----------------------------------------------------------------------------------------------
 
-#define LMS_FUNCTIONS(Name, TAIL, Sample_)                           \
-    struct Name {                                                    \
-        using Sample = Sample_;                                      \
-        using State = TarnsFIRLMSState##TAIL;                        \
-        static constexpr auto make = tarnsFIRLMSInitAlloc##TAIL;     \
-        static constexpr auto run = tarnsFIRLMS##TAIL;               \
-        static constexpr auto getTaps = tarnsFIRLMSGetTaps##TAIL;    \
-        static constexpr auto getLine = tarnsFIRLMSGetDlyLine##TAIL; \
-        static constexpr auto setLine = tarnsFIRLMSSetDlyLine##TAIL; \
-        static constexpr auto free = tarnsFIRLMSFree##TAIL;          \
-    }
-LMS_FUNCTIONS(Lms_32f, _32f, Tarn32f);
-LMS_FUNCTIONS(Lms32f_16s, 32f_16s, Tarn16s);
-
 struct LmsParameters {
     int tapsLen;
     float mu;
 };
 
-/// Units are a sample and its reference.
+/// Units are a sample and its reference. F has a family's functions by their names in support/.
 template <class F>
 class Learning : public Machine {
 public:
-    using Sample = typename F::Sample;
+    using Sample = typename F::F::S;
 
     Learning(LmsParameters parameters, const Tarn32f* taps, const Sample* line) : p(parameters)
     {
-        const TarnStatus status = F::make(&state, taps, p.tapsLen, line, 0);
+        const TarnStatus status = F::f.initAlloc(&state, taps, p.tapsLen, line, 0);
         require((status < 0) == (p.tapsLen < 1), "a number of taps makes a state or is refused");
     }
-    ~Learning() override { require(F::free(state) == tarnStsNoErr, "a state is not freed"); }
+    ~Learning() override { require(F::f.free(state) == tarnStsNoErr, "a state is not freed"); }
     bool made() const { return state != nullptr; }
 
     void block(const void* source, void* destination, int units) override
@@ -62,7 +49,7 @@ public:
         GuardedArray<Sample> samples(len, Placement::atEnd());
         GuardedArray<Sample> references(len, Placement::atStart());
         split(source, samples, references);
-        require(F::run(samples.data(), references.data(), static_cast<Sample*>(destination), units, p.mu, state) ==
+        require(F::f.filter(samples.data(), references.data(), static_cast<Sample*>(destination), units, p.mu, state) ==
                     tarnStsNoErr,
                 "a block is refused");
     }
@@ -71,21 +58,21 @@ public:
         std::vector<Tarn32f> taps(static_cast<std::size_t>(p.tapsLen));
         std::vector<Sample> line(static_cast<std::size_t>(p.tapsLen));
         int index = -1;
-        require(F::getTaps(state, taps.data()) == tarnStsNoErr, "taps are not given");
-        require(F::getLine(state, line.data(), &index) == tarnStsNoErr, "a delay line is not given");
+        require(F::f.getTaps(state, taps.data()) == tarnStsNoErr, "taps are not given");
+        require(F::f.getDlyLine(state, line.data(), &index) == tarnStsNoErr, "a delay line is not given");
         require(index >= 0 && index < p.tapsLen, "a delay line has an index beyond it");
         auto& next = static_cast<Learning&>(to);
-        require(F::free(next.state) == tarnStsNoErr, "a state is not freed");
+        require(F::f.free(next.state) == tarnStsNoErr, "a state is not freed");
         next.state = nullptr;
-        require(F::make(&next.state, taps.data(), p.tapsLen, line.data(), index) == tarnStsNoErr, "refused");
+        require(F::f.initAlloc(&next.state, taps.data(), p.tapsLen, line.data(), index) == tarnStsNoErr, "refused");
         return true;
     }
     void look(Bytes&) override
     {
         std::vector<Sample> line(static_cast<std::size_t>(p.tapsLen));
         int index = -1;
-        require(F::getLine(state, line.data(), &index) == tarnStsNoErr, "a delay line is not given");
-        require(F::setLine(state, line.data(), index) == tarnStsNoErr, "a delay line is refused");
+        require(F::f.getDlyLine(state, line.data(), &index) == tarnStsNoErr, "a delay line is not given");
+        require(F::f.setDlyLine(state, line.data(), index) == tarnStsNoErr, "a delay line is refused");
     }
 
 private:
@@ -99,13 +86,13 @@ private:
     }
 
     const LmsParameters p;
-    typename F::State* state = nullptr;
+    typename F::F::State* state = nullptr;
 };
 
 template <class F>
 class LearningFilters : public Family {
 public:
-    using Sample = typename F::Sample;
+    using Sample = typename F::F::S;
 
     LearningFilters(Bytes& bytes, digest::Element element)
         : p{bytes.byte() % 16 == 0 ? bytes.between(-1, 0) : bytes.between(1, bytes.byte() % 4 == 0 ? 200 : 40),
@@ -337,9 +324,9 @@ void driveLms(Bytes& bytes)
 {
     switch (bytes.byte() % 3) {
     case 0:
-        return drive<LearningFilters<Lms_32f>>(bytes, digest::Element{Real::f32, 1});
+        return drive<LearningFilters<LmsOf32f>>(bytes, digest::Element{Real::f32, 1});
     case 1:
-        return drive<LearningFilters<Lms32f_16s>>(bytes, digest::Element{Real::s16, 1});
+        return drive<LearningFilters<LmsOf16s>>(bytes, digest::Element{Real::s16, 1});
     default:
         return drive<StepFilters>(bytes);
     }
