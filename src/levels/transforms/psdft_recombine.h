@@ -26,10 +26,12 @@ inline void recombine(const T* src, T* dst, int M, const T* table)
     const T last = loadElement(src + 1);
     int low = 1;
     int high = M - 1;
-    if constexpr (lanes < T >> fft::blockLanes<T>) {
-        recombineVectors<lanes<T>, Rule>(src, dst, low, high, table);
+    constexpr int widest = lanes<T>;
+    constexpr int narrowest = fft::blockLanes<T>;
+    if constexpr (widest > narrowest) {
+        recombineVectors<widest, Rule>(src, dst, low, high, table);
     }
-    recombineVectors<fft::blockLanes<T>, Rule>(src, dst, low, high, table);
+    recombineVectors<narrowest, Rule>(src, dst, low, high, table);
     const auto slot = [](const T* p) { return Complex<T>{loadElement(p), loadElement(p + 1)}; };
     const auto put = [](T* p, Complex<T> x) {
         store(p, x.re);
