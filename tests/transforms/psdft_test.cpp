@@ -19,9 +19,6 @@ class Dft : public ::testing::Test {
 using Precisions = ::testing::Types<Tarn32f, Tarn64f>;
 TYPED_TEST_SUITE(Dft, Precisions);
 
-template <class T>
-inline constexpr bool isSinglePrecision = std::is_same_v<T, Tarn32f>;
-
 /// Lengths of every method: written out, powers of two, factors (a two first, fours, a leaf of its own), direct sums,
 /// convolutions. Real kinds take half of an even one.
 constexpr int lengthsOfEveryMethod[] = {1,   2,   3,   4,   5,   6,   7,   8,   9,   10,  11,  12,  13,  14,  15,
