@@ -71,7 +71,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_PRIORITY ${same})
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libtarns (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "tarns-doc")
 
-if(TARGET docs)
+# What serves every architecture is packed once, with the 64-bit library.
+if(TARGET docs AND CMAKE_SIZEOF_VOID_P EQUAL 8)
     tarns_package(documentation tarns-doc doc "signal-processing primitives (documentation)"
 "This package contains the reference manual and the guides.")
     set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
