@@ -215,7 +215,7 @@ inline constexpr Word<NarrowSaturated<D>> narrowSaturated;
 
 // 32-bit lanes in the order that MulWidenedInLanes and its like leave, as words in their own.
 struct NarrowSaturatedInLanes {
-    static TARN_INLINE Tarn16s of(Tarn32s x) { return clampTo<Tarn16s>(x); }
+    static TARN_INLINE Tarn16s of(Tarn32s x) { return NarrowSaturated<Tarn16s>::of(x); }
     template <int N>
         requires(isOneRegister<Tarn16s, N>)
     static TARN_INLINE Pack<Tarn16s, N> of(Pack<Tarn32s, N> x)

@@ -84,7 +84,7 @@ inline constexpr Word<MulWidened> mulWidened;
 
 // a times b in twice the width, in lanes.
 struct MulWidenedInLanes {
-    static TARN_INLINE Tarn32s of(Tarn16s a, Tarn16s b) { return Tarn32s{a} * b; }
+    static TARN_INLINE Tarn32s of(Tarn16s a, Tarn16s b) { return MulWidened::of(a, b); }
     template <RegisterOf<Tarn16s> R>
     static TARN_INLINE Like<R, Tarn32s> of(R a, R b)
     {

@@ -128,7 +128,8 @@ TARN_INLINE void filterOutputs(const Part<T>* table, const T* src, T* dst, int t
 }
 
 // Registers of outputs between two walks over the taps: with two of them the four taps of a pass stay in registers. The
-// widest level has 32 registers, and its samples, which all lie across lines of the cache, leave less room for taps.
+// widest level has twice the registers; nearly all of its loads of samples cross lines of the cache and take two slots,
+// so that fewer loads of taps count.
 inline constexpr int outputRegisters = widestRegister == 64 ? 4 : 2;
 
 template <bool more = false, typename T>
