@@ -95,6 +95,7 @@ void expectSpectrumOfImpulses(int order, int bufSize)
 TEST(FftLarge, ColumnsOf64Rows) { expectSpectrumOfImpulses<Tarn32fc>(22, (32 << 6) + 0x80010); }
 TEST(FftLarge, ColumnsOf4096Rows) { expectSpectrumOfImpulses<Tarn32fc>(23, (32 << 12) + 0x80010); }
 TEST(FftLarge, ColumnsOf1024RowsInDoublePrecision) { expectSpectrumOfImpulses<Tarn64fc>(22, (64 << 10) + 0x40010); }
+TEST(FftLarge, RowsOf64ColumnsThatAreCutOnceMore) { expectSpectrumOfImpulses<Tarn64fc>(21, (64 << 6) + 0x40010); }
 TEST(FftLarge, RowsThatAreCutOnceMore)
 {
     if (detail::sweepsAreQuick())

@@ -1,6 +1,7 @@
 // The words that interleave, hold and search elements.
 
 #include "frame/simd.h"
+#include "frame/simd_transpose.h"
 #include "support/compare.h"
 #include "support/hard_values.h"
 
@@ -11,6 +12,34 @@
 
 namespace tarn::test {
 namespace {
+
+// Of one register in each row, two and four: those of the wider levels, too.
+template <typename T, int N>
+void testSquare()
+{
+    T values[N * N];
+    std::iota(std::begin(values), std::end(values), T{1});
+    std::array<Pack<T, N>, N> rows;
+    for (std::size_t i = 0; i < N; ++i)
+        rows[i] = loadPack<N>(values + N * i);
+    const auto columns = transposeSquare<T, N>(rows);
+    for (std::size_t i = 0; i < N; ++i) {
+        T column[N];
+        store(static_cast<T*>(column), columns[i]);
+        for (std::size_t j = 0; j < N; ++j)
+            EXPECT_EQ(values[N * j + i], column[j]) << "column " << i << " row " << j << " of " << N;
+    }
+}
+
+TEST(SimdInterleave, RowsBecomeColumns)
+{
+    testSquare<Tarn32f, 4>();
+    testSquare<Tarn32f, 8>();
+    testSquare<Tarn32f, 16>();
+    testSquare<Tarn64f, 2>();
+    testSquare<Tarn64f, 4>();
+    testSquare<Tarn64f, 8>();
+}
 
 template <std::size_t Channels>
 void testWeave()

@@ -20,6 +20,8 @@ TEST(SimdReciprocal, ElementsAgreeWithVectors)
     expectAgreement<Tarn64f, Tarn64f>(copySign);
     expectAgreement<Tarn32f, Tarn32f>(notLess);
     expectAgreement<Tarn64f, Tarn64f>(notLess);
+    expectAgreement<Tarn32f, Tarn32f>(unordered);
+    expectAgreement<Tarn64f, Tarn64f>(unordered);
     expectAgreement<Tarn32f>([](auto x) {
         const auto estimate = approxReciprocal(x);
         return refineReciprocal(estimate, mul(x, estimate));

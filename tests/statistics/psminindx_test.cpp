@@ -132,18 +132,34 @@ TEST(MinIndx_16s, ImprovesFromBlockToBlock)
     expectSame({10000, 19999}, call(tarnsMaxIndx_16s, rising.data(), 20000));
 }
 
+void expectPathsOfMinIndx(const std::vector<Tarn32f>& values)
+{
+    atOffsets(values, lengths({34, 2048, 4096, 6144}),
+              [](const Tarn32f* p, std::span<const Tarn32f> x, unsigned offset) {
+                  const bool blocks = x.size() >= 34 && offset % 4 == 0;
+                  expectSame(blocks ? byBlock<true>(x, offset) : byElement(x, takesMinimum<Tarn32f>),
+                             call(tarnsMinIndx_32f, p, x.size()));
+                  expectSame(blocks ? byBlock<false>(x, offset) : byElement(x, takesMaximum<Tarn32f>),
+                             call(tarnsMaxIndx_32f, p, x.size()));
+              });
+}
+
 TEST(MinIndx_32f, TakesThePathOfItsLengthAndAddress)
 {
-    for (const auto kind : {Values::unit, Values::hard, Values::mixed}) {
-        const auto values = randomValues<Tarn32f>(20000, 73, kind);
-        atOffsets(values, lengths({34, 2048, 4096, 6144}),
-                  [](const Tarn32f* p, std::span<const Tarn32f> x, unsigned offset) {
-                      const bool blocks = x.size() >= 34 && offset % 4 == 0;
-                      expectSame(blocks ? byBlock<true>(x, offset) : byElement(x, takesMinimum<Tarn32f>),
-                                 call(tarnsMinIndx_32f, p, x.size()));
-                      expectSame(blocks ? byBlock<false>(x, offset) : byElement(x, takesMaximum<Tarn32f>),
-                                 call(tarnsMaxIndx_32f, p, x.size()));
-                  });
+    for (const auto kind : {Values::unit, Values::hard, Values::mixed})
+        expectPathsOfMinIndx(randomValues<Tarn32f>(20000, 73, kind));
+}
+
+// Which of the zeros is found shows the lanes in which they were compared.
+TEST(MinIndx_32f, TellsZerosOfBothSignsApart)
+{
+    for (const Tarn32f other : {-1.0F, 1.0F}) {
+        const Tarn32f choice[] = {0.0F, -0.0F, other, 2 * other};
+        Random random(79);
+        std::vector<Tarn32f> values(20000);
+        for (Tarn32f& value : values)
+            value = choice[random.next() >> 62];
+        expectPathsOfMinIndx(values);
     }
 }
 
