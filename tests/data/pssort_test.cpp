@@ -8,10 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <climits>
 #include <cmath>
-#include <map>
 #include <numeric>
 
 namespace tarn::test {
@@ -20,17 +20,14 @@ namespace {
 template <class T>
 using Sort = TarnStatus (*)(T*, int);
 
-/// How often each bit pattern occurs.
+/// The bit patterns in an order of their own: equal where arrays consist of the same elements.
 template <class T>
-std::map<BitsOf<T>, int> census(const std::vector<T>& values)
+std::vector<BitsOf<T>> census(const std::vector<T>& values)
 {
-    std::map<BitsOf<T>, int> counts;
-    for (const T& x : values) {
-        BitsOf<T> bits;
-        std::memcpy(&bits, &x, sizeof bits);
-        ++counts[bits];
-    }
-    return counts;
+    std::vector<BitsOf<T>> patterns(values.size());
+    std::memcpy(patterns.data(), values.data(), values.size() * sizeof(T));
+    std::sort(patterns.begin(), patterns.end());
+    return patterns;
 }
 
 /// Sorts in guarded memory; the result has to be in order and to consist of the same elements.

@@ -98,7 +98,7 @@ TEST(FftLarge, ColumnsOf1024RowsInDoublePrecision) { expectSpectrumOfImpulses<Ta
 TEST(FftLarge, RowsOf64ColumnsThatAreCutOnceMore) { expectSpectrumOfImpulses<Tarn64fc>(21, (64 << 6) + 0x40010); }
 TEST(FftLarge, RowsThatAreCutOnceMore)
 {
-    if (detail::sweepsAreQuick())
+    if (sweepsAreQuick())
         GTEST_SKIP() << "half a gigabyte, and a shadow for each of its bytes";
     expectSpectrumOfImpulses<Tarn64fc>(25, (64 << 10) + 0x40010);
 }

@@ -134,7 +134,7 @@ TYPED_TEST(Fft, ResultsDoNotDependOnPlacesAndBuffers)
     std::vector<int> orders = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17};
     for (const TransformCase<T>& transform : transformCases<T>())
         for (int order : orders) {
-            if (order > 12 && order < 17 && detail::sweepsAreQuick()) // the core that order 12 has
+            if (order > 12 && order < 17 && sweepsAreQuick()) // the core that order 12 has
                 continue;
             const TransformSpec spec(transform.kind, order, TARN_FFT_DIV_BY_SQRTN);
             const auto src = inputFor(transform, order);

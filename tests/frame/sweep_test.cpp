@@ -138,7 +138,7 @@ TEST(Sweep, QuickOnesTakeEveryPairOfOffsetsInTurn)
 
 TEST(Sweep, EveryDepthNoticesOneWrongValue)
 {
-    if (detail::sweepsAreQuick())
+    if (sweepsAreQuick())
         GTEST_SKIP() << "takes a part of the values";
     const auto wrong = [](const Tarn16s* src, Tarn16s* dst, int len) {
         for (int i = 0; i < len; ++i) {

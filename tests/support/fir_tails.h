@@ -8,7 +8,8 @@
 
 #include <dlfcn.h>
 
-#include <stdexcept>
+#include <cstdio>
+#include <cstdlib>
 
 namespace tarn::test {
 
@@ -82,8 +83,10 @@ template <class Function>
 Function* openMp(const char* name)
 {
     void* const symbol = dlsym(RTLD_DEFAULT, name);
-    if (symbol == nullptr)
-        throw std::runtime_error(name);
+    if (symbol == nullptr) {
+        std::fprintf(stderr, "no %s\n", name);
+        std::abort();
+    }
     return reinterpret_cast<Function*>(symbol);
 }
 inline int maxThreads() { return openMp<int()>("omp_get_max_threads")(); }

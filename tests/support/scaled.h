@@ -56,7 +56,7 @@ template <class T, class Model>
 auto tabulated(const Model& model)
 {
     if constexpr (std::is_integral_v<T> && sizeof(T) == 2) {
-        std::vector<T> results(detail::sweepsAreQuick() ? 0 : detail::everyValue);
+        std::vector<T> results(sweepsAreQuick() ? 0 : detail::everyValue);
         for (std::size_t bits = 0; bits < results.size(); ++bits)
             results[bits] = model(static_cast<T>(bits));
         return [=](T x) { return results.empty() ? model(x) : results[static_cast<std::make_unsigned_t<T>>(x)]; };

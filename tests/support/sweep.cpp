@@ -52,6 +52,13 @@ std::vector<int> scaleFactors(int lo, int hi)
     return list;
 }
 
+// Under sanitizers: what they see beyond the guards depends on the code that runs, and a quick sweep runs all of it.
+bool sweepsAreQuick()
+{
+    static const char* const depth = std::getenv("TARNS_TEST_DEPTH");
+    return depth != nullptr && std::strcmp(depth, "quick") == 0;
+}
+
 namespace detail {
 
 std::size_t shortestColumn(const SweepOptions& options)
@@ -61,13 +68,6 @@ std::size_t shortestColumn(const SweepOptions& options)
     for (int threshold : options.thresholds)
         len = std::max(len, threshold + 2 * beyondThreshold);
     return static_cast<std::size_t>(len);
-}
-
-// Under sanitizers: what they see beyond the guards depends on the code that runs, and a quick sweep runs all of it.
-bool sweepsAreQuick()
-{
-    static const char* const depth = std::getenv("TARNS_TEST_DEPTH");
-    return depth != nullptr && std::strcmp(depth, "quick") == 0;
 }
 
 // Each test begins anew, so that alone it does what it does among others.

@@ -66,6 +66,9 @@ std::vector<int> lengths(const std::vector<int>& thresholds);
 /// Every scale factor from lo - 3 to hi + 3, and those at which a shift count goes wrong.
 std::vector<int> scaleFactors(int lo, int hi);
 
+/// Whether the environment has TARNS_TEST_DEPTH=quick, where every call is slow.
+bool sweepsAreQuick();
+
 namespace detail {
 
 template <class T>
@@ -95,9 +98,6 @@ auto valueOf(R result)
 
 /// The columns have to hold the longest run.
 std::size_t shortestColumn(const SweepOptions& options);
-
-/// Whether the environment has TARNS_TEST_DEPTH=quick, where every call is slow.
-bool sweepsAreQuick();
 
 /// Counts the sweeps of a test.
 std::size_t nextTurn();
