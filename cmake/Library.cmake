@@ -55,7 +55,7 @@ function(tarns_add_library target sanitizers)
             target_compile_options(${target} PRIVATE -fno-sanitize=vptr) # needs run-time type information
         endif()
     else()
-        target_compile_options(${target} PRIVATE -O3)
+        target_compile_options(${target} PRIVATE ${TARNS_OPTIMIZATION})
         target_link_options(${target} PRIVATE -Wl,-z,defs) # a sanitizer's functions would be the program's
     endif()
     target_precompile_headers(${target} PRIVATE <frame/precompiled.h>)
